@@ -1,0 +1,28 @@
+// What ends the process: the run-time errors of the system, and a reader that never returns.
+#pragma once
+
+#include "capture/text.h"
+
+#include <cstdint>
+
+namespace plotvue {
+
+// A run-time error: division by zero, a subscript outside its table, a substring before position 1 or of
+// negative length, a value outside its type, a file that fails. Thrown where it happens, caught around the
+// event that led to it, shown as the platform's error report.
+struct Failure {
+    Text sentence; // one sentence for the person at the screen, with its full stop
+};
+
+// The line reader has run out of text: it goes on dropping characters that are not there, without end.
+struct EndlessRead {};
+
+// `value` as a whole number of 16 or 32 bits, a half rounded to the even neighbour.
+// Throws Failure when it does not fit; `what` names it in the sentence: "The rank".
+std::int16_t toInt16(double value, TextView what);
+std::int32_t toInt32(double value, TextView what);
+
+// `value` itself. Throws Failure when it is infinite or no number.
+double finite(double value);
+
+} // namespace plotvue

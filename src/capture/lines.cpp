@@ -1,0 +1,59 @@
+#include "capture/lines.h"
+
+#include "capture/failure.h"
+
+namespace plotvue {
+
+namespace {
+
+constexpr std::size_t longestUnendedLine = 81;
+constexpr TextView dashes = u"-----";
+constexpr Position lastDashPosition = 29;
+
+} // namespace
+
+TextView cutLine(TextView& rest)
+{
+    const std::size_t at = rest.find(carriageReturn);
+    const TextView line = rest.substr(0, at == TextView::npos ? longestUnendedLine : at + 1);
+    rest.remove_prefix(line.size());
+    return line;
+}
+
+void dropControls(TextView& rest)
+{
+    std::size_t controls = 0;
+    while (controls < rest.size() && rest[controls] <= carriageReturn)
+        ++controls;
+    rest.remove_prefix(controls);
+}
+
+ScreenLines::ScreenLines(TextView capture)
+{
+    TextView rest = capture;
+    while (count_ < read && !ranOut_) {
+        lines_[static_cast<std::size_t>(++count_)] = cutLine(rest);
+        const TextView within =
+            rest.substr(0, static_cast<std::size_t>(lastDashPosition) - 1 + dashes.size());
+        if (holds(within, dashes))
+            dashLine_ = count_ + 1;
+        dropControls(rest);
+        ranOut_ = rest.empty();
+    }
+}
+
+TextView ScreenLines::operator[](Position number) const
+{
+    if (number < 1 || number > capacity)
+        throw Failure{
+            u"The column headings stand so low on the screen that the months under them are missing."};
+    return lines_[static_cast<std::size_t>(number)];
+}
+
+void ScreenLines::requireAll() const
+{
+    if (ranOut_)
+        throw EndlessRead{};
+}
+
+} // namespace plotvue

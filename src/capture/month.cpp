@@ -1,0 +1,29 @@
+#include "capture/month.h"
+
+#include "capture/failure.h"
+#include "capture/number.h"
+
+namespace plotvue {
+
+namespace {
+
+constexpr TextView monthTable = u"JAN31FEB28MAR31APR30MAY31JUN30JUL31AUG31SEP30OCT31NOV30DEC31";
+
+} // namespace
+
+int daysOfMonth(TextView name)
+{
+    // A name that is not found leads to the characters "N3" behind position 0, which read as no number.
+    return static_cast<int>(leadingNumber(mid(monthTable, find(monthTable, name) + 3, 2)));
+}
+
+double elapsedPart(int days, double day)
+{
+    if (days == 0)
+        throw Failure{u"The newest month on the screen has no month name, so the rest of the month cannot be "
+                      u"projected."};
+    const double part = 1 - (days - day) / days;
+    return part == 0 ? 1 : part;
+}
+
+} // namespace plotvue
