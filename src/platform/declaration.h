@@ -1,0 +1,114 @@
+// A window as data: its controls, captions and arrangement, one nested value that any platform builds.
+// Names and captions must outlive the window (literals do).
+#pragma once
+
+#include "platform/chart/content.h"
+
+#include <map>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace plotvue {
+
+using Name = std::string_view;
+
+struct Button {
+    Name name;
+    TextView caption;      // "&" marks the mnemonic
+    TextView shortcut{};   // "F5"; several apart by ", "
+    TextView spokenName{}; // where the caption does not say it; also the tooltip
+    enum class Picture { None, Arrow } picture = Picture::None;
+};
+
+struct Label {
+    Name name;
+    TextView text{};
+    double points = 0; // 0: the desktop's own size
+    bool bold = false, italic = false;
+};
+
+struct TextBox { // shows text, takes none
+    Name name;
+    TextView spokenName;
+};
+
+struct ListBox { // for display only
+    Name name;
+    TextView spokenName;
+    std::vector<TextView> items;
+    bool bold = false;
+};
+
+struct Option {
+    int index;
+    TextView caption;
+};
+
+// One frame of an option group. Frames of the same group name are one control with one chosen option a frame.
+struct OptionFrame {
+    Name name;
+    TextView caption;    // empty: an untitled frame
+    TextView spokenName; // where the caption does not say it
+    Name group;
+    std::vector<Option> options; // from the top
+    int chosen;                  // index chosen when the window opens
+};
+
+struct ChartBox {
+    Name name;
+    ChartDesign design{};
+    std::map<int, TextView> titles{}; // by position, until SetTitle gives another
+};
+
+struct GridBox {
+    Name name;
+    TextView spokenName;
+    TextView format; // headings apart by "|", "<" in front of left-aligned ones; blanks pad the widths
+    std::vector<int> figures{}; // columns whose cells are figures, right-aligned
+};
+
+struct PictureBox { // says gain or loss beside a grid
+    Name name;
+    TextView spokenName;
+    enum class Shows { Gain, Loss } shows;
+};
+
+struct Item;
+
+struct Box {
+    enum class Direction { Row, Column } direction;
+    std::vector<Item> items;
+};
+
+struct Space {}; // takes what is left over
+
+struct Item {
+    std::variant<Button, Label, TextBox, ListBox, OptionFrame, ChartBox, GridBox, PictureBox, Box, Space>
+        what;
+    int stretch = 0; // share of the room left over; 0: its own size only
+};
+
+struct Declaration {
+    Name name; // "frmProduct"
+    TextView caption;
+    Box content;
+    int width = 900, height = 560; // of the client area when it first opens, in device-independent pixels
+};
+
+Item row(std::vector<Item> items, int stretch = 0);
+Item column(std::vector<Item> items, int stretch = 0);
+
+// Calls `visit` with every control in the declaration, in the order in which they stand.
+template <typename Visitor>
+void forEachControl(const Box& box, Visitor&& visit)
+{
+    for (const Item& item : box.items) {
+        if (const Box* inner = std::get_if<Box>(&item.what))
+            forEachControl(*inner, visit);
+        else
+            std::visit(visit, item.what);
+    }
+}
+
+} // namespace plotvue

@@ -1,0 +1,51 @@
+// A window of the system: loaded when it is first shown, hidden when it is left, unloaded if it must be.
+#pragma once
+
+#include "platform/platform.h"
+
+namespace plotvue {
+
+class Form {
+public:
+    explicit Form(Platform& platform) : platform_(platform) {}
+    Form(const Form&) = delete;
+    virtual ~Form() = default;
+
+    virtual Name name() const = 0;
+
+    // Shows the window; a window that is not loaded is loaded first. A window that hides itself while it
+    // loads stays hidden.
+    void Show();
+    void Hide();
+    void Unload();
+
+    bool loaded() const { return view_ != nullptr; }
+    bool visible() const { return view_ && view_->visible(); }
+
+    // Throws std::out_of_range while the window is not loaded.
+    View& view() const;
+
+protected:
+    virtual Declaration declare() const = 0;
+    virtual Handlers handlers() = 0;
+    virtual void Form_Load() = 0;
+    virtual void wayOut() = 0; // what the title bar's close does
+
+    // Whether a window that was hidden is loaded again when it is next shown.
+    virtual bool loadsAnew() const { return false; }
+
+    // Asks for a printer and prints the window once a copy. Every failure, cancelling included, ends it
+    // without a word.
+    void printWindow();
+
+    Platform& platform() const { return platform_; }
+
+private:
+    void load();
+
+    Platform& platform_;
+    std::unique_ptr<View> view_;
+    bool hiddenWhileLoading_ = false;
+};
+
+} // namespace plotvue

@@ -1,0 +1,45 @@
+#include "platform/platform.h"
+
+#include <new>
+
+namespace plotvue {
+
+void Platform::message(TextView title, TextView text)
+{
+    listener({.kind = Event::Kind::Message, .title = title, .text = text});
+    showMessage(title, text);
+}
+
+void Platform::print(View& view, Name window)
+{
+    printView(view);
+    listener({.kind = Event::Kind::Print, .window = window});
+}
+
+void Platform::run(const std::function<void()>& handler)
+{
+    try {
+        handler();
+    } catch (const EndOfProcess&) {
+        listener({.kind = Event::Kind::End});
+        finish();
+    } catch (const EndlessRead&) {
+        listener({.kind = Event::Kind::Spin});
+        spin();
+    } catch (const Failure& failure) {
+        fail(failure.sentence);
+    } catch (const std::bad_alloc&) {
+        fail(u"There is not enough memory to go on.");
+    } catch (const std::exception& mistake) {
+        const std::string_view what = mistake.what();
+        fail(u"PlotVue made a mistake of its own: " + Text(what.begin(), what.end()) + u".");
+    }
+}
+
+void Platform::fail(TextView sentence)
+{
+    listener({.kind = Event::Kind::Error, .text = sentence});
+    reportError(sentence);
+}
+
+} // namespace plotvue

@@ -1,0 +1,63 @@
+// What the system needs of a desktop. The verbs are few; a platform is either the real desktop or the
+// recording one of the tests.
+#pragma once
+
+#include "capture/failure.h"
+#include "platform/view.h"
+
+#include <functional>
+#include <memory>
+
+namespace plotvue {
+
+// What a platform tells whoever listens, in the order in which it happens.
+struct Event {
+    enum class Kind { Load, Show, Hide, Unload, Message, Print, Spin, Error, End } kind;
+    Name window{};    // of Load, Show, Hide, Unload, Print
+    TextView title{}; // of Message; empty where the box has none
+    TextView text{};  // of Message and Error
+};
+
+// Thrown by end(): nothing of the handler that ended the process runs any more.
+struct EndOfProcess {};
+
+class Platform {
+public:
+    virtual ~Platform() = default;
+
+    std::function<void(const Event&)> listener = [](const Event&) {};
+
+    // The clipboard's text; empty when it holds none.
+    virtual Text clipboardText() = 0;
+
+    virtual std::unique_ptr<View> build(const Declaration& declaration, const Handlers& handlers,
+                                        std::function<void()> close) = 0;
+
+    // Shows a box with an OK button and waits for it.
+    void message(TextView title, TextView text);
+
+    // Shows the printer dialog, makes the choice the default printer and returns the number of copies.
+    // Throws Failure when the dialog is cancelled or fails.
+    virtual double choosePrinter(View& view) = 0;
+
+    // Prints the window's client area as one job. Throws Failure when that fails.
+    void print(View& view, Name window);
+
+    [[noreturn]] void end() { throw EndOfProcess{}; }
+
+    // Runs an event's handler. Whatever it throws ends the process the way the platform does it: an end, a
+    // run-time error with the error report, a reader that never returns.
+    void run(const std::function<void()>& handler);
+
+protected:
+    virtual void showMessage(TextView title, TextView text) = 0;
+    virtual void printView(View& view) = 0;
+    virtual void reportError(TextView sentence) = 0; // then the process ends with status 1
+    virtual void spin() = 0;                         // waits for ever
+    virtual void finish() = 0;                       // the process ends with status 0
+
+private:
+    void fail(TextView sentence);
+};
+
+} // namespace plotvue
