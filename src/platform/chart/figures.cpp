@@ -1,0 +1,180 @@
+#include "platform/chart/figures.h"
+
+#include "platform/chart/drawable.h"
+#include "platform/chart/figure_text.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace plotvue::chart {
+
+namespace {
+
+// Told apart by colour-blind eyes too, the largest differences first.
+constexpr std::array<Colour, 8> palette{{{0x24, 0x58, 0xB0},
+                                         {0xDB, 0x9A, 0x35},
+                                         {0x1A, 0x9C, 0x8F},
+                                         {0x9C, 0x34, 0x12},
+                                         {0x5C, 0xC0, 0xEE},
+                                         {0x7A, 0x4A, 0x70},
+                                         {0xB3, 0xC4, 0x8C},
+                                         {0x50, 0x5A, 0x52}}};
+constexpr double largestValue = 1e300;
+constexpr int decimalsUnasked = 2;
+
+double counted(double value)
+{
+    return std::isnan(value) ? 0 : std::clamp(value, -largestValue, largestValue);
+}
+
+} // namespace
+
+Figures::Figures(const ChartContent& content, const ChartDesign& design) : content_(content), design_(design)
+{
+    findSeries();
+    findSlots();
+    stacked_ = components_ || design_.bars == ChartDesign::Bars::Stacked;
+    decimals_ = content_.decimals ? *content_.decimals : decimalsOfValues();
+}
+
+bool Figures::nothingIn(const std::vector<double>& values) const
+{
+    return std::all_of(values.begin(), values.end(), [](double v) { return counted(v) == 0; });
+}
+
+TextView Figures::nameOf(int number, bool alone) const
+{
+    if (const auto own = content_.legends.find(number); own != content_.legends.end())
+        return own->second;
+    if (const auto designed = design_.legends.find(number); designed != design_.legends.end() && !alone)
+        return designed->second;
+    if (const auto caption = content_.titles.find(1); caption != content_.titles.end())
+        return caption->second;
+    return {};
+}
+
+void Figures::findSeries()
+{
+    std::size_t colours = 0;
+    for (std::size_t i = 0; i < content_.series.size(); ++i) {
+        const int number = static_cast<int>(i);
+        const bool projection = number == design_.projection;
+        // Counted before anything is left out: hiding a series changes no other one's colour.
+        const std::size_t colour = projection && colours > 0 ? colours - 1 : colours++;
+        if (content_.hidden.contains(number) || (projection && nothingIn(content_.series[i])))
+            continue;
+        Series found{i, nameOf(number, false), palette[colour % palette.size()], false, projection};
+        auto own = content_.colours.find(number);
+        if (own == content_.colours.end() && projection)
+            own = content_.colours.find(number - 1);
+        if (own != content_.colours.end()) {
+            found.colour = own->second;
+            found.ownColour = true;
+        }
+        series_.push_back(found);
+    }
+    if (series_.size() == 1)
+        series_.front().name = nameOf(static_cast<int>(series_.front().number), true);
+    const bool anyNamed =
+        std::any_of(series_.begin(), series_.end(), [](const Series& s) { return !isBlank(s.name); });
+    if (anyNamed)
+        std::erase_if(series_, [this](const Series& s) {
+            return isBlank(s.name) && nothingIn(content_.series[s.number]);
+        });
+}
+
+void Figures::findSlots()
+{
+    std::size_t longest = content_.labels.size();
+    for (const Series& s : series_)
+        longest = std::max(longest, content_.series[s.number].size());
+    components_ = content_.labels.empty() && longest == 1 && series_.size() > 1;
+    slotCount_ = static_cast<int>(components_ ? series_.size() : longest);
+    pointCount_ = slotCount_;
+    if (components_ || slotCount_ < 2 || !isBlank(label(slotCount_ - 1)))
+        return;
+    bool empty = true;
+    for (std::size_t s = 0; s < series_.size(); ++s)
+        empty = empty && value(s, slotCount_ - 1).value_or(0) == 0;
+    if (empty && !content_.labels.empty())
+        --pointCount_;
+}
+
+bool Figures::legendTellsSomething() const
+{
+    if (components_)
+        return false;
+    const auto named =
+        std::count_if(series_.begin(), series_.end(), [](const Series& s) { return !isBlank(s.name); });
+    return named >= 2 || (named > 0 && std::any_of(series_.begin(), series_.end(),
+                                                   [](const Series& s) { return s.projection; }));
+}
+
+TextView Figures::label(int slot) const
+{
+    const std::size_t i = static_cast<std::size_t>(slot);
+    if (slot < 0 || slot >= slotCount_)
+        return {};
+    if (components_)
+        return series_[i].name;
+    return i < content_.labels.size() ? TextView(content_.labels[i]) : TextView();
+}
+
+std::optional<double> Figures::value(std::size_t series, int slot) const
+{
+    const std::vector<double>& values = content_.series[series_[series].number];
+    if (components_ && static_cast<std::size_t>(slot) != series)
+        return {};
+    const std::size_t i = components_ ? 0 : static_cast<std::size_t>(slot);
+    if (slot < 0 || i >= values.size())
+        return {};
+    return counted(values[i]);
+}
+
+int Figures::decimalsOfValues() const
+{
+    int decimals = 0;
+    for (const Series& s : series_)
+        for (const double v : content_.series[s.number])
+            decimals = std::max(decimals, decimalsNeeded(counted(v), decimalsUnasked));
+    return decimals;
+}
+
+Text Figures::number(double value) const
+{
+    return figureText(value, decimals_);
+}
+
+Text Figures::sentence(int slot) const
+{
+    if (slot < 0 || slot >= pointCount_)
+        return {};
+    Text text = drawable(label(slot)), separator = text.empty() ? Text() : Text(u": ");
+    for (std::size_t s = 0; s < series_.size(); ++s) {
+        const std::optional<double> figure = value(s, slot);
+        // Only the unfinished month has a projection.
+        if (!figure || (series_[s].projection && *figure == 0))
+            continue;
+        text += separator;
+        if (const Text name = components_ ? Text() : drawable(series_[s].name); !name.empty())
+            text += name + u' ';
+        text += number(*figure);
+        separator = u", ";
+    }
+    return text;
+}
+
+Text titlesInOneLine(const ChartContent& content)
+{
+    Text line;
+    for (int position = 1; position <= 3; ++position) {
+        const auto title = content.titles.find(position);
+        const Text text = title == content.titles.end() ? Text() : drawable(title->second);
+        if (!text.empty())
+            line += (line.empty() ? u"" : u", ") + text;
+    }
+    return line;
+}
+
+} // namespace plotvue::chart

@@ -1,0 +1,98 @@
+// Where everything of a chart stands. Units are those of the paper; y grows downwards.
+#pragma once
+
+#include "platform/chart/scale.h"
+
+namespace plotvue::chart {
+
+enum class TextRole { Small, Body, Large };
+
+// How much room text takes in the fonts it is going to be drawn with.
+class Metrics {
+public:
+    virtual ~Metrics() = default;
+    virtual double width(TextView text, TextRole role) const = 0;
+    virtual double height(TextRole role) const = 0; // of a line
+};
+
+struct Size {
+    double width = 0, height = 0;
+};
+
+struct Box {
+    double left = 0, top = 0, width = 0, height = 0;
+    double right() const { return left + width; }
+    double bottom() const { return top + height; }
+    double centreX() const { return left + width / 2; }
+    double centreY() const { return top + height / 2; }
+    bool operator==(const Box&) const = default;
+};
+
+struct Line { // of text, drawn from the left of its box
+    Box box;
+    Text text;
+};
+
+struct Title : Line {
+    TextRole role = TextRole::Small;
+    bool main = false;
+};
+struct LegendEntry {
+    std::size_t series = 0; // of Figures
+    Box swatch;
+    Line name;
+};
+struct Tick {
+    double y = 0;
+    Line figure;
+};
+// Of a slanted label the box is where it would lie unturned; it is turned by -45 degrees about its right end.
+struct SlotLabel {
+    int slot = 0;
+    Line name;
+    bool strong = true; // false: one of the months between the Januaries
+};
+struct Bar {
+    std::size_t series = 0; // of Figures
+    int slot = 0;
+    Box box;
+    bool up = true;
+    bool end = true; // false: another part of the stack stands on it
+};
+struct SlotValue {
+    int slot = 0;
+    Line figure;
+};
+
+struct Layout {
+    Size paper;
+    double pixel = 0;    // a device pixel, to which all edges are snapped; 0: not snapped
+    double hairline = 1; // thickness of all lines
+    double em = 0;       // height of a small line
+
+    std::vector<Title> titles; // only those with text
+    std::vector<LegendEntry> legend;
+
+    int slotCount = 0, pointCount = 0; // 0: nothing below is there
+    Box plot;
+    Scale scale;
+    double slotWidth = 0;
+    std::vector<Tick> ticks;
+    std::optional<double> zero; // y of the zero line; absent when the axis leaves zero out
+    std::vector<SlotLabel> labels;
+    bool slanted = false;          // the labels
+    std::vector<double> yearRules; // x, between December and January
+    std::vector<Bar> bars;         // only of figures other than zero
+    std::vector<SlotValue> values; // above or below the bars; empty unless all of them fit
+
+    Box slotBox(int slot) const;
+    int slotAt(double x, double y) const; // the point whose slot, label included, is there; -1: none
+    double y(double value) const;         // what lies off the axis stands at its end
+    double snapped(double length) const;
+};
+
+// `deviceScale`: device pixels a unit; 0 for paper, on which nothing is snapped.
+Layout layoutChart(const ChartContent& content, const ChartDesign& design, Size paper, const Metrics& metrics,
+                   double deviceScale);
+
+} // namespace plotvue::chart

@@ -1,0 +1,126 @@
+#include "platform/chart/layout_steps.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace plotvue::chart {
+
+namespace {
+
+constexpr double widestBar = 6, widestLoneBar = 9; // in em
+constexpr int fewSlots = 3;
+constexpr double leastGap = 4; // between two figures
+
+struct BarRow { // the bars of a slot, from left to right
+    double each = 0, gap = 0, all = 0;
+
+    double left(const Layout& layout, int slot, std::size_t place) const
+    {
+        return layout.snapped(layout.slotBox(slot).centreX() - all / 2) + static_cast<double>(place) * each;
+    }
+};
+
+BarRow barRow(const LayoutInput& input, const Layout& layout)
+{
+    const bool grouped = !input.figures.stacked();
+    const double most = layout.em * (grouped || layout.slotCount <= fewSlots ? widestLoneBar : widestBar);
+    const double count =
+        grouped ? static_cast<double>(std::max<std::size_t>(1, input.figures.series().size())) : 1;
+    BarRow row;
+    row.each = std::min(layout.slotWidth * (grouped ? .82 : .70), most) / count;
+    if (layout.pixel > 0)
+        row.each = std::max(1.0, std::floor(row.each / layout.pixel)) * layout.pixel;
+    row.gap = grouped && row.each > 7 ? layout.hairline : 0;
+    row.all = row.each * count;
+    return row;
+}
+
+struct Total { // what is written above or below a bar or stack
+    int slot;
+    std::size_t place;
+    double value;
+    bool up;
+};
+
+void addStackTotals(const Figures& figures, int slot, std::vector<Total>& totals)
+{
+    double up = 0, down = 0;
+    bool any = false;
+    for (std::size_t s = 0; s < figures.series().size(); ++s) {
+        const std::optional<double> value = figures.value(s, slot);
+        any = any || value;
+        (value.value_or(0) < 0 ? down : up) += value.value_or(0);
+    }
+    if (any && (up > 0 || down == 0))
+        totals.push_back({slot, 0, up, true});
+    if (down < 0)
+        totals.push_back({slot, 0, down, false});
+}
+
+std::vector<Total> totalsOf(const Figures& figures)
+{
+    std::vector<Total> totals;
+    for (int slot = 0; slot < figures.pointCount(); ++slot)
+        if (figures.stacked())
+            addStackTotals(figures, slot, totals);
+        else
+            for (std::size_t s = 0; s < figures.series().size(); ++s)
+                if (const std::optional<double> value = figures.value(s, slot))
+                    totals.push_back({slot, s, *value, *value >= 0});
+    return totals;
+}
+
+void placeSlot(const LayoutInput& input, Layout& layout, const BarRow& row, int slot)
+{
+    const bool stacked = input.figures.stacked();
+    double reach[2] = {0, 0}; // down, up
+    Bar* last[2] = {nullptr, nullptr};
+    layout.bars.reserve(layout.bars.size() + input.figures.series().size());
+    for (std::size_t s = 0; s < input.figures.series().size(); ++s) {
+        const double value = input.figures.value(s, slot).value_or(0);
+        if (value == 0)
+            continue;
+        const bool up = value > 0;
+        const double from = stacked ? reach[up] : 0, to = from + value;
+        reach[up] = to;
+        if (stacked && last[up])
+            last[up]->end = false;
+        const double a = layout.snapped(layout.y(from)), b = layout.snapped(layout.y(to));
+        const double left = row.left(layout, slot, stacked ? 0 : s);
+        layout.bars.push_back(
+            {s, slot, {left, std::min(a, b), row.each - row.gap, std::abs(a - b)}, up, true});
+        last[up] = &layout.bars.back();
+    }
+}
+
+void placeValues(const LayoutInput& input, Layout& layout, const BarRow& row)
+{
+    for (const Total& total : totalsOf(input.figures)) {
+        Text text = input.figures.number(total.value);
+        const double width = input.width(text), end = layout.snapped(layout.y(total.value));
+        const double centre = row.left(layout, total.slot, total.place) + (row.each - row.gap) / 2;
+        const double top = total.up ? end - layout.em * 1.125 : end + layout.em * .125;
+        layout.values.push_back({total.slot, {{centre - width / 2, top, width, layout.em}, std::move(text)}});
+    }
+}
+
+} // namespace
+
+bool valuesFit(const LayoutInput& input, const Layout& layout)
+{
+    const double room = (input.figures.stacked() ? layout.slotWidth : barRow(input, layout).each) - leastGap;
+    const std::vector<Total> totals = totalsOf(input.figures);
+    return std::all_of(totals.begin(), totals.end(),
+                       [&](const Total& t) { return input.width(input.figures.number(t.value)) <= room; });
+}
+
+void placeBars(const LayoutInput& input, Layout& layout)
+{
+    const BarRow row = barRow(input, layout);
+    for (int slot = 0; slot < layout.pointCount; ++slot)
+        placeSlot(input, layout, row, slot);
+    if (valuesFit(input, layout))
+        placeValues(input, layout, row);
+}
+
+} // namespace plotvue::chart

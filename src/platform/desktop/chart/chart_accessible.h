@@ -1,0 +1,13 @@
+// What assistive technology is told of a chart: its titles as name, and one child a point that reads it out.
+#pragma once
+
+namespace plotvue {
+
+class ChartWidget;
+
+// Once for all charts; costs nothing until someone listens.
+void offerChartsToAssistiveTechnology();
+void announceContent(ChartWidget& chart);
+void announceCurrentPoint(ChartWidget& chart);
+
+} // namespace plotvue

@@ -1,0 +1,83 @@
+#include "platform/desktop/chart/chart_colours.h"
+
+#include <cmath>
+
+namespace plotvue {
+
+namespace {
+
+constexpr double enoughContrast = 3;
+constexpr float calmSaturation = .74F, calmBrightness = .78F;
+
+double linear(double channel)
+{
+    return channel <= .04045 ? channel / 12.92 : std::pow((channel + .055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& colour)
+{
+    return .2126 * linear(colour.redF()) + .7152 * linear(colour.greenF()) + .0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const double a = luminance(one), b = luminance(other);
+    return (qMax(a, b) + .05) / (qMin(a, b) + .05);
+}
+
+QColor readable(QColor colour, const QColor& paper, const QColor& ink)
+{
+    for (int i = 0; i < 12 && contrast(colour, paper) < enoughContrast; ++i)
+        colour = mixed(colour, ink, .08);
+    return colour;
+}
+
+// Pure red and green are signal lamps, no printing inks.
+QColor calmed(const QColor& colour)
+{
+    float hue = 0, saturation = 0, value = 0;
+    colour.getHsvF(&hue, &saturation, &value);
+    return QColor::fromHsvF(qMax(0.F, hue), qMin(saturation, calmSaturation), qMin(value, calmBrightness));
+}
+
+} // namespace
+
+QColor mixed(const QColor& from, const QColor& to, double share)
+{
+    const auto mix = [share](float a, float b) { return a + (b - a) * static_cast<float>(share); };
+    return QColor::fromRgbF(mix(from.redF(), to.redF()), mix(from.greenF(), to.greenF()),
+                            mix(from.blueF(), to.blueF()));
+}
+
+ChartInks::ChartInks(const QPalette& palette)
+    : paper(palette.color(QPalette::Base)),
+      ink(palette.color(QPalette::Text)),
+      soft(mixed(ink, paper, .35)),
+      grid(mixed(ink, paper, .87)),
+      axis(mixed(ink, paper, .4)),
+      band(mixed(ink, paper, .93))
+{}
+
+BarColours barColours(const chart::Figures::Series& series, const ChartInks& inks)
+{
+    const QColor asked(series.colour.red, series.colour.green, series.colour.blue);
+    if (series.ownColour)
+        return {readable(calmed(asked), inks.paper, inks.ink), {}};
+    if (contrast(asked, inks.paper) >= enoughContrast)
+        return {asked, {}};
+    // On dark paper the deep colours are lightened; on light paper the light ones keep their hue and get an
+    // edge.
+    if (luminance(inks.paper) < luminance(inks.ink))
+        return {readable(asked, inks.paper, inks.ink), {}};
+    return {asked, mixed(asked, inks.ink, .25)};
+}
+
+QPalette whitePaper()
+{
+    QPalette palette;
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    return palette;
+}
+
+} // namespace plotvue

@@ -1,0 +1,30 @@
+// The fonts of a chart: three sizes of the window's own, and how much room text takes in them.
+#pragma once
+
+#include "platform/chart/layout.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QString>
+
+#include <array>
+
+namespace plotvue {
+
+QString toQString(TextView text);
+
+class ChartFonts : public chart::Metrics {
+public:
+    // Sizes that come out on `device` as `base` does at `baseDpi`.
+    ChartFonts(const QFont& base, int baseDpi, const QPaintDevice& device);
+
+    const QFont& font(chart::TextRole role) const { return fonts_[static_cast<std::size_t>(role)]; }
+    double width(TextView text, chart::TextRole role) const override;
+    double height(chart::TextRole role) const override;
+
+private:
+    std::array<QFont, 3> fonts_; // by role
+    std::array<QFontMetricsF, 3> metrics_;
+};
+
+} // namespace plotvue

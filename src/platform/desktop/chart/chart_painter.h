@@ -1,0 +1,25 @@
+// Draws a chart that has been laid out.
+#pragma once
+
+#include "platform/chart/layout.h"
+#include "platform/desktop/chart/chart_fonts.h"
+
+#include <QPalette>
+#include <QRectF>
+
+class QPainter;
+
+namespace plotvue {
+
+QRectF toQRectF(const chart::Box& box);
+
+// `layout` is that of `content` and `design`; `current` the point that is marked, -1: none. Covers the whole
+// paper.
+void paintChart(QPainter& painter, const ChartContent& content, const ChartDesign& design,
+                const chart::Layout& layout, const QPalette& palette, const ChartFonts& fonts, int current);
+
+// The card that reads a point out, beside its slot.
+void paintReadout(QPainter& painter, const ChartContent& content, const ChartDesign& design,
+                  const chart::Layout& layout, const QPalette& palette, const ChartFonts& fonts, int current);
+
+} // namespace plotvue

@@ -1,0 +1,173 @@
+#include "platform/desktop/chart/chart_widget.h"
+
+#include "platform/desktop/chart/chart_accessible.h"
+#include "platform/desktop/chart/chart_colours.h"
+#include "platform/desktop/chart/chart_painter.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace plotvue {
+
+ChartWidget::ChartWidget(QWidget* parent) : QWidget(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    offerChartsToAssistiveTechnology();
+}
+
+void ChartWidget::setContent(const ChartContent& content, const ChartDesign& design)
+{
+    content_ = content;
+    design_ = design;
+    layout_.reset();
+    if (current_ >= points())
+        current_ = -1;
+    update();
+    announceContent(*this);
+}
+
+const ChartFonts& ChartWidget::fonts() const
+{
+    if (!fonts_)
+        fonts_.emplace(font(), logicalDpiY(), *this);
+    return *fonts_;
+}
+
+const chart::Layout& ChartWidget::chartLayout() const
+{
+    if (!layout_ || layoutSize_ != size() || layoutScale_ != devicePixelRatioF()) {
+        layoutSize_ = size();
+        layoutScale_ = devicePixelRatioF();
+        layout_ =
+            chart::layoutChart(content_, design_, {double(width()), double(height())}, fonts(), layoutScale_);
+    }
+    return *layout_;
+}
+
+int ChartWidget::points() const
+{
+    return chart::Figures(content_, design_).pointCount();
+}
+
+void ChartWidget::setCurrentPoint(int point)
+{
+    const int wanted = point >= 0 && point < points() ? point : -1;
+    if (wanted == current_)
+        return;
+    current_ = wanted;
+    update();
+    announceCurrentPoint(*this);
+}
+
+int ChartWidget::pointAt(QPoint position) const
+{
+    return rect().contains(position) ? chartLayout().slotAt(position.x(), position.y()) : -1;
+}
+
+QRect ChartWidget::pointRect(int point) const
+{
+    return toQRectF(chartLayout().slotBox(point)).toAlignedRect();
+}
+
+void ChartWidget::paint(QPainter& painter) const
+{
+    const ChartFonts paperFonts(font(), logicalDpiY(), *painter.device());
+    const chart::Layout layout =
+        chart::layoutChart(content_, design_, {double(width()), double(height())}, paperFonts, 0);
+    painter.save();
+    paintChart(painter, content_, design_, layout, whitePaper(), paperFonts, -1);
+    painter.restore();
+}
+
+void ChartWidget::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    paintChart(painter, content_, design_, chartLayout(), palette(), fonts(), current_);
+    if (current_ >= 0)
+        paintReadout(painter, content_, design_, chartLayout(), palette(), fonts(), current_);
+    if (hasFocus()) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5), 3, 3);
+    }
+}
+
+void ChartWidget::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange) {
+        fonts_.reset();
+        layout_.reset();
+    }
+    QWidget::changeEvent(event);
+    update();
+}
+
+void ChartWidget::mouseMoveEvent(QMouseEvent* event)
+{
+    hovering_ = true;
+    setCurrentPoint(pointAt(event->position().toPoint()));
+}
+
+void ChartWidget::leaveEvent(QEvent*)
+{
+    // A point chosen by key stays when the pointer, at rest since, is taken away.
+    if (hovering_)
+        setCurrentPoint(-1);
+    hovering_ = false;
+}
+
+// Absent for a key that is none of the chart's.
+std::optional<int> ChartWidget::pointForKey(const QKeyEvent& event) const
+{
+    const int last = points() - 1;
+    if (last < 0 || (event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier)
+        return {};
+    switch (event.key()) {
+    case Qt::Key_Right:
+        return current_ < 0 ? 0 : qMin(current_ + 1, last);
+    case Qt::Key_Left:
+        return current_ < 0 ? last : qMax(current_ - 1, 0);
+    case Qt::Key_Home:
+        return 0;
+    case Qt::Key_End:
+        return last;
+    case Qt::Key_Escape:
+        return current_ < 0 ? std::nullopt : std::optional(-1);
+    default:
+        return {};
+    }
+}
+
+void ChartWidget::keyPressEvent(QKeyEvent* event)
+{
+    const std::optional<int> point = pointForKey(*event);
+    if (!point)
+        return QWidget::keyPressEvent(event);
+    hovering_ = false;
+    setCurrentPoint(*point);
+    event->accept();
+}
+
+void ChartWidget::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void ChartWidget::focusOutEvent(QFocusEvent* event)
+{
+    QWidget::focusOutEvent(event);
+    const bool within =
+        event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason;
+    if (within && !hovering_)
+        setCurrentPoint(-1);
+    update();
+}
+
+} // namespace plotvue

@@ -1,0 +1,61 @@
+// A chart in a window, with one current point that mouse, keys and assistive technology share.
+#pragma once
+
+#include "platform/desktop/chart/chart_fonts.h"
+
+#include <QWidget>
+
+#include <optional>
+
+namespace plotvue {
+
+class ChartWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ChartWidget(QWidget* parent = nullptr);
+
+    void setContent(const ChartContent& content, const ChartDesign& design);
+    const ChartContent& content() const { return content_; }
+    const ChartDesign& design() const { return design_; }
+
+    int points() const;                           // an empty slot at the end is none
+    int currentPoint() const { return current_; } // -1: none
+    void setCurrentPoint(int point);              // -1, and what is no point, for none
+    int pointAt(QPoint position) const;           // -1: none
+    QRect pointRect(int point) const;             // its whole slot, in widget coordinates
+
+    // As on paper: vectors on white, whatever the desktop's colours, without anything that follows the
+    // pointer. Takes the widget's size in the painter's units from its origin.
+    void paint(QPainter& painter) const;
+
+    QSize minimumSizeHint() const override { return {320, 220}; }
+    QSize sizeHint() const override { return {900, 560}; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    const ChartFonts& fonts() const;
+    const chart::Layout& chartLayout() const;
+    std::optional<int> pointForKey(const QKeyEvent& event) const;
+
+    ChartContent content_;
+    ChartDesign design_;
+    int current_ = -1;
+    bool hovering_ = false;
+
+    // Kept until size, contents, font or device change.
+    mutable std::optional<ChartFonts> fonts_;
+    mutable std::optional<chart::Layout> layout_;
+    mutable QSize layoutSize_;
+    mutable double layoutScale_ = 0;
+};
+
+} // namespace plotvue
