@@ -1,0 +1,13 @@
+#include "app/application.h"
+#include "platform/desktop/desktopplatform.h"
+
+#include <QApplication>
+
+int main(int argc, char* argv[])
+{
+    QApplication desktop(argc, argv);
+    plotvue::DesktopPlatform platform;
+    plotvue::Application application(platform);
+    application.start();
+    return QApplication::exec();
+}

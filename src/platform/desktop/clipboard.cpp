@@ -1,0 +1,57 @@
+#include "platform/desktop/clipboard.h"
+
+#include "platform/desktop/shown.h"
+
+#include <QClipboard>
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QTimer>
+#include <QWindow>
+
+#include <chrono>
+
+namespace plotvue {
+
+Text readClipboard()
+{
+    const QMimeData* held = QGuiApplication::clipboard()->mimeData();
+    // An owner that hangs costs the toolkit's time limit a question: ask no further when the first fails.
+    if (!held || held->formats().isEmpty() || !held->hasText())
+        return {};
+    return withCarriageReturns(toText(held->text()));
+}
+
+bool clipboardNeedsFocus()
+{
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
+void waitForFocus()
+{
+    if (QGuiApplication::focusWindow())
+        return;
+    QEventLoop waiting;
+    QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &waiting, [&waiting](QWindow* window) {
+        if (window)
+            waiting.quit();
+    });
+    QTimer::singleShot(std::chrono::seconds(1), &waiting, &QEventLoop::quit);
+    waiting.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+Text withCarriageReturns(TextView text)
+{
+    Text result;
+    result.reserve(text.size() + text.size() / 40);
+    char16_t before = 0;
+    for (const char16_t character : text) {
+        if (character == u'\n' && before != carriageReturn)
+            result += carriageReturn;
+        result += character;
+        before = character;
+    }
+    return result;
+}
+
+} // namespace plotvue

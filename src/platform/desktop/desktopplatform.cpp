@@ -1,0 +1,136 @@
+#include "platform/desktop/desktopplatform.h"
+
+#include "capture/utf8.h"
+#include "platform/desktop/clipboard.h"
+#include "platform/desktop/desktopview.h"
+#include "platform/desktop/shown.h"
+#include "platform/desktop/window.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QThread>
+#include <QWindow>
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+
+namespace plotvue {
+
+namespace {
+
+void say(TextView sentence)
+{
+    std::fprintf(stderr, "PlotVue: %s\n", toUtf8(sentence).c_str());
+}
+
+QWidget* windowInFront()
+{
+    if (QWidget* active = QApplication::activeWindow())
+        return active;
+    const QWidgetList all = QApplication::topLevelWidgets();
+    for (QWidget* window : all)
+        if (window->isVisible() && qobject_cast<Window*>(window))
+            return window;
+    return nullptr;
+}
+
+// A box is centred on its window: that must have found its place before.
+void waitUntilPlaced(const QWidget& window)
+{
+    QDeadlineTimer patience(std::chrono::milliseconds(300));
+    while (!window.windowHandle()->isExposed() && !patience.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        QThread::msleep(1);
+    }
+}
+
+void showBox(QMessageBox::Icon icon, TextView title, TextView text)
+{
+    QWidget* window = windowInFront();
+    if (window)
+        waitUntilPlaced(*window);
+    QMessageBox box(window);
+    box.setIcon(icon);
+    box.setTextFormat(Qt::PlainText);
+    box.setWindowTitle(title.empty() ? QStringLiteral("PlotVue") : toQString(title));
+    box.setText(shown(text));
+    // A standard button would have the desktop's icon theme loaded for its picture.
+    box.setDefaultButton(box.addButton(QMessageBox::tr("OK"), QMessageBox::AcceptRole));
+    box.exec();
+}
+
+} // namespace
+
+DesktopPlatform::DesktopPlatform()
+{
+    // The windows come and go by turns; only the application says when it is over.
+    QApplication::setQuitOnLastWindowClosed(false);
+}
+
+DesktopPlatform::~DesktopPlatform()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+Text DesktopPlatform::clipboardText()
+{
+    if (clipboardNeedsFocus()) {
+        stage_.settle();
+        waitForFocus();
+    }
+    return readClipboard();
+}
+
+std::unique_ptr<View> DesktopPlatform::build(const Declaration& declaration, const Handlers& handlers,
+                                             std::function<void()> close)
+{
+    return std::make_unique<DesktopView>(stage_, declaration, handlers, std::move(close));
+}
+
+double DesktopPlatform::choosePrinter(View& view)
+{
+    stage_.settle();
+    return printing_.choose(static_cast<DesktopView&>(view).window());
+}
+
+void DesktopPlatform::printView(View& view)
+{
+    printing_.print(static_cast<DesktopView&>(view).window());
+}
+
+void DesktopPlatform::showMessage(TextView title, TextView text)
+{
+    stage_.settle();
+    showBox(QMessageBox::NoIcon, title, text);
+}
+
+void DesktopPlatform::reportError(TextView sentence)
+{
+    say(sentence);
+    stage_.settle();
+    showBox(QMessageBox::Critical, {}, sentence);
+    std::_Exit(EXIT_FAILURE);
+}
+
+void DesktopPlatform::spin()
+{
+    say(u"the copied screen has fewer than 20 lines; it is being waited for without end.");
+    stage_.settle();
+    // What is on the screen stays painted; nothing that a person does is heard any more.
+    QEventLoop().exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+void DesktopPlatform::finish()
+{
+    // At once: taking the toolkit down in good order would only keep the person waiting.
+    const QWidgetList all = QApplication::topLevelWidgets();
+    for (QWidget* window : all)
+        window->hide();
+    std::fflush(nullptr);
+    std::_Exit(EXIT_SUCCESS);
+}
+
+} // namespace plotvue

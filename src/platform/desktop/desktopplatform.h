@@ -1,0 +1,36 @@
+// The real desktop. A QApplication must exist, and outlive it. Whoever plays the person at the screen, a test
+// for one, overrides the questions and the endings.
+#pragma once
+
+#include "platform/desktop/printing.h"
+#include "platform/desktop/stage.h"
+#include "platform/platform.h"
+
+namespace plotvue {
+
+class DesktopPlatform : public Platform {
+public:
+    DesktopPlatform();
+    ~DesktopPlatform() override;
+
+    Text clipboardText() override;
+    std::unique_ptr<View> build(const Declaration& declaration, const Handlers& handlers,
+                                std::function<void()> close) override;
+    double choosePrinter(View& view) override;
+
+    // Shows and hides the windows as wanted, now rather than when control is back with the event loop.
+    void settle() { stage_.settle(); }
+
+protected:
+    void showMessage(TextView title, TextView text) override;
+    void printView(View& view) override;
+    void reportError(TextView sentence) override;
+    void spin() override;
+    void finish() override;
+
+private:
+    Stage stage_;
+    Printing printing_;
+};
+
+} // namespace plotvue

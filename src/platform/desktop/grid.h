@@ -1,0 +1,71 @@
+// A grid of text: headings from a format string, rows that can be chosen.
+#pragma once
+
+#include "platform/view.h"
+
+#include <QAbstractTableModel>
+#include <QTableView>
+
+namespace plotvue {
+
+class GridModel : public QAbstractTableModel, public GridControl {
+    Q_OBJECT
+
+public:
+    explicit GridModel(const GridBox& declared, QObject* parent = nullptr);
+
+    void setRows(int rows) override;
+    void setFormat(TextView format) override;
+    void setCell(int row, int column, TextView text) override;
+    Text cell(int row, int column) const override;
+
+    GridState state() const;
+
+    // A heading with its padding blanks, which say how wide the column is meant to be.
+    QString heading(int column) const;
+    bool holdsFigures(int column) const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    Text format_;
+    std::vector<int> figures_;
+    int rows_ = 0, columns_ = 0;
+    std::vector<std::vector<Text>> cells_; // the rows under the heading row
+};
+
+class GridTable : public QTableView {
+    Q_OBJECT
+
+public:
+    explicit GridTable(const GridBox& declared, QWidget* parent = nullptr);
+
+    GridModel& gridModel() const { return *model_; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+signals:
+    void rowChosen(int row); // clicked, or Enter on it; 1 is the first under the headings
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    int wantedWidth(int column) const;
+    int wantedWidth() const;
+    void fitRows();
+    void fitColumns();
+
+    GridModel* model_;
+    bool fitted_ = false;       // while the sections are being fitted
+    bool widthsChosen_ = false; // a person has dragged one
+};
+
+} // namespace plotvue

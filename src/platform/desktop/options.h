@@ -1,0 +1,38 @@
+// An option group: radio buttons in one frame or several, one chosen in each.
+#pragma once
+
+#include "platform/view.h"
+
+#include <map>
+
+class QGroupBox;
+class QRadioButton;
+class QWidget;
+
+namespace plotvue {
+
+class Window;
+
+class DesktopOptions : public OptionsControl {
+public:
+    QGroupBox* addFrame(const OptionFrame& declared, Window& window);
+
+    bool isChosen(int index) const override;
+    void setCaption(int index, TextView caption) override;
+    void setVisible(int index, bool visible) override;
+
+    void choose(int index); // as a person does it
+    OptionsState state() const;
+
+private:
+    struct Option {
+        int index;
+        QRadioButton* button;
+    };
+
+    QRadioButton& button(int index) const;
+
+    std::vector<Option> options_; // as they stand on the window
+};
+
+} // namespace plotvue

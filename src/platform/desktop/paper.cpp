@@ -1,0 +1,70 @@
+#include "platform/desktop/chart/chart_widget.h"
+#include "platform/desktop/printing.h"
+
+#include <QLayout>
+#include <QPainter>
+#include <QPicture>
+
+namespace plotvue {
+
+namespace {
+
+QPalette lightPalette()
+{
+    QPalette paper(QColor(0xF0F0F0), Qt::white);
+    paper.setColor(QPalette::AlternateBase, QColor(0xF6F6F6));
+    paper.setColor(QPalette::Highlight, QColor(0xD5E1F5));
+    paper.setColor(QPalette::HighlightedText, Qt::black);
+    return paper;
+}
+
+// A window in light colours for as long as this lives.
+class LightColours {
+public:
+    explicit LightColours(QWidget& window) : window_(window) { window.setPalette(lightPalette()); }
+    LightColours(const LightColours&) = delete;
+    ~LightColours() { window_.setPalette({}); } // the desktop's again
+
+private:
+    QWidget& window_;
+};
+
+// The detour keeps it vectors: right on a printer the toolkit draws widgets as bitmaps.
+QPicture pictureOf(QWidget& widget)
+{
+    QPicture picture;
+    QPainter painter(&picture);
+    widget.render(&painter, {}, {}, {});
+    return picture;
+}
+
+void drawWidget(QWidget& widget, QWidget& window, QPainter& painter)
+{
+    painter.save();
+    painter.translate(widget.mapTo(&window, QPoint(0, 0)));
+    if (auto* chart = qobject_cast<ChartWidget*>(&widget))
+        chart->paint(painter);
+    else if (&widget != &window)
+        painter.drawPicture(0, 0, pictureOf(widget));
+    painter.restore();
+    for (QObject* child : widget.children())
+        if (auto* inner = qobject_cast<QWidget*>(child); inner && !inner->isWindow() && !inner->isHidden())
+            drawWidget(*inner, window, painter);
+}
+
+} // namespace
+
+void drawOnPaper(QWidget& window, QPainter& painter, const QRectF& page)
+{
+    window.ensurePolished();
+    if (window.layout())
+        window.layout()->activate();
+    const LightColours light(window);
+    const double scale = qMin(page.width() / window.width(), page.height() / window.height());
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::LosslessImageRendering);
+    painter.translate(page.center().x() - window.width() * scale / 2, page.top());
+    painter.scale(scale, scale);
+    drawWidget(window, window, painter);
+}
+
+} // namespace plotvue

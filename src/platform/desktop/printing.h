@@ -1,0 +1,39 @@
+// The printer dialog, and a window's client area on paper.
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+class QPainter;
+class QPrinter;
+class QRectF;
+class QWidget;
+
+namespace plotvue {
+
+class Printing {
+public:
+    Printing();
+    ~Printing();
+
+    // Returns the number of copies; the printer chosen becomes the default printer and is kept for the next
+    // time. Throws Failure when the dialog is cancelled.
+    double choose(QWidget& window);
+
+    // One job. Throws Failure when it cannot be made.
+    void print(QWidget& window);
+
+private:
+    std::unique_ptr<QPrinter> printer_; // none before somebody prints: looking for printers takes time
+};
+
+// Draws the client area as vectors on white paper, as large as `page` allows. One unit of the painter is to
+// be one of the window's pixels: a device of the same resolution.
+void drawOnPaper(QWidget& window, QPainter& painter, const QRectF& page);
+
+// The system's default printer for this user. Does nothing where printing does not go through CUPS: other
+// print systems have no such notion of their own.
+void makeDefaultPrinter(const QString& name);
+
+} // namespace plotvue

@@ -1,0 +1,221 @@
+#include "platform/desktop/windowbuilder.h"
+
+#include "platform/desktop/grid.h"
+#include "platform/desktop/shown.h"
+#include "platform/desktop/smallwidgets.h"
+#include "platform/desktop/window.h"
+
+#include <QBoxLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QScreen>
+#include <QScrollBar>
+#include <QShortcut>
+
+namespace plotvue {
+
+namespace {
+
+constexpr int margin = 12, gap = 8, columnGap = 14, listRowPadding = 5;
+constexpr int sideColumn = 24;        // width in average characters
+constexpr double headlinePoints = 20; // from here on a label is a name, not a sentence
+
+class Builder {
+public:
+    Builder(Controls& controls, Window& window) : controls_(controls), window_(window) {}
+
+    QBoxLayout* arrange(const Box& box);
+
+private:
+    void place(const Item& item, QBoxLayout& layout);
+
+    QWidget* make(const Button& declared);
+    QWidget* make(const Label& declared);
+    QWidget* make(const TextBox& declared);
+    QWidget* make(const ListBox& declared);
+    QWidget* make(const OptionFrame& declared);
+    QWidget* make(const ChartBox& declared);
+    QWidget* make(const GridBox& declared);
+    QWidget* make(const PictureBox& declared) { return new GainLossPicture(declared, &window_); }
+
+    Controls& controls_;
+    Window& window_;
+};
+
+bool isSideColumn(const Item& item)
+{
+    const Box* box = std::get_if<Box>(&item.what);
+    return box && box->direction == Box::Direction::Column && item.stretch == 0;
+}
+
+QBoxLayout* Builder::arrange(const Box& box)
+{
+    const bool row = box.direction == Box::Direction::Row;
+    auto* layout = new QBoxLayout(row ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    layout->setContentsMargins(0, 0, 0, 0);
+    bool columns = false;
+    for (const Item& item : box.items) {
+        place(item, *layout);
+        columns = columns || (row && std::holds_alternative<Box>(item.what));
+    }
+    layout->setSpacing(columns ? columnGap : gap);
+    return layout;
+}
+
+void Builder::place(const Item& item, QBoxLayout& layout)
+{
+    if (std::holds_alternative<Space>(item.what)) {
+        layout.addStretch(item.stretch);
+    } else if (const Box* box = std::get_if<Box>(&item.what)) {
+        QBoxLayout* inner = arrange(*box);
+        if (isSideColumn(item) && layout.direction() == QBoxLayout::LeftToRight)
+            inner->addStrut(sideColumn * window_.fontMetrics().averageCharWidth());
+        layout.addLayout(inner, item.stretch);
+    } else {
+        std::visit(
+            [&](const auto& control) {
+                if constexpr (requires { make(control); })
+                    layout.addWidget(make(control), item.stretch);
+            },
+            item.what);
+    }
+}
+
+QList<QKeySequence> shortcuts(TextView text)
+{
+    QList<QKeySequence> keys;
+    const QStringList apart = toQString(text).split(QLatin1String(", "), Qt::SkipEmptyParts);
+    for (const QString& key : apart)
+        keys += QKeySequence(key, QKeySequence::PortableText);
+    return keys;
+}
+
+// "Refresh (F5)"
+QString tip(const Button& declared, const QList<QKeySequence>& keys)
+{
+    QString name = toQString(declared.spokenName.empty() ? declared.caption : declared.spokenName);
+    if (keys.isEmpty())
+        return declared.spokenName.empty() ? QString() : name;
+    return name.remove(u'&') + QLatin1String(" (") +
+           QKeySequence::listToString(keys, QKeySequence::NativeText) + QLatin1Char(')');
+}
+
+QWidget* Builder::make(const Button& declared)
+{
+    const bool arrow = declared.picture == Button::Picture::Arrow;
+    auto* button = arrow ? new ArrowButton(&window_) : new QPushButton(&window_);
+    button->setText(toQString(declared.caption));
+    button->setAutoDefault(true); // Enter presses it, not only the space bar
+    if (!declared.spokenName.empty())
+        button->setAccessibleName(toQString(declared.spokenName));
+    const QList<QKeySequence> keys = shortcuts(declared.shortcut);
+    button->setToolTip(tip(declared, keys));
+    for (const QKeySequence& key : keys)
+        QObject::connect(new QShortcut(key, &window_), &QShortcut::activated, button,
+                         [button] { button->click(); });
+    QObject::connect(button, &QPushButton::clicked, &window_,
+                     [window = &window_, name = declared.name] { window->run(name, 0); });
+    controls_.buttons[declared.name] = button;
+    return button;
+}
+
+QWidget* Builder::make(const Label& declared)
+{
+    auto* label = new QLabel(&window_);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(declared.points < headlinePoints);
+    QFont font = label->font();
+    if (declared.points > 0)
+        font.setPointSizeF(declared.points);
+    font.setBold(declared.bold);
+    font.setItalic(declared.italic);
+    if (font != label->font())
+        label->setFont(font);
+    keepText(*label, declared.text);
+    label->setText(shown(declared.text));
+    controls_.labels[declared.name] = label;
+    return label;
+}
+
+QWidget* Builder::make(const TextBox& declared)
+{
+    return controls_.texts[declared.name] = new TextLine(declared, &window_);
+}
+
+QWidget* Builder::make(const ListBox& declared)
+{
+    auto* list = new QListWidget(&window_);
+    list->setAccessibleName(toQString(declared.spokenName));
+    list->setSelectionMode(QAbstractItemView::NoSelection);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    QFont font = list->font();
+    font.setBold(declared.bold);
+    list->setFont(font);
+    const int rowHeight = list->fontMetrics().height() + listRowPadding;
+    for (const TextView text : declared.items) {
+        auto* item = new QListWidgetItem(toQString(text), list);
+        item->setSizeHint({list->fontMetrics().horizontalAdvance(item->text()) + margin, rowHeight});
+    }
+    list->setMinimumWidth(list->sizeHintForColumn(0) + 2 * list->frameWidth() +
+                          list->verticalScrollBar()->sizeHint().width());
+    controls_.lists[declared.name] = list;
+    return list;
+}
+
+QWidget* Builder::make(const OptionFrame& declared)
+{
+    return controls_.options[declared.group].addFrame(declared, window_);
+}
+
+QWidget* Builder::make(const ChartBox& declared)
+{
+    auto* chart = new ChartWidget(&window_);
+    controls_.charts.try_emplace(declared.name, *chart, declared);
+    return chart;
+}
+
+QWidget* Builder::make(const GridBox& declared)
+{
+    auto* grid = new GridTable(declared, &window_);
+    QObject::connect(grid, &GridTable::rowChosen, &window_,
+                     [window = &window_, name = declared.name](int row) { window->run(name, row); });
+    controls_.grids[declared.name] = grid;
+    return grid;
+}
+
+// What a person works with first: the chart or the grid, or else a button.
+QWidget* firstInUse(const Controls& controls, const Window& window)
+{
+    if (auto* chart = window.findChild<ChartWidget*>())
+        return chart;
+    if (!controls.grids.empty())
+        return controls.grids.begin()->second;
+    return window.findChild<QPushButton*>();
+}
+
+} // namespace
+
+DesktopChart::DesktopChart(ChartWidget& widget, const ChartBox& declared)
+    : widget_(widget),
+      design_(declared.design)
+{
+    for (const auto& [position, title] : declared.titles)
+        SetTitle(position, title);
+    contentChanged();
+}
+
+Controls buildControls(const Declaration& declaration, Window& window)
+{
+    Controls controls;
+    window.setWindowTitle(toQString(declaration.caption));
+    QBoxLayout* layout = Builder(controls, window).arrange(declaration.content);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    window.setLayout(layout);
+    window.resize(QSize(declaration.width, declaration.height).boundedTo(window.screen()->availableSize()));
+    if (QWidget* first = firstInUse(controls, window))
+        first->setFocus();
+    return controls;
+}
+
+} // namespace plotvue
