@@ -1,0 +1,34 @@
+// Customer/category history: one customer in one product category.
+//
+//   1  QXM12P 09FEB00   THREE RIVERS FUEL & LUBRICANTS   CUSTOMER BY CATEGORY
+//   2  CUSTOMER:104420 GREENWATER BROS HAULING INC.
+//   3  PCAT:LUBRICANTS   YTD QTY   15090.06   YTD SALES  105850.68
+//   4  MONTH       QTY     SALES    PROFIT      MONTH       QTY     SALES    PROFIT
+//   5  ----- --------- --------- ---------      ----- --------- --------- ---------
+//   6  FEB00   3771.92  26295.09   5083.72
+//   7  JAN00  11318.14  79555.59  11207.01      JAN99  10069.95  69003.35   9839.33
+//
+// "PCAT" may be missing; what is refused is a capture in which it first stands far down, at character 501 or
+// later. A "QXM12P2" capture holds every word too and is read with this layout.
+
+#include "history/salesfields.h"
+#include "history/screens.h"
+
+namespace plotvue {
+
+const MonthlyScreen frmCustP{
+    .window = "frmCustP",
+    .needed = {{u"YTD"},
+               {u"QTY"},
+               {.word = u"PCAT", .missing = Needed::Missing::Passes, .below = 501},
+               {u"QXM12P"}},
+    .shortPositions = ShortPositions::All,
+    .day = 7,
+    .blocks = twoHalves(6),
+    .types = salesTypesLong(),
+    .subject = {{.text = u"Customer: "}, {.line = 2, .behind = u":", .from = 1, .lineEnd = false}},
+    .subject2 = {{.text = u"Category: "}, {.line = 3, .behind = u":", .from = 1, .length = 10}},
+    .periods = periodsLong(),
+};
+
+} // namespace plotvue

@@ -1,0 +1,38 @@
+// G/L expense/volume history: one account's expense, the volume that goes with it, and cents per gallon.
+//
+//   1   PFMEXP1                      EXPENSE AND VOLUME BY MONTH         10/14/99
+//   2    ACCOUNT: 6210-00 DELIVERY FLEET REPAIRS
+//   3   LOCATION:ALL TERMINALS
+//   5   MON       DOLLARS       VOLUME   CENTS  MON       DOLLARS       VOLUME   CENTS
+//   6   OCT99   24,759.55   634,443.63  3.9026
+//   7   SEP99   53,526.38 1,269,974.69  4.2148  SEP98   49,425.37 1,159,950.64  4.2610
+//
+// No date and no projection; the cents are the host's own column. The right half begins a column further left
+// than on the sales screens, on the line of the first charted month.
+
+#include "history/salesfields.h"
+#include "history/screens.h"
+
+namespace plotvue {
+
+const MonthlyScreen frmGLexpense{
+    .window = "frmGLexpense",
+    .needed = {{u"PFMEXP1"}},
+    .blocks = {{.firstMonth = 1, .column = 1, .row = 6}, {.firstMonth = 14, .column = 41, .row = 7}},
+    .skippedMonths = 1,
+    .dropCommas = true,
+    .second = SecondSeries::None,
+    .types = {{.option = u"Dollars", .caption = u"Dollars", .value = figure({5, 12})},
+              {.option = u"Volume", .caption = u"Volume", .value = figure({17, 14})},
+              {.option = u"Cents/Gallon",
+               .caption = u"Cents per Gallon",
+               .decimals = 2,
+               .value = figure({30, 8})}},
+    .subject = {{.text = u"Expense/Volume for Acct:"},
+                {.line = 2, .behind = u":", .from = 1, .lineEnd = false}},
+    .subject2 = {{.line = 3, .behind = u":", .from = 1, .lineEnd = false}},
+    .periods = periodsShort(),
+    .typeOrder = {2, 0, 1},
+};
+
+} // namespace plotvue

@@ -1,0 +1,28 @@
+// Cardlock site history: one fuel at one unattended fuelling site.
+//
+//   1   1999/11/17 CRD812H              CARDLOCK SITE HISTORY                  PAGE 1
+//   2   FUEL: UNLEADED  SITE: 0417 BRAMBLE HOLLOW
+//   3   MON         QTY     SALES    PROFIT      MON         QTY     SALES    PROFIT
+//   5   NOV99  62159.09  75185.33   6166.18
+//   6   OCT99 118114.87 141100.53  12280.43      OCT98 110518.10 125481.06  12572.32
+//
+// The day stands in front of the identifier. Without "QTY" the hidden window is charted all the same; without
+// the identifier the whole process ends.
+
+#include "history/salesfields.h"
+#include "history/screens.h"
+
+namespace plotvue {
+
+const MonthlyScreen frmSite{
+    .window = "frmSite",
+    .needed = {{u"QTY", Needed::Missing::GoOn}, {u"CRD812H", Needed::Missing::End}},
+    .day = -3,
+    .blocks = twoHalves(5),
+    .types = salesTypes(hundredTimesQuotient, u"G/P %", u"Unit G/P"),
+    .subject = {{.text = u"C/L Site: "}, {.line = 2, .behind = u"SITE:", .from = 6, .lineEnd = false}},
+    .subject2 = {{.text = u"Fuel: "}, {.line = 2, .behind = u":", .from = 2, .length = 8}},
+    .periods = periodsShort(),
+};
+
+} // namespace plotvue

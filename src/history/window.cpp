@@ -1,0 +1,82 @@
+#include "history/window.h"
+
+#include "history/reading.h"
+
+namespace plotvue {
+
+Declaration HistoryWindow::declare() const
+{
+    return declareHistoryWindow(screen_);
+}
+
+Handlers HistoryWindow::handlers()
+{
+    return {{"opt12", [this](int) { opt12_Click(); }},
+            {"optSales", [this](int) { optSales_Click(); }},
+            {"cmdRefresh", [this](int) { cmdRefresh_Click(); }},
+            {"cmdPrint", [this](int) { cmdPrint_Click(); }},
+            {"cmdExit", [this](int) { cmdExit_Click(); }}};
+}
+
+void HistoryWindow::Form_Load()
+{
+    if (!screen_.captionOnLoad.empty())
+        view().setCaption(screen_.captionOnLoad);
+    RefreshChart();
+}
+
+void HistoryWindow::cmdExit_Click()
+{
+    Hide();
+    startup_.Show();
+}
+
+void HistoryWindow::RefreshChart()
+{
+    const Text capture = platform().clipboardText();
+    const Acceptance acceptance = accept(screen_, capture);
+    if (acceptance.leave)
+        cmdExit_Click();
+    if (acceptance.end)
+        platform().end();
+    if (acceptance.stop)
+        return;
+
+    const DataType& type = chosenType();
+    const MonthlyFigures figures = readMonths(screen_, capture, acceptance.identifier, chosenMonths(), type);
+
+    ChartControl& ChartFX1 = view().chart("ChartFX1");
+    if (screen_.second == SecondSeries::OwnValue)
+        ChartFX1.ShowSeries(1, type.second.is != Value::Is::Nothing);
+    if (!type.caption.empty()) {
+        ChartFX1.SetTitle(1, type.caption);
+        ChartFX1.SetValueDecimals(type.decimals);
+    }
+    ChartFX1.SetTitle(2, figures.subject);
+    if (!screen_.subject2.empty())
+        ChartFX1.SetTitle(3, figures.subject2);
+    ChartArrayData data;
+    data.AddArray(figures.values);
+    if (screen_.second != SecondSeries::None)
+        data.AddArray(figures.second);
+    data.AddArray(figures.labels);
+    ChartFX1.SetChartData(data);
+}
+
+int HistoryWindow::chosenMonths() const
+{
+    int index = 0;
+    while (!view().options("opt12").isChosen(index))
+        ++index;
+    return screen_.periods.at(static_cast<std::size_t>(index)).months;
+}
+
+const DataType& HistoryWindow::chosenType() const
+{
+    std::size_t index = 0;
+    while (!screen_.typeOrder.empty() && !view().options("optSales").isChosen(static_cast<int>(index)))
+        ++index;
+    return screen_.types.at(index);
+}
+
+} // namespace plotvue
