@@ -1,0 +1,24 @@
+// Category by salesman: one group, or the total of all, across the salesmen, with a list of the figures.
+#pragma once
+
+#include "group/window.h"
+
+namespace plotvue {
+
+class frmQXM21CXS : public GroupWindow {
+public:
+    using GroupWindow::GroupWindow;
+    Name name() const override { return "frmQXM21CXS"; }
+
+protected:
+    Declaration declare() const override;
+    TextView identifier() const override { return u"QXM21CXS"; }
+    void drawChart(TextView capture) override;
+
+private:
+    // Captions of the group options, and the name of the chosen group.
+    TextView nameGroups(const GroupScreen& screen);
+    void fillGrid(const std::vector<Text>& labels, const std::vector<double>& values, TextView title);
+};
+
+} // namespace plotvue

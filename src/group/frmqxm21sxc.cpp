@@ -1,0 +1,74 @@
+#include "group/frmqxm21sxc.h"
+
+#include <algorithm>
+#include <array>
+
+namespace plotvue {
+
+namespace {
+
+struct Type {
+    TextView title;
+    int place; // of its figure within a group
+};
+
+// The host prints the volume between sales and profit.
+constexpr std::array types{Type{u"Sales", 0}, Type{u"Profit", 2}, Type{u"Volume", 1}};
+
+constexpr std::size_t seriesAlwaysCharted = 3;
+
+} // namespace
+
+Declaration frmQXM21SXC::declare() const
+{
+    std::vector<Item> side{{groupTypeFrame()}, {Space{}, 1}};
+    for (Item& button : groupButtons())
+        side.push_back(std::move(button));
+    return {.name = name(),
+            .caption = u"Plotvue!",
+            .content = {Box::Direction::Row,
+                        {{ChartBox{.name = "ChartFX1",
+                                   .design = {.bars = ChartDesign::Bars::Grouped,
+                                              .labels = ChartDesign::Labels::Names}},
+                          1},
+                         column(std::move(side))}}};
+}
+
+void frmQXM21SXC::drawChart(TextView capture)
+{
+    const Type* type = types.data();
+    while (!isChosen(static_cast<int>(type - types.data())))
+        ++type;
+    std::vector<bool> wanted;
+    for (int i = 0; i < mostGroups * figuresAGroup; ++i)
+        wanted.push_back(i % figuresAGroup == type->place);
+    const GroupScreen screen = readGroups(capture, wanted);
+
+    ChartControl& ChartFX1 = view().chart("ChartFX1");
+    ChartFX1.ClearLegends();
+    ChartFX1.SetTitle(2, screen.subject);
+    if (screen.groups > 0 && !screen.salesmen.empty())
+        ChartFX1.SetTitle(3, type->title);
+
+    const std::size_t slots = screen.salesmen.size() + 1;
+    std::vector<std::vector<double>> series(mostGroups, std::vector<double>(slots));
+    std::vector<Text> labels(slots);
+    for (std::size_t s = 0; s + 1 < slots; ++s) {
+        const Salesman& salesman = screen.salesmen[s];
+        labels[s] = salesman.label;
+        const std::size_t groups = salesman.figures.size() / figuresAGroup;
+        for (std::size_t group = 0; group < groups; ++group)
+            series[group][s] =
+                salesman.figures[group * figuresAGroup + static_cast<std::size_t>(type->place)];
+    }
+    ChartArrayData data;
+    for (std::size_t i = 0; i < (screen.groups > 3 ? series.size() : seriesAlwaysCharted); ++i)
+        data.AddArray(series[i]);
+    data.AddArray(labels);
+    ChartFX1.SetChartData(data);
+
+    for (std::size_t i = 0; i < screen.names.size(); ++i)
+        ChartFX1.SetSeriesLegend(static_cast<int>(i), screen.names[i]);
+}
+
+} // namespace plotvue

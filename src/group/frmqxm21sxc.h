@@ -1,0 +1,19 @@
+// Salesman by category: one figure for every salesman, a series a group.
+#pragma once
+
+#include "group/window.h"
+
+namespace plotvue {
+
+class frmQXM21SXC : public GroupWindow {
+public:
+    using GroupWindow::GroupWindow;
+    Name name() const override { return "frmQXM21SXC"; }
+
+protected:
+    Declaration declare() const override;
+    TextView identifier() const override { return u"QXM21SXC"; }
+    void drawChart(TextView capture) override;
+};
+
+} // namespace plotvue

@@ -1,0 +1,76 @@
+#include "group/reading.h"
+
+#include "capture/failure.h"
+#include "capture/lines.h"
+#include "capture/number.h"
+
+#include <algorithm>
+
+namespace plotvue {
+
+namespace {
+
+constexpr int mostSalesmen = 23;
+
+TextView nextLine(TextView& rest)
+{
+    const TextView line = cutLine(rest);
+    dropControls(rest);
+    return line;
+}
+
+int countBehind(TextView line, TextView mark, Position length)
+{
+    const Position start = find(line, mark) + static_cast<Position>(mark.size());
+    return toInt16(leadingNumber(mid(line, start, length)), u"A count on the screen");
+}
+
+// The names between the semicolons; the last may go without one and then ends with the line.
+std::vector<TextView> namesIn(TextView line, int count)
+{
+    TextView rest = mid(line, find(line, u";") + 1);
+    if (rest.ends_with(carriageReturn))
+        rest.remove_suffix(1);
+    std::vector<TextView> names;
+    for (int i = 0; i < count; ++i) {
+        const Position end = find(rest, u";");
+        names.push_back(end ? mid(rest, 1, end - 1) : rest);
+        rest = end ? mid(rest, end + 1) : TextView{};
+    }
+    return names;
+}
+
+Salesman readSalesman(TextView line, std::size_t figures, const std::vector<bool>& wanted)
+{
+    Salesman salesman{Text(mid(line, 1, 2)) + u'_' + Text(mid(line, 3, 2)), std::vector<double>(figures)};
+    TextView rest = mid(line, 6);
+    for (std::size_t i = 0; i < figures; ++i) {
+        const Position end = find(rest, u";");
+        if (end && i < wanted.size() && wanted[i])
+            salesman.figures[i] = leadingNumber(mid(rest, 1, end - 1));
+        rest = mid(rest, end + 1);
+    }
+    return salesman;
+}
+
+} // namespace
+
+GroupScreen readGroups(TextView capture, const std::vector<bool>& wanted)
+{
+    TextView rest = capture;
+    nextLine(rest); // the heading
+    const TextView groupLine = nextLine(rest);
+    GroupScreen screen;
+    screen.subject = mid(nextLine(rest), 7, 9);
+    screen.groups = countBehind(groupLine, u"GROUPS:", 2);
+    const int salesmen = countBehind(groupLine, u"SCOUNT:", 9);
+    if (salesmen < 0 || salesmen > mostSalesmen)
+        throw Failure{u"The screen lists more than 23 salesmen, which is the most that can be charted."};
+    screen.names = namesIn(groupLine, screen.groups);
+    const auto figures = static_cast<std::size_t>(std::clamp(screen.groups, 0, mostGroups) * figuresAGroup);
+    for (int i = 0; i < salesmen; ++i)
+        screen.salesmen.push_back(readSalesman(nextLine(rest), figures, wanted));
+    return screen;
+}
+
+} // namespace plotvue

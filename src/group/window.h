@@ -1,0 +1,39 @@
+// What the two salesman/category windows have in common: they read the clipboard at every drawing, and are
+// left, refreshed and printed like the history windows.
+#pragma once
+
+#include "group/reading.h"
+#include "platform/form.h"
+
+namespace plotvue {
+
+class GroupWindow : public Form {
+public:
+    GroupWindow(Platform& platform, Form& startup) : Form(platform), startup_(startup) {}
+
+protected:
+    Handlers handlers() override;
+    void Form_Load() override { RefreshChart(); }
+    void wayOut() override { cmdExit_Click(); }
+
+    // The clipboard holds the window's screen: draw it.
+    virtual void drawChart(TextView capture) = 0;
+    virtual TextView identifier() const = 0;
+
+    bool isChosen(int option) const { return view().options("optSales").isChosen(option); }
+
+private:
+    void optSales_Click() { RefreshChart(); }
+    void cmdRefresh_Click() { RefreshChart(); }
+    void cmdPrint_Click() { printWindow(); }
+    void cmdExit_Click();
+    void RefreshChart();
+
+    Form& startup_;
+};
+
+// The data-type frame and the buttons of both windows.
+OptionFrame groupTypeFrame();
+std::vector<Item> groupButtons();
+
+} // namespace plotvue

@@ -1,0 +1,72 @@
+// Ranked profit: the customer/product pairs by their current profit. Built like the month-to-month analysis.
+//
+//     RANKED PROFIT ANALYSIS
+//     FOR SALES ...
+//     Mlabel OCT99SEP99...                                   (thirteen labels from column 8)
+//     Mprofit     9250.00    8000.00
+//     RANK:  1     10442 NORTHSIDE TRUCKING             DIESEL
+//     P:     1250.00        820.00          430.00           (or "GAIN:", whose own figure is not read)
+//     V   12345 ...                                          (volume, sales and profit, 13 months each)
+
+#include "ranked/monthcolumns.h"
+#include "ranked/profitanalysis.h"
+
+namespace plotvue {
+
+using namespace profit;
+
+namespace {
+
+// Of the record's lines behind the first, the last that holds either mark.
+TextView componentLine(const Record& record)
+{
+    TextView found;
+    for (std::size_t field = 2; field < record.size(); ++field)
+        if (holds(record[field], u"GAIN:") || holds(record[field], u"P:"))
+            found = record[field];
+    return found;
+}
+
+} // namespace
+
+const RankedAnalysis frmProfRank{
+    .window = "frmProfRank",
+    .caption = u"PlotVue",
+    .heading = heading(),
+    .title = u"RANKED PROFIT AN",
+    // Whichever of the two component lines comes later overwrites the other; only "P:" has a profit to count.
+    .markers = {rankMarker(),
+                {.text = u"GAIN:",
+                 .takes = {{Taken::To::EntryNumber, volumePart, 19, 9},
+                           {Taken::To::EntryNumber, marginPart, 32, 9}}},
+                {.text = u"P:",
+                 .takes = {{Taken::To::EntryNumber, figure, 6, 9},
+                           {Taken::To::EntryNumber, volumePart, 19, 9},
+                           {Taken::To::EntryNumber, marginPart, 32, 9}},
+                 .then = count},
+                {.text = u"RANKED PROF", .takes = {{Taken::To::PageText, header, 1}}},
+                salesLineMarker(),
+                labelMarker(),
+                totalsMarker(21)},
+    .grids = {grid({.name = "MSFlexGrid1",
+                    .spokenName = u"Profits",
+                    .format =
+                        u"Rank |Profit (current)|Customer|Customer Name                                      "
+                        u"|Product Group  "},
+                   gains, RankedGrid::Holds::NotNegative)},
+    .summary = summary(),
+    .key = key(),
+    .linesAnEntry = 5,
+};
+
+const DrillDownDesign frmProfRankA{
+    .window = "frmProfRankA",
+    .caption = u"PlotVue",
+    .analysis = frmProfRank,
+    .charts = charts(),
+    .types = monthTypeOptions(),
+    .draw = [](View& view, const Record& record,
+               int type) { draw(view, record, type, componentLine(record)); },
+};
+
+} // namespace plotvue

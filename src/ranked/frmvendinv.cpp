@@ -1,0 +1,136 @@
+// Vendor inventory: the beginning-of-month inventory by vendor and product category, 13 months of one pair,
+// and the age of its FIFO inventory.
+//
+//     VENDOR INVENTORY ANALYSIS
+//     Total EOM ...
+//     Mlabel OCT99SEP99...                                   (thirteen labels from column 8)
+//     RANK:  1        CASCADE LUBRICANT SUPPLY             MOTOR OIL
+//     F: 123456.78 12345.67   2.4   10000   20000 ...        (the first two amounts share column 11)
+//     V   12345 ...                                          (volume, sales and profit, 13 months each)
+
+#include "capture/failure.h"
+#include "capture/number.h"
+#include "ranked/analyses.h"
+#include "ranked/monthcolumns.h"
+#include "ranked/reading.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace plotvue {
+
+namespace {
+
+enum Number { fifoValue, secondAmount };
+enum EntryTextSlot { vendor, category, stockMonths };
+enum PageTextSlot { monthLabels, title, summaryLine };
+
+constexpr int buckets = 5;
+constexpr Position bucketLength = 8;
+constexpr TextView bucketLabels = u"<30 Days31 - 60 61 - 90 91 - 120Over 120";
+
+void countHighestRank(RankedReading& reading, TextView)
+{
+    reading.counts[0] = std::max(reading.counts[0], reading.current);
+}
+
+// "$1,234": whole dollars, a half away from zero as amounts of money are rounded.
+Text dollars(double amount)
+{
+    const double whole = std::round(amount);
+    Text digits = plainNumber(std::fabs(whole));
+    for (auto at = static_cast<Position>(digits.size()) - 3; at > 0; at -= 3)
+        digits.insert(static_cast<std::size_t>(at), 1, u',');
+    return (whole < 0 ? u"-$" : u"$") + digits;
+}
+
+void drawAges(ChartControl& ChartFX2, TextView line)
+{
+    std::vector<double> ages;
+    std::vector<Text> labels;
+    double sum = 0;
+    for (int i = 0; i < buckets; ++i) {
+        ages.push_back(leadingNumber(mid(line, 27 + bucketLength * i, bucketLength)));
+        labels.emplace_back(mid(bucketLabels, bucketLength * i + 1, bucketLength));
+        sum = finite(sum + ages.back());
+    }
+    ChartFX2.SetTitle(3, u"FIFO: " + dollars(sum));
+    ChartArrayData data;
+    data.AddArray(ages);
+    data.AddArray(labels);
+    ChartFX2.SetChartData(data);
+}
+
+void draw(View& view, const Record& record, int type)
+{
+    const TextView entry = record[1];
+    drawAges(view.chart("ChartFX2"), record[2]);
+
+    ChartControl& ChartFX1 = view.chart("ChartFX1");
+    const ChartArrayData months =
+        monthSeries(record[0], {.volume = record[3], .sales = record[4], .profit = record[5]}, type);
+    ChartFX1.SetTitle(1, monthTypes()[static_cast<std::size_t>(type)].title);
+    ChartFX1.SetTitle(2, u"Vendor: " + Text(mid(entry, 17, 30)));
+    ChartFX1.SetTitle(3, u"Category: " + Text(mid(entry, 54, 30)));
+    ChartFX1.SetChartData(months);
+}
+
+using To = Taken::To;
+using Shows = GridColumn::Shows;
+
+} // namespace
+
+const RankedAnalysis frmVendInv{
+    .window = "frmVendInv",
+    .caption = u"PlotVue",
+    .heading = {{TextBox{.name = "txtHeader", .spokenName = u"Analysis"}},
+                {TextBox{.name = "txtHeader2", .spokenName = u"Summary"}}},
+    .tips = u"This is your beginning of month inventory, grouped by Vendor and Product Category.  Items are\r"
+            u"ranked by value.  The 'Stock Months' column shows the time, in months, needed to deplete\r"
+            u"this inventory, based on past sales, averaged over three months.",
+    .title = u"VENDOR INVENTORY AN",
+    .markers = {{.text = u"RANK:",
+                 .opens = Marker::Opens::Rank,
+                 .takes = {{To::EntryText, vendor, 17, 30}, {To::EntryText, category, 54, 30}},
+                 .then = countHighestRank},
+                {.text = u"F:",
+                 .takes = {{To::EntryNumber, fifoValue, 3, 9},
+                           {To::EntryNumber, secondAmount, 11, 9},
+                           {To::EntryText, stockMonths, 19, 7}}},
+                {.text = u"VENDOR INVEN", .takes = {{To::PageText, title, 1}}},
+                {.text = u"Total EOM", .takes = {{To::PageText, summaryLine, 1}}},
+                {.text = u"Mlabel", .takes = {{To::PageText, monthLabels, 8, 65}}}},
+    .grids = {{.box = {.name = "MSFlexGrid1",
+                       .spokenName = u"Inventory",
+                       .format =
+                           u"Rank |EOM FIFO |Vendor Name                                  |Product Category  "
+                           u"                                |Stock Months",
+                       .figures = {0, 1, 4}},
+               .picture = {},
+               .columns = {{Shows::RowNumber},
+                           {Shows::NumberSlot, fifoValue},
+                           {Shows::TextSlot, vendor},
+                           {Shows::TextSlot, category},
+                           {Shows::TextSlot, stockMonths}},
+               .count = 0}},
+    .summary = {{"txtHeader", [](const RankedReading& reading) { return reading.page[title]; }},
+                {"txtHeader2", [](const RankedReading& reading) { return reading.page[summaryLine]; }}},
+    .key = {.parts = {{.number = false, .gridColumn = 2, .slot = vendor, .column = 17, .length = 30},
+                      {.number = false, .gridColumn = 3, .slot = category, .column = 54, .length = 30}}},
+    .linesAnEntry = 5,
+};
+
+const DrillDownDesign frmVendInvA{
+    .window = "frmVendInvA",
+    .caption = u"PlotVue",
+    .analysis = frmVendInv,
+    .charts = {{ChartBox{.name = "ChartFX1"}, 3},
+               {ChartBox{.name = "ChartFX2",
+                         .design = {.labels = ChartDesign::Labels::Names},
+                         .titles = {{2, u"FIFO Age"}}},
+                2}},
+    .types = monthTypeOptions(),
+    .draw = draw,
+};
+
+} // namespace plotvue

@@ -1,0 +1,34 @@
+// Thirteen months side by side on a line of the host: labels, figures, and the data types made of them.
+#pragma once
+
+#include "platform/chartcontrol.h"
+#include "ranked/drilldown.h"
+
+namespace plotvue {
+
+inline constexpr int monthColumns = 13;
+
+// "12345678" starting at column 8k - 5 for month k = 1 to 13, read as a number; `width` is 8 but where said.
+double monthFigure(TextView line, int month, Position width = 8);
+
+// "OCT99" starting at column 5k - 4 for month k.
+Text monthLabel(TextView labels, int month);
+
+// The data types of a drill-down window over a volume, a sales and a profit line.
+struct MonthLines {
+    TextView volume, sales, profit;
+    Position profitWidthOfPercent = 8; // the profit's width where it is divided by sales
+};
+
+struct MonthType {
+    TextView option, title;
+    int decimals;
+};
+
+const std::array<MonthType, 5>& monthTypes();
+std::vector<TextView> monthTypeOptions();
+
+// Labels and figures of 13 points. The host prints the newest month first: point 12 is month 1.
+ChartArrayData monthSeries(TextView labels, const MonthLines& lines, int type);
+
+} // namespace plotvue
