@@ -73,7 +73,7 @@ Found markersIn(TextView screen)
 
 bool holdsZero(TextView screen)
 {
-    return toInt16(static_cast<double>(find(screen, u"0")), u"The place of the first zero on the screen") > 0;
+    return toInt16(static_cast<double>(find(screen, u"0")), u"The copied text") > 0;
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "group/frmqxm21sxc.h"
 
-#include <algorithm>
 #include <array>
 
 namespace plotvue {

@@ -65,7 +65,8 @@ GroupScreen readGroups(TextView capture, const std::vector<bool>& wanted)
     screen.groups = countBehind(groupLine, u"GROUPS:", 2);
     const int salesmen = countBehind(groupLine, u"SCOUNT:", 9);
     if (salesmen < 0 || salesmen > mostSalesmen)
-        throw Failure{u"The screen lists more than 23 salesmen, which is the most that can be charted."};
+        throw Failure{
+            u"The count of salesmen on the screen is outside 0 to 23, which is all that can be charted."};
     screen.names = namesIn(groupLine, screen.groups);
     const auto figures = static_cast<std::size_t>(std::clamp(screen.groups, 0, mostGroups) * figuresAGroup);
     for (int i = 0; i < salesmen; ++i)

@@ -88,7 +88,7 @@ Acceptance accept(const MonthlyScreen& screen, TextView capture)
     for (const Needed& needed : screen.needed) {
         result.identifier = find(capture, needed.word);
         if (screen.shortPositions != ShortPositions::None)
-            toInt16(static_cast<double>(result.identifier), u"The place of a word on the screen");
+            toInt16(static_cast<double>(result.identifier), u"The copied text");
         const bool absent = result.identifier == 0;
         const bool late = result.identifier >= needed.below;
         if (!late && (!absent || needed.missing == Needed::Missing::Passes))
@@ -111,8 +111,8 @@ MonthlyFigures readMonths(const MonthlyScreen& screen, TextView capture, Positio
     // The year is read as soon as its line is cut, before the reader can run out of text further down.
     int baseYear = 0;
     if (screen.baseYear && lines.count() >= baseYearLine)
-        baseYear =
-            toInt16(leadingNumber(cut(*screen.baseYear, lines, ShortPositions::None)), u"The first year");
+        baseYear = toInt16(leadingNumber(cut(*screen.baseYear, lines, ShortPositions::None)),
+                           u"The first year on the screen");
     lines.requireAll();
 
     MonthlyFigures figures;

@@ -15,7 +15,7 @@ TextView cut(const Piece& piece, const ScreenLines& lines, ShortPositions positi
     if (!piece.behind.empty())
         behind = find(piece.behindBeforeEnd ? withoutLast(searched) : searched, piece.behind);
     if (positions == ShortPositions::All)
-        toInt16(static_cast<double>(behind), u"The place of a mark in a line");
+        toInt16(static_cast<double>(behind), u"A line of the copied text");
 
     TextView line = lines[piece.line];
     const Position start = behind + piece.from;

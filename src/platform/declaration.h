@@ -64,7 +64,7 @@ struct ChartBox {
 struct GridBox {
     Name name;
     TextView spokenName;
-    TextView format; // headings apart by "|", "<" in front of left-aligned ones; blanks pad the widths
+    TextView format; // headings apart by "|", which may begin with "<" or ">"; blanks pad the widths
     std::vector<int> figures{}; // columns whose cells are figures, right-aligned
 };
 

@@ -12,10 +12,10 @@ void Form::Show()
         if (hiddenWhileLoading_)
             return;
     }
-    if (visible())
-        return;
-    view().show();
-    platform_.listener({.kind = Event::Kind::Show, .window = name()});
+    const bool wasVisible = visible();
+    view().show(); // a visible window comes to the front
+    if (!wasVisible)
+        platform_.listener({.kind = Event::Kind::Show, .window = name()});
 }
 
 void Form::Hide()

@@ -9,9 +9,11 @@ namespace {
 
 enum Type { Sales, Profit, Volume, Percent, PerUnit };
 
-double timesHundred(double profit, double by)
+// Profit by sales or volume; the profit is not read where there is nothing to divide by.
+double perHundred(TextView profitLine, Position profitWidth, TextView divisorLine, int month)
 {
-    return by == 0 ? 0 : finite(finite(profit / by) * 100);
+    const double divisor = monthFigure(divisorLine, month);
+    return divisor == 0 ? 0 : finite(finite(monthFigure(profitLine, month, profitWidth) / divisor) * 100);
 }
 
 double valueOf(const MonthLines& lines, int type, int month)
@@ -24,10 +26,9 @@ double valueOf(const MonthLines& lines, int type, int month)
     case Volume:
         return monthFigure(lines.volume, month);
     case Percent:
-        return timesHundred(monthFigure(lines.profit, month, lines.profitWidthOfPercent),
-                            monthFigure(lines.sales, month));
+        return perHundred(lines.profit, lines.profitWidthOfPercent, lines.sales, month);
     default:
-        return timesHundred(monthFigure(lines.profit, month), monthFigure(lines.volume, month));
+        return perHundred(lines.profit, columnWidth, lines.volume, month);
     }
 }
 

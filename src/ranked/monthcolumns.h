@@ -7,9 +7,10 @@
 namespace plotvue {
 
 inline constexpr int monthColumns = 13;
+inline constexpr Position columnWidth = 8;
 
-// "12345678" starting at column 8k - 5 for month k = 1 to 13, read as a number; `width` is 8 but where said.
-double monthFigure(TextView line, int month, Position width = 8);
+// "12345678" starting at column 8k - 5 for month k = 1 to 13, read as a number.
+double monthFigure(TextView line, int month, Position width = columnWidth);
 
 // "OCT99" starting at column 5k - 4 for month k.
 Text monthLabel(TextView labels, int month);
@@ -17,7 +18,7 @@ Text monthLabel(TextView labels, int month);
 // The data types of a drill-down window over a volume, a sales and a profit line.
 struct MonthLines {
     TextView volume, sales, profit;
-    Position profitWidthOfPercent = 8; // the profit's width where it is divided by sales
+    Position profitWidthOfPercent = columnWidth; // the profit's width where it is divided by sales
 };
 
 struct MonthType {

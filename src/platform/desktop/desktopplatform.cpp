@@ -1,6 +1,7 @@
 #include "platform/desktop/desktopplatform.h"
 
 #include "capture/utf8.h"
+#include "platform/desktop/assistive.h"
 #include "platform/desktop/clipboard.h"
 #include "platform/desktop/desktopview.h"
 #include "platform/desktop/shown.h"
@@ -68,6 +69,9 @@ DesktopPlatform::DesktopPlatform()
 {
     // The windows come and go by turns; only the application says when it is over.
     QApplication::setQuitOnLastWindowClosed(false);
+    // By this name a Wayland desktop finds the installed entry, and in it the icon.
+    QApplication::setDesktopFileName(QStringLiteral("io.github.plotvue.PlotVue"));
+    offerWindowsToAssistiveTechnology();
 }
 
 DesktopPlatform::~DesktopPlatform()

@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
+#include <QWindow>
 
 #include <stdexcept>
 
@@ -49,14 +50,16 @@ void DesktopView::settle()
 {
     const bool seen = window_ && window_->isVisible();
     if (wanted_ && !seen) {
+        // Said to the native window: a widget that stands there already would not pass it on, and the window
+        // manager would find a place of its own.
         if (position_ && window().windowState() == Qt::WindowNoState)
-            window().move(*position_);
+            window().windowHandle()->setPosition(*position_);
         window().show();
     } else if (wanted_ && raise_) {
         window_->raise();
         window_->activateWindow();
     } else if (!wanted_ && seen) {
-        position_ = window_->pos();
+        position_ = window_->geometry().topLeft();
         window_->hide();
     }
     raise_ = false;

@@ -47,7 +47,7 @@ private:
     std::function<void()> close_;
     mutable Window* window_ = nullptr; // goes by itself once it is retired
     mutable Controls controls_;
-    std::optional<QPoint> position_; // where it stood when it was hidden
+    std::optional<QPoint> position_; // of the client area, when it was hidden
     bool wanted_ = false, raise_ = false;
 };
 

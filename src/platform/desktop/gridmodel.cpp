@@ -52,7 +52,7 @@ GridState GridModel::state() const
 QString GridModel::heading(int column) const
 {
     const QString heading = shownOnOneLine(format_).section(u'|', column, column);
-    return heading.startsWith(u'<') ? heading.mid(1) : heading;
+    return heading.startsWith(u'<') || heading.startsWith(u'>') ? heading.mid(1) : heading;
 }
 
 bool GridModel::holdsFigures(int column) const

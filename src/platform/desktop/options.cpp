@@ -41,6 +41,9 @@ QGroupBox* DesktopOptions::addFrame(const OptionFrame& declared, Window& window)
         auto* button = new QRadioButton(frame);
         showCaption(*button, option.caption);
         button->setChecked(option.index == declared.chosen);
+        // Tab is to come to the one chosen. Later on the toolkit sees to that; at first it takes the topmost.
+        if (!button->isChecked())
+            button->setFocusPolicy(Qt::ClickFocus);
         layout->addWidget(button);
         QObject::connect(
             button, &QRadioButton::clicked, &window,

@@ -212,6 +212,9 @@ Controls buildControls(const Declaration& declaration, Window& window)
     QBoxLayout* layout = Builder(controls, window).arrange(declaration.content);
     layout->setContentsMargins(margin, margin, margin, margin);
     window.setLayout(layout);
+    // The layout by itself has a sentence shrink to less than its lines.
+    if (layout->hasHeightForWidth())
+        window.setMinimumHeight(layout->totalMinimumHeightForWidth(layout->totalMinimumSize().width()));
     window.resize(QSize(declaration.width, declaration.height).boundedTo(window.screen()->availableSize()));
     if (QWidget* first = firstInUse(controls, window))
         first->setFocus();

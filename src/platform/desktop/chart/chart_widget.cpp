@@ -90,7 +90,7 @@ void ChartWidget::paintEvent(QPaintEvent*)
     paintChart(painter, content_, design_, chartLayout(), palette(), fonts(), current_);
     if (current_ >= 0)
         paintReadout(painter, content_, design_, chartLayout(), palette(), fonts(), current_);
-    if (hasFocus()) {
+    if (hasFocus() && byKey_) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
@@ -144,12 +144,23 @@ std::optional<int> ChartWidget::pointForKey(const QKeyEvent& event) const
     }
 }
 
+bool ChartWidget::event(QEvent* event)
+{
+    // A shown read-out has the first word on keys that are shortcuts of the window: Esc hides it, then leaves.
+    if (event->type() == QEvent::ShortcutOverride && pointForKey(static_cast<QKeyEvent&>(*event))) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
 void ChartWidget::keyPressEvent(QKeyEvent* event)
 {
     const std::optional<int> point = pointForKey(*event);
     if (!point)
         return QWidget::keyPressEvent(event);
     hovering_ = false;
+    byKey_ = true;
     setCurrentPoint(*point);
     event->accept();
 }
@@ -157,6 +168,7 @@ void ChartWidget::keyPressEvent(QKeyEvent* event)
 void ChartWidget::focusInEvent(QFocusEvent* event)
 {
     QWidget::focusInEvent(event);
+    byKey_ = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
     update();
 }
 

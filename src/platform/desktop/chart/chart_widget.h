@@ -29,10 +29,11 @@ public:
     // pointer. Takes the widget's size in the painter's units from its origin.
     void paint(QPainter& painter) const;
 
-    QSize minimumSizeHint() const override { return {320, 220}; }
+    QSize minimumSizeHint() const override { return {280, 220}; }
     QSize sizeHint() const override { return {900, 560}; }
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -50,6 +51,7 @@ private:
     ChartDesign design_;
     int current_ = -1;
     bool hovering_ = false;
+    bool byKey_ = false; // the focus came or was used by key: it is shown
 
     // Kept until size, contents, font or device change.
     mutable std::optional<ChartFonts> fonts_;

@@ -1,0 +1,29 @@
+#include "platform/desktop/assistive.h"
+
+#include "platform/desktop/smallwidgets.h"
+#include "platform/desktop/window.h"
+
+#include <QAccessibleWidget>
+
+namespace plotvue {
+
+namespace {
+
+QAccessibleInterface* makeAccessible(const QString&, QObject* object)
+{
+    if (auto* window = qobject_cast<Window*>(object))
+        return new QAccessibleWidget(window, QAccessible::Window);
+    if (auto* picture = qobject_cast<GainLossPicture*>(object))
+        return new QAccessibleWidget(picture, QAccessible::Graphic);
+    return nullptr;
+}
+
+} // namespace
+
+void offerWindowsToAssistiveTechnology()
+{
+    static const bool offered = (QAccessible::installFactory(makeAccessible), true);
+    Q_UNUSED(offered);
+}
+
+} // namespace plotvue
