@@ -1,0 +1,148 @@
+#!/usr/bin/env python3
+"""Takes the pictures of all windows from the samples, on a display of its own.
+
+docs/pictures.py          the pictures of the README, into docs/
+docs/pictures.py --all    every window, light and dark, at 100 % and 200 %: build/pictures/index.html
+
+Needs the release build and xvfb, xclip, xdotool, imagemagick.
+"""
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+PROGRAM = ROOT / "build/release/src/plotvue"
+
+MONTHLY = ["product", "salesman", "customer", "custcat", "custpack", "prodware", "salesjournal", "site",
+           "driver", "truck", "cstore", "glexpense", "glhistory", "latecharge", "active"]
+GROUPS = ["salesmencategories", "categoriessalesmen"]
+RANKED = ["monthtomonth", "profitrank", "pastdue", "vendors", "ratios"]
+# What is pressed before the picture is taken; a drill-down is the first row of its list.
+KEYS = {name + "-chart": ["Down", "Return"] for name in RANKED}
+README = ["product", "monthtomonth", "monthtomonth-chart", "pastdue-chart", "salesmencategories", "glhistory"]
+
+DARK = """[Colors:Window]
+BackgroundNormal=49,54,59
+ForegroundNormal=239,240,241
+[Colors:View]
+BackgroundNormal=35,38,41
+BackgroundAlternate=42,46,50
+ForegroundNormal=239,240,241
+[Colors:Button]
+BackgroundNormal=59,64,69
+ForegroundNormal=239,240,241
+[Colors:Selection]
+BackgroundNormal=61,174,233
+ForegroundNormal=252,252,252
+[Colors:Tooltip]
+BackgroundNormal=49,54,59
+ForegroundNormal=239,240,241
+"""
+
+
+class Display:
+    """A virtual display; everything started on it ends with it."""
+
+    def __init__(self):
+        read, write = os.pipe()
+        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "2400x1800x24"],
+                                       pass_fds=[write], stderr=subprocess.DEVNULL)
+        os.close(write)
+        self.name = ":" + os.fdopen(read).readline().strip()
+        self.environment = {**os.environ, "DISPLAY": self.name, "QT_QPA_PLATFORM": "xcb"}
+        self.environment.pop("SESSION_MANAGER", None)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.server.terminate()
+        self.server.wait()
+
+    def run(self, *command, **options):
+        return subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=20, **options)
+
+    def windows(self):
+        return self.run("xdotool", "search", "--onlyvisible", "--class", "plotvue").stdout.split()
+
+
+def wait_for(condition, seconds=10):
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        if condition():
+            return
+        time.sleep(0.05)
+    raise SystemExit("a window did not appear")
+
+
+def take(display, name, picture, directory, extra):
+    """The picture of the window that stands in front once the keys for it have been pressed."""
+    sample = name.removesuffix("-chart")
+    owner = None
+    if sample != "startup": # else nobody owns the clipboard
+        owner = subprocess.Popen(["xclip", "-quiet", "-selection", "clipboard", ROOT / "samples" / (sample + ".txt")],
+                                 env=display.environment, stderr=subprocess.DEVNULL)
+        time.sleep(0.2)
+    program = subprocess.Popen([PROGRAM], cwd=directory, env={**display.environment, **extra},
+                               stderr=subprocess.DEVNULL)
+    try:
+        if sample == "startup":
+            wait_for(lambda: len(display.windows()) > 0)
+            time.sleep(0.6)
+            display.run("xdotool", "key", "Return")
+        wait_for(lambda: len(display.windows()) > 0)
+        time.sleep(0.4)
+        before = display.windows()
+        for key in KEYS.get(name, []):
+            display.run("xdotool", "key", key)
+            time.sleep(0.3)
+        time.sleep(0.3)
+        front = next((window for window in display.windows() if window not in before), before[-1])
+        picture.parent.mkdir(parents=True, exist_ok=True)
+        display.run("import", "-window", front, "-strip", str(picture), check=True)
+    finally:
+        program.kill()
+        program.wait()
+        if owner:
+            owner.kill()
+            owner.wait()
+
+
+def write_page(folder, names, kinds):
+    rows = "".join(
+        f"<h2>{name}</h2><p>" + "".join(f'<img src="{kind}/{name}.png" alt="{name}, {kind}"> ' for kind in kinds)
+        + "</p>" for name in names)
+    (folder / "index.html").write_text(
+        "<!doctype html><meta charset=utf-8><title>PlotVue, all windows</title>"
+        "<style>img{max-width:48%;vertical-align:top}</style>" + rows)
+
+
+def main():
+    everything = sys.argv[1:] == ["--all"]
+    if sys.argv[1:] and not everything:
+        raise SystemExit(__doc__)
+    if not PROGRAM.exists():
+        raise SystemExit("Build the release preset first: ./run does it.")
+    with Display() as display, tempfile.TemporaryDirectory() as directory:
+        if not everything:
+            for name in README:
+                take(display, name, ROOT / "docs" / (name + ".png"), directory, {})
+            return
+        pathlib.Path(directory, "kdeglobals").write_text(DARK)
+        dark = {"XDG_CONFIG_HOME": directory, "XDG_CURRENT_DESKTOP": "KDE", "KDE_FULL_SESSION": "true",
+                "KDE_SESSION_VERSION": "5", "QT_QPA_PLATFORMTHEME": "kde"}
+        kinds = {"light": {}, "dark": dark, "light-200": {"QT_SCALE_FACTOR": "2"},
+                 "dark-200": {**dark, "QT_SCALE_FACTOR": "2"}}
+        names = ["startup"] + MONTHLY + GROUPS + [n for r in RANKED for n in (r, r + "-chart")]
+        folder = ROOT / "build/pictures"
+        for kind, extra in kinds.items():
+            for name in names:
+                take(display, name, folder / kind / (name + ".png"), directory, extra)
+        write_page(folder, names, list(kinds))
+        print(folder / "index.html")
+
+
+main()

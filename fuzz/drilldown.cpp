@@ -1,0 +1,68 @@
+// The first line is the chosen-row file, the rest the list file: every drill-down window draws and steps.
+#include "fuzz.h"
+#include "platform/recording/recording.h"
+#include "ranked/analyses.h"
+#include "ranked/exchange.h"
+
+#include <filesystem>
+#include <fstream>
+
+using namespace plotvue;
+
+namespace {
+
+// The windows look for their files in the working directory.
+struct Directory {
+    Directory()
+    {
+        std::string path = std::filesystem::temp_directory_path() / "plotvue-XXXXXX";
+        std::filesystem::current_path(mkdtemp(path.data()));
+    }
+    ~Directory()
+    {
+        const std::filesystem::path path = std::filesystem::current_path();
+        std::filesystem::current_path("/");
+        std::filesystem::remove_all(path);
+    }
+};
+
+void write(const char* file, std::string_view bytes)
+{
+    fuzz::always(static_cast<bool>(std::ofstream(file, std::ios::binary) << bytes << std::flush));
+}
+
+void play(const DrillDownDesign& design)
+{
+    RecordingPlatform platform;
+    platform.listener = [](const Event& event) {
+        fuzz::always(event.kind != Event::Kind::Error || !event.text.starts_with(u"PlotVue made a mistake"));
+    };
+    DrillDownWindow window(platform, design);
+    platform.run([&] { window.Show(); });
+    const auto use = [&](auto action) {
+        if (!platform.over && window.loaded())
+            action(window.view());
+    };
+    for (int type = static_cast<int>(design.types.size()) - 1; type >= 0; --type)
+        use([&](View& view) { view.choose("optSales", type); });
+    for (const DrillDownDesign::Explanation& explanation : design.explanations)
+        use([&](View& view) { view.press(explanation.button.name); });
+    for (const Name button : {"cmdNext", "cmdNext", "cmdBack", "cmdBack", "cmdBack"})
+        use([&](View& view) { view.press(button); });
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static const Directory directory;
+    const std::string_view bytes = fuzz::bytesOf(data, size);
+    const std::size_t lineEnd = std::min(bytes.find('\n'), size);
+    for (const DrillDownDesign* design :
+         {&frmM2MpftA, &frmProfRankA, &frmPastdueA, &frmVendInvA, &frmRatioA}) {
+        write(chosenRowFile, bytes.substr(0, lineEnd));
+        write(listFile, bytes.substr(lineEnd));
+        play(*design);
+    }
+    return 0;
+}

@@ -1,0 +1,35 @@
+#include "fuzz.h"
+#include "ranked/analyses.h"
+#include "ranked/reading.h"
+
+#include <algorithm>
+
+using namespace plotvue;
+
+namespace {
+
+void read(const RankedAnalysis& analysis, TextView capture)
+{
+    const RankedReading reading = readRanked(analysis, capture);
+    if (!reading.accepted)
+        return;
+    for (const auto& [control, text] : analysis.summary)
+        text(reading);
+    for (const RankedGrid& grid : analysis.grids)
+        fuzz::mayFail([&] {
+            const std::vector<int> ranks = ranksIn(grid, reading);
+            const int rows = std::max(reading.counts[static_cast<std::size_t>(grid.count)], 0);
+            fuzz::always(ranks.size() == static_cast<std::size_t>(rows));
+            fuzz::always(linesOf(ranks, analysis.key, reading).size() == ranks.size());
+        });
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const Text capture = fuzz::textOf(data, size);
+    for (const RankedAnalysis* analysis : {&frmM2Mpft, &frmProfRank, &frmPastdue, &frmVendInv, &frmRatio})
+        fuzz::mayFail([&] { read(*analysis, capture); });
+    return 0;
+}

@@ -1,0 +1,58 @@
+"""Which room of src/ may include which: an include the other way, or the toolkit outside its room, is a fault."""
+
+import re
+import sys
+from pathlib import Path
+
+CAPTURE = {"capture"}
+CHART = CAPTURE | {"platform/chart"}
+PLATFORM = CHART | {"platform"}
+APP = PLATFORM | {"history", "group", "ranked", "app"}
+
+MAY_INCLUDE = {
+    "capture": CAPTURE,
+    "platform/chart": CHART,
+    "platform": PLATFORM,
+    "platform/recording": PLATFORM | {"platform/recording"},
+    "platform/desktop/chart": CHART | {"platform/desktop/chart"},
+    "platform/desktop": PLATFORM | {"platform/desktop", "platform/desktop/chart"},
+    "history": PLATFORM | {"history"},
+    "group": PLATFORM | {"group"},
+    "ranked": PLATFORM | {"ranked"},
+    "app": APP,
+    "": APP | {"platform/desktop"},  # main.cpp
+}
+
+TOOLKIT = re.compile(r"(Qt?[A-Z]\w*(/.*)?|qt?[a-z0-9_]+\.h|cups/.*|xcb/.*|X11/.*)$")
+TOOLKIT_ROOMS = ("src/platform/desktop/", "src/main.cpp", "tests/desktop/", "tests/replay/desktop", "bench/")
+
+INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
+
+
+def includes(path):
+    for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+        if match := INCLUDE.match(line):
+            yield f"{path}:{number}", match[1], match[2]
+
+
+def faults():
+    for top in ("src", "tests", "bench"):
+        for path in sorted(Path(top).rglob("*")):
+            if path.suffix not in (".cpp", ".h"):
+                continue
+            room = str(path.parent.relative_to("src")).removeprefix(".") if top == "src" else None
+            if room is not None and room not in MAY_INCLUDE:
+                yield f"{path}: tests/checks/rooms.py does not know the room {room}"
+                continue
+            for where, bracket, name in includes(path):
+                if TOOLKIT.match(name) and not str(path).startswith(TOOLKIT_ROOMS):
+                    yield f"{where}: the toolkit, {name}, is not for this room"
+                if room is not None and bracket == '"':
+                    included = str(Path(name).parent).removeprefix(".")
+                    if included not in MAY_INCLUDE[room]:
+                        yield f"{where}: {room or 'main'} may not know {included or name}"
+
+
+found = list(faults())
+print("\n".join(found))
+sys.exit(1 if found else 0)

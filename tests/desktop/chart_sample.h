@@ -1,0 +1,56 @@
+// A shown chart of three months, the newest of them projected, and an empty slot at the end.
+#pragma once
+
+#include "platform/desktop/chart/chart_widget.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace plotvue {
+
+inline ChartContent threeMonths()
+{
+    ChartContent content;
+    content.titles = {{1, u"Sales"}, {2, u"Product: 4711\r"}};
+    content.decimals = 0;
+    content.series = {{1110, 963, 512, 0}, {0, 0, 388, 0}};
+    content.labels = {u"AUG99", u"SEP99", u"OCT99", u""};
+    return content;
+}
+
+inline const ChartDesign projectingDesign{
+    ChartDesign::Bars::Stacked, ChartDesign::Labels::Months, 1, {{1, u"Projected"}}};
+
+struct ShownChart : ChartWidget {
+    ShownChart()
+    {
+        resize(600, 400);
+        setContent(threeMonths(), projectingDesign);
+        show();
+        activateWindow();
+        setFocus();
+        QApplication::processEvents();
+    }
+
+    bool press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) // answers whether the chart took it
+    {
+        QKeyEvent event(QEvent::KeyPress, key, modifiers);
+        QApplication::sendEvent(this, &event);
+        return event.isAccepted();
+    }
+
+    void moveMouse(QPoint to)
+    {
+        QMouseEvent event(QEvent::MouseMove, to, mapToGlobal(to), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(this, &event);
+    }
+
+    void takeMouseAway()
+    {
+        QEvent event(QEvent::Leave);
+        QApplication::sendEvent(this, &event);
+    }
+};
+
+} // namespace plotvue

@@ -1,0 +1,96 @@
+// The desktop platform with a person who acknowledges every box, and a window with every kind of control.
+#pragma once
+
+#include "platform/desktop/desktopplatform.h"
+#include "platform/desktop/desktopview.h"
+#include "platform/desktop/window.h"
+
+#include <QCoreApplication>
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace plotvue::test {
+
+class PlayedDesktop : public DesktopPlatform {
+public:
+    std::vector<Text> messages;
+    std::vector<std::string> endings; // "end", "spin", or the sentence of an error
+
+protected:
+    void showMessage(TextView, TextView text) override
+    {
+        settle();
+        messages.emplace_back(text);
+    }
+    void reportError(TextView sentence) override { endings.emplace_back(sentence.begin(), sentence.end()); }
+    void spin() override { endings.emplace_back("spin"); }
+    void finish() override { endings.emplace_back("end"); }
+};
+
+class DesktopTest : public testing::Test {
+protected:
+    // Notes "control index" for each handler that runs.
+    Handlers noting(std::initializer_list<Name> controls)
+    {
+        Handlers handlers;
+        for (const Name control : controls)
+            handlers[control] = [this, control](int index) {
+                ran.push_back(std::string(control) + ' ' + std::to_string(index));
+            };
+        return handlers;
+    }
+
+    std::unique_ptr<View> build(const Declaration& declaration)
+    {
+        return platform.build(declaration, noting({"cmdGo", "cmdBack", "opt", "Grid1"}),
+                              [this] { ran.emplace_back("close"); });
+    }
+
+    static Window& windowOf(View& view) { return static_cast<DesktopView&>(view).window(); }
+
+    PlayedDesktop platform;
+    std::vector<std::string> ran;
+};
+
+inline Declaration everyControl()
+{
+    return {
+        .name = "every",
+        .caption = u"Every control",
+        .content = {
+            Box::Direction::Row,
+            {column({{Label{.name = "Label1", .text = u"R&D\r", .points = 12, .bold = true}},
+                     {TextBox{.name = "txt", .spokenName = u"Summary"}},
+                     {ListBox{.name = "List1", .spokenName = u"Screens", .items = {u"One", u"Two"}}},
+                     row({{PictureBox{
+                              .name = "Picture1", .spokenName = u"Gain", .shows = PictureBox::Shows::Gain}},
+                          {GridBox{.name = "Grid1",
+                                   .spokenName = u"Figures",
+                                   .format = u"<Rank |Name        |Total  ",
+                                   .figures = {2}},
+                           1}}),
+                     {ChartBox{.name = "Chart1", .titles = {{2, u"By design"}}}, 1}},
+                    1),
+             column({{OptionFrame{.name = "Frame1",
+                                  .caption = u"Months",
+                                  .spokenName = {},
+                                  .group = "opt",
+                                  .options = {{1, u"24 Month"}, {0, u"12 Month"}},
+                                  .chosen = 0}},
+                     {OptionFrame{.name = "Frame2",
+                                  .caption = {},
+                                  .spokenName = u"Groups",
+                                  .group = "opt",
+                                  .options = {{5, u"A & B"}, {6, u"C"}, {7, u"D"}},
+                                  .chosen = 5}},
+                     {Space{}, 1},
+                     {Button{.name = "cmdGo", .caption = u"&Go", .shortcut = u"F5, Ctrl+G"}},
+                     {Button{.name = "cmdBack",
+                             .caption = {},
+                             .spokenName = u"Back",
+                             .picture = Button::Picture::Arrow}}})}}};
+}
+
+} // namespace plotvue::test

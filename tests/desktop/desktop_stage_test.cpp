@@ -1,0 +1,159 @@
+// When windows really come to the screen, the clipboard's line ends, and paper.
+#include "app/application.h"
+#include "desktop/desktop_fixture.h"
+#include "platform/desktop/clipboard.h"
+#include "support/capturebuilder.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QClipboard>
+#include <QMimeData>
+#include <QPainter>
+#include <QPdfWriter>
+
+namespace plotvue {
+
+namespace {
+
+class DesktopStageTest : public test::DesktopTest {
+protected:
+    static bool realised(const Form& form)
+    {
+        const auto& view = static_cast<const DesktopView&>(form.view());
+        return view.isBuilt() && view.window().internalWinId() != 0;
+    }
+
+    static Text productScreen()
+    {
+        test::CaptureBuilder capture;
+        capture.put(1, 1, u"QXM31H          10")
+            .put(2, 1, u"Product: 1234567890 Lawn mower")
+            .put(4, 1, u"-----");
+        capture.put(5, 1, u"JUN99       300      1000       400");
+        return capture.text();
+    }
+
+    static void copy(const Text& text)
+    {
+        QGuiApplication::clipboard()->setText(
+            QString(reinterpret_cast<const QChar*>(text.data()), static_cast<qsizetype>(text.size())));
+    }
+
+    Application app{platform};
+};
+
+TEST_F(DesktopStageTest, StartWithACaptureNeverMakesTheStartUpWindow)
+{
+    copy(productScreen());
+    app.start();
+    const Form& product = *app.window("frmProduct");
+    ASSERT_TRUE(product.visible());
+    EXPECT_FALSE(realised(product)) << "before the handlers are done";
+    platform.settle();
+    EXPECT_TRUE(realised(product));
+    EXPECT_TRUE(static_cast<const DesktopView&>(product.view()).window().isVisible());
+    EXPECT_FALSE(static_cast<const DesktopView&>(app.window("startup")->view()).isBuilt());
+}
+
+TEST_F(DesktopStageTest, StartUpWindowStandsBehindTheMessage)
+{
+    QGuiApplication::clipboard()->clear();
+    app.start();
+    ASSERT_EQ(platform.messages.size(), 1U);
+    EXPECT_TRUE(realised(*app.window("startup")));
+    platform.settle();
+    EXPECT_TRUE(static_cast<const DesktopView&>(app.window("startup")->view()).window().isVisible());
+}
+
+TEST_F(DesktopStageTest, EventLoopBringsTheWindowsAboutByItself)
+{
+    const auto view = build(test::everyControl());
+    view->show();
+    EXPECT_TRUE(view->visible());
+    EXPECT_FALSE(static_cast<DesktopView&>(*view).isBuilt());
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(windowOf(*view).isVisible());
+    platform.settle();
+    EXPECT_TRUE(windowOf(*view).isVisible());
+    view->hide();
+    EXPECT_TRUE(windowOf(*view).isVisible());
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(windowOf(*view).isVisible());
+}
+
+TEST_F(DesktopStageTest, WindowComesBackWhereItWas)
+{
+    const auto view = build(test::everyControl());
+    view->show();
+    platform.settle();
+    windowOf(*view).move(120, 90);
+    const QPoint stood = windowOf(*view).pos();
+    view->hide();
+    platform.settle();
+    view->show();
+    platform.settle();
+    EXPECT_EQ(windowOf(*view).pos(), stood);
+}
+
+TEST_F(DesktopStageTest, ClipboardTextPassesWholeButForLineEnds)
+{
+    const Text raw(u"a\nb\r\nc\rd\n\n\r\r\n\0e\xD800", 17);
+    copy(raw);
+    EXPECT_EQ(platform.clipboardText(), Text(u"a\r\nb\r\nc\rd\r\n\r\n\r\r\n\0e\xD800", 20));
+    EXPECT_EQ(withCarriageReturns(u""), u"");
+    EXPECT_EQ(withCarriageReturns(u"\n"), u"\r\n");
+}
+
+TEST_F(DesktopStageTest, PicturesOnTheClipboardAreNoText)
+{
+    QGuiApplication::clipboard()->setImage(QImage(2, 2, QImage::Format_RGB32));
+    EXPECT_EQ(platform.clipboardText(), u"");
+}
+
+TEST_F(DesktopStageTest, PrintsAsVectorsOnWhite)
+{
+    const auto view = build(test::everyControl());
+    view->show();
+    platform.settle();
+    Window& window = windowOf(*view);
+    const QPalette before = window.palette();
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter paper(&file);
+        paper.setResolution(window.logicalDpiY());
+        QPainter painter(&paper);
+        drawOnPaper(window, painter, QRectF(QPointF(0, 0), paper.pageLayout().paintRectPixels(96).size()));
+    }
+    EXPECT_TRUE(file.data().startsWith("%PDF"));
+    EXPECT_FALSE(file.data().contains("DCTDecode"));
+    EXPECT_EQ(window.palette(), before);
+}
+
+TEST_F(DesktopStageTest, PaperIsWhiteWhateverTheTheme)
+{
+    const auto view = build(test::everyControl());
+    view->show();
+    platform.settle();
+    Window& window = windowOf(*view);
+    QPalette dark(QColor(40, 40, 40), QColor(30, 30, 30));
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(dark);
+    QImage paper(window.size(), QImage::Format_RGB32);
+    paper.fill(Qt::white);
+    {
+        QPainter painter(&paper);
+        drawOnPaper(window, painter, paper.rect());
+    }
+    QApplication::setPalette(light);
+    EXPECT_EQ(paper.pixelColor(2, 2), QColor(Qt::white));
+    qint64 sum = 0;
+    for (int y = 0; y < paper.height(); ++y)
+        for (int x = 0; x < paper.width(); ++x)
+            sum += qGray(paper.pixel(x, y));
+    EXPECT_GT(sum / (paper.width() * paper.height()), 235);
+}
+
+} // namespace
+
+} // namespace plotvue

@@ -1,0 +1,199 @@
+// Every window fits a small screen, and at any size nothing overlaps, sticks out or is cut off.
+#include "app/application.h"
+#include "desktop/desktop_fixture.h"
+#include "platform/desktop/grid.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFile>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTemporaryDir>
+
+#include <filesystem>
+
+namespace plotvue {
+
+namespace {
+
+constexpr QSize smallScreen{790, 560}; // 800 by 600, less the frame
+constexpr QSize roomy{1000, 620};
+
+std::vector<std::string> samples()
+{
+    std::vector<std::string> names;
+    for (const auto& file : std::filesystem::directory_iterator(PLOTVUE_SAMPLES))
+        names.push_back(file.path().stem().string());
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+std::vector<QWidget*> visibleChildren(const QWidget& widget)
+{
+    std::vector<QWidget*> children;
+    for (QObject* child : widget.children())
+        if (auto* inner = qobject_cast<QWidget*>(child); inner && inner->isVisible() && !inner->isWindow())
+            children.push_back(inner);
+    return children;
+}
+
+std::string described(const QWidget& widget)
+{
+    std::string words = widget.metaObject()->className();
+    for (const char* property : {"text", "title", "accessibleName"})
+        words += ' ' + widget.property(property).toString().toStdString();
+    return words;
+}
+
+// What the widget needs to show all of its text.
+QSize needed(const QWidget& widget)
+{
+    if (const auto* label = qobject_cast<const QLabel*>(&widget); label && label->wordWrap())
+        return {0, label->heightForWidth(label->width())};
+    if (qobject_cast<const QGroupBox*>(&widget))
+        return widget.minimumSizeHint();
+    const bool isText = qobject_cast<const QLabel*>(&widget) || qobject_cast<const QAbstractButton*>(&widget);
+    return isText ? widget.sizeHint() : QSize(0, 0);
+}
+
+void expectInOrder(const QWidget& widget)
+{
+    const std::vector<QWidget*> children = visibleChildren(widget);
+    for (const QWidget* child : children) {
+        SCOPED_TRACE(described(*child));
+        const QSize wanted = needed(*child);
+        EXPECT_GE(child->width(), wanted.width());
+        EXPECT_GE(child->height(), wanted.height());
+        EXPECT_TRUE(widget.rect().contains(child->geometry()));
+        for (const QWidget* other : children)
+            EXPECT_TRUE(other == child || !other->geometry().intersects(child->geometry()))
+                << "is overlapped by " << described(*other);
+        if (!qobject_cast<const QAbstractScrollArea*>(child)) // which lays its own out, partly out of sight
+            expectInOrder(*child);
+    }
+}
+
+void expectInOrder(QWidget& window, QSize size)
+{
+    SCOPED_TRACE(std::to_string(size.width()) + " x " + std::to_string(size.height()));
+    window.resize(size);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.size(), size);
+    expectInOrder(window);
+}
+
+class SizesTest : public test::DesktopTest, public testing::WithParamInterface<std::string> {
+protected:
+    SizesTest() : before_(std::filesystem::current_path())
+    {
+        std::filesystem::current_path(directory_.path().toStdString());
+    }
+    ~SizesTest() override { std::filesystem::current_path(before_); }
+
+    static void copy(const std::string& sample)
+    {
+        QFile file(QString::fromStdString(PLOTVUE_SAMPLES "/" + sample + ".txt"));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        QGuiApplication::clipboard()->setText(QString::fromUtf8(file.readAll()));
+    }
+
+    std::vector<Window*> windows()
+    {
+        platform.settle();
+        QCoreApplication::processEvents(); // until all is laid out
+        std::vector<Window*> shown;
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (auto* window = qobject_cast<Window*>(widget); window && window->isVisible())
+                shown.push_back(window);
+        return shown;
+    }
+
+    // Checks the windows that are shown; returns how many.
+    std::size_t expectAllInOrder(QSize screen = smallScreen)
+    {
+        const std::vector<Window*> shown = windows();
+        for (Window* window : shown) {
+            SCOPED_TRACE(window->windowTitle().toStdString());
+            const QSize least = window->minimumSize();
+            EXPECT_LE(least.width(), screen.width());
+            EXPECT_LE(least.height(), screen.height());
+            for (const QSize size : {least, screen, roomy})
+                expectInOrder(*window, size);
+        }
+        return shown.size();
+    }
+
+    void openAll(QSize screen)
+    {
+        copy(GetParam());
+        app.start();
+        EXPECT_EQ(expectAllInOrder(screen), 1U);
+        EXPECT_FALSE(app.window("startup")->visible());
+
+        auto* grid = windows().front()->findChild<GridTable*>();
+        if (!grid || GetParam() == "categoriessalesmen")
+            return;
+        emit grid->rowChosen(1);
+        EXPECT_EQ(expectAllInOrder(screen), 2U) << "the list and its drill-down window";
+    }
+
+    Application app{platform};
+
+private:
+    QTemporaryDir directory_;
+    std::filesystem::path before_;
+};
+
+// While it lives, all letters are larger by half.
+class LargeLetters {
+public:
+    LargeLetters()
+    {
+        QFont large = usual_;
+        large.setPointSizeF(usual_.pointSizeF() * 1.5);
+        QApplication::setFont(large);
+    }
+    LargeLetters(const LargeLetters&) = delete;
+    ~LargeLetters() { QApplication::setFont(usual_); }
+
+private:
+    QFont usual_ = QApplication::font();
+};
+
+TEST_P(SizesTest, WindowsShowAllOfTheirTexts)
+{
+    openAll(smallScreen);
+}
+
+TEST_P(SizesTest, WindowsShowAllOfTheirTextsInLargeLetters)
+{
+    const LargeLetters large;
+    openAll(roomy);
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, SizesTest, testing::ValuesIn(samples()),
+                         [](const auto& sample) { return sample.param; });
+
+TEST_F(SizesTest, StartUpWindowShowsAllOfItsTexts)
+{
+    QGuiApplication::clipboard()->clear();
+    app.start();
+    EXPECT_EQ(expectAllInOrder(), 1U);
+}
+
+TEST_F(SizesTest, StartUpWindowShowsAllOfItsTextsInLargeLetters)
+{
+    const LargeLetters large;
+    QGuiApplication::clipboard()->clear();
+    app.start();
+    EXPECT_EQ(expectAllInOrder(), 1U);
+}
+
+} // namespace
+
+} // namespace plotvue

@@ -1,0 +1,187 @@
+"""Every window, walked through as assistive technology does: nothing without a name, everything in its role."""
+
+import re
+import sys
+import unittest
+
+from accessible import SpokenDesktop
+from desktop import SAMPLES, ended, soon
+
+GROUPS = ["categoriessalesmen", "salesmencategories"]
+RANKED = {
+    "monthtomonth": {"tables": 2, "charts": 2},
+    "pastdue": {"charts": 1},
+    "profitrank": {"charts": 2},
+    "ratios": {"charts": 1, "explanations": ["Formula", "Ratio Notes"]},
+    "vendors": {"charts": 2, "tips": ["Tips"]},
+}
+MONTHLY = sorted({path.stem for path in SAMPLES.glob("*.txt")} - {*GROUPS, *RANKED})
+
+# What a window consists of; everything in it has a name.
+ROLES = {"chart", "image", "label", "list", "list item", "panel", "push button", "radio button", "table", "text"}
+POINT = re.compile(r"[^:]+: .*\d")
+
+
+class Accessibility(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.desktop = SpokenDesktop(program)
+        cls.desktop.__enter__()
+        cls.addClassCleanup(cls.desktop.__exit__)
+
+    def setUp(self):
+        self.desktop.copy(None)
+        self.process = self.desktop.start()
+        self.addCleanup(self.process.wait)
+        self.addCleanup(self.process.terminate)
+        self.application = self.desktop.application(self.process)
+        self.acknowledge("Need Data", "^Clipboard contains no data$")
+        self.start = self.application.shown("Plot Vue!")
+
+    def acknowledge(self, title, text):
+        self.button_of_box(title, text).press()
+        soon("the box goes", lambda: "alert" not in [
+            window.role for window in self.application.children() if window.has("SHOWING")])
+
+    def button_of_box(self, title, text):
+        box = self.application.shown(title, role="alert")
+        words = [node.name for node in box.walk() if node.role == "label"]
+        self.assertEqual(len(words), 1)
+        self.assertRegex(words[0], re.compile(text, re.DOTALL))
+        return box.first("push button", "OK")
+
+    def shows_beside(self, other):
+        """Waits for another window than this."""
+        return soon("a window shows", lambda: next(
+            (window for window in self.application.children()
+             if window.handle != other.handle and window.has("SHOWING")), None))
+
+    def open(self, sample):
+        self.desktop.copy((SAMPLES / f"{sample}.txt").read_bytes())
+        self.start.first("push button", "Refresh").press()
+        window = self.shows_beside(self.start)
+        soon("the start window goes", lambda: not self.start.has("SHOWING"))
+        return window
+
+    def open_drilldown(self, window):
+        soon("the grid has the focus", lambda: window.first("table").has("FOCUSED"))
+        self.desktop.key("Return")
+        return self.shows_beside(window)
+
+    def close(self, window):
+        window.first("push button", "Exit").press()
+        soon("the window goes", lambda: self.start.has("SHOWING") and not window.has("SHOWING"))
+
+    def check(self, window, buttons, charts=0, tables=0):
+        """Every control in the window, and that there are these and no others."""
+        self.assertEqual(window.role, "frame")
+        self.assertNotEqual(window.name, "")
+        controls = list(window.walk())
+        for control in controls:
+            with self.subTest(window=window.name, control=control):
+                self.assertIn(control.role, ROLES)
+                self.assertNotEqual(control.name.strip(), "")
+                self.check_control(control)
+        roles = [control.role for control in controls]
+        self.assertEqual((roles.count("chart"), roles.count("table")), (charts, tables))
+        self.assertEqual([c.name for c in controls if c.role == "push button"], buttons)
+        return controls
+
+    def check_control(self, control):
+        match control.role:
+            case "radio button":
+                frame = control.parent()
+                self.assertEqual(frame.role, "panel")
+                self.assertNotEqual(frame.name, "")
+            case "panel":
+                options = control.children()
+                self.assertEqual({option.role for option in options}, {"radio button"})
+                self.assertEqual(sum(option.has("CHECKED") for option in options), 1)
+            case "chart":
+                points = control.children()
+                self.assertGreater(len(points), 0)
+                for point in points:
+                    self.assertEqual(point.role, "list item")
+                    self.assertRegex(point.name, POINT)
+            case "table":
+                self.check_table(control)
+            case "text":
+                self.assertNotEqual(control.text(), "")
+                self.assertTrue(control.has("READ_ONLY"))
+            case "list":
+                self.assertGreater(len(control.children()), 0)
+
+    def check_table(self, table):
+        rows, columns = table.rows_and_columns()
+        self.assertGreater(rows, 0)
+        self.assertGreater(columns, 1)
+        for column in range(columns):
+            heading = table.heading(column)
+            self.assertEqual(heading.role, "table column header")
+            self.assertNotEqual(heading.name, "")
+            for row in (0, rows - 1):
+                self.assertEqual(table.cell(row, column).role, "table cell")
+        self.assertTrue(all(table.cell(0, column).name for column in range(columns)))
+
+    def test_the_start_window(self):
+        controls = self.check(self.start, ["Refresh", "Exit"])
+        screens = next(control for control in controls if control.role == "list")
+        self.assertEqual(screens.name, "Supported screens")
+        self.assertEqual(len(screens.children()), 19)
+
+    def test_the_windows_of_the_monthly_screens(self):
+        self.assertEqual(len(MONTHLY), 15)
+        for sample in MONTHLY:
+            with self.subTest(sample):
+                window = self.open(sample)
+                self.check(window, ["Print", "Refresh", "Exit"], charts=1)
+                self.close(window)
+
+    def test_the_windows_of_the_group_screens(self):
+        for sample in GROUPS:
+            with self.subTest(sample):
+                window = self.open(sample)
+                self.check(window, ["Print", "Refresh", "Exit"], charts=1,
+                           tables=1 if sample == "categoriessalesmen" else 0)
+                self.close(window)
+
+    def test_the_ranked_lists_and_their_drill_down_windows(self):
+        self.assertEqual(len(RANKED), 5)
+        for sample, what in RANKED.items():
+            with self.subTest(sample):
+                window = self.open(sample)
+                self.check(window, [*what.get("tips", []), "Print", "Exit"], tables=what.get("tables", 1))
+                drilldown = self.open_drilldown(window)
+                self.check(drilldown, [*what.get("explanations", []), "Back", "Down", "Print", "Close"],
+                           charts=what["charts"])
+                drilldown.first("push button", "Close").press()
+                soon("the drill-down window closes", lambda: not drilldown.has("SHOWING"))
+                self.close(window)
+
+    def test_boxes_are_told_with_their_title_and_text(self):
+        window = self.open("ratios")
+        drilldown = self.open_drilldown(window)
+        for button, title, text in (
+            ("Formula", "Formula", r"^Formula in QXM: .+Current month data: "),
+            ("Ratio Notes", "Ratio Notes", "solvency"),
+            ("Back", "PlotVue", "^End of list$"),
+        ):
+            with self.subTest(title):
+                drilldown.first("push button", button).press()
+                self.acknowledge(title, text)
+        soon("the drill-down window closes", lambda: not drilldown.has("SHOWING"))
+        self.close(window)
+
+    def test_the_end_by_an_error_is_told(self):
+        lines = (SAMPLES / "product.txt").read_bytes().split(b"\r\n")
+        newest = next(i for i, line in enumerate(lines) if b"-----" in line[:28]) + 1
+        lines[newest] = b"XXX" + lines[newest][3:]
+        self.desktop.copy(b"\r\n".join(lines))
+        self.start.first("push button", "Refresh").press()
+        self.button_of_box("PlotVue", r"^[A-Z].*\.$").press()
+        self.assertEqual(ended(self.process), 1)
+
+
+if __name__ == "__main__":
+    program = sys.argv.pop()
+    unittest.main(verbosity=2)

@@ -1,0 +1,116 @@
+"""The windows as assistive technology meets them: a real client on a real accessibility bus."""
+
+import os
+
+import gi
+from desktop import Desktop, soon
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi  # noqa: E402
+
+
+class SpokenDesktop(Desktop):
+    """A desktop with an accessibility bus; one a test process, whose client library connects but once."""
+
+    def __enter__(self):
+        super().__enter__()
+        try:
+            read, write = os.pipe()
+            self.launch("dbus-daemon", "--session", "--nofork", f"--print-address={write}", pass_fds=[write])
+            os.close(write)
+            with os.fdopen(read) as pipe:
+                self.env["DBUS_SESSION_BUS_ADDRESS"] = pipe.readline().strip()
+            self.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+            os.environ.update({name: self.env[name] for name in (
+                "DISPLAY", "DBUS_SESSION_BUS_ADDRESS", "XDG_RUNTIME_DIR", "HOME")})
+            Atspi.init()
+            Atspi.set_timeout(5000, 10000)
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def application(self, process):
+        """What the process says of itself, once it is known on the bus."""
+
+        def known():
+            for application in Node(Atspi.get_desktop(0)).children():
+                if application.handle.get_process_id() == process.pid:
+                    return application
+            return None
+
+        application = soon("the program is known on the accessibility bus", known)
+        application.handle.set_cache_mask(Atspi.Cache.NONE)  # ask anew each time
+        return application
+
+
+class Node:
+    """One accessible object."""
+
+    def __init__(self, handle):
+        self.handle = handle
+        self.role = handle.get_role_name()
+        self.name = handle.get_name()
+
+    def __repr__(self):
+        return f"{self.role} {self.name!r}"
+
+    def children(self):
+        found = (self.handle.get_child_at_index(i) for i in range(self.handle.get_child_count()))
+        return [Node(child) for child in found if child]
+
+    def has(self, state):
+        return self.handle.get_state_set().contains(getattr(Atspi.StateType, state))
+
+    def walk(self):
+        """The showing objects below, in their order; but not what a table consists of."""
+        for child in self.children():
+            if child.has("SHOWING"):
+                yield child
+                if child.role != "table":
+                    yield from child.walk()
+
+    def parent(self):
+        return Node(self.handle.get_parent())
+
+    def description(self):
+        return self.handle.get_description()
+
+    def text(self):
+        return Atspi.Text.get_text(self.handle, 0, -1)
+
+    def rows_and_columns(self):
+        return Atspi.Table.get_n_rows(self.handle), Atspi.Table.get_n_columns(self.handle)
+
+    def heading(self, column):
+        return Node(Atspi.Table.get_column_header(self.handle, column))
+
+    def cell(self, row, column):
+        return Node(Atspi.Table.get_accessible_at(self.handle, row, column))
+
+    def press(self):
+        count = Atspi.Action.get_n_actions(self.handle)
+        names = [Atspi.Action.get_action_name(self.handle, i) for i in range(count)]
+        Atspi.Action.do_action(self.handle, names.index("Press"))
+
+    def shown(self, title, role="frame"):
+        """Waits for the application's window of that title."""
+        return soon(f"{role} {title!r} shows", lambda: next(
+            (window for window in self.children()
+             if (window.role, window.name) == (role, title) and window.has("SHOWING")), None))
+
+    def first(self, role, name=None):
+        """The first showing object below of that role, and of that name if one is given."""
+        for node in self.walk():
+            if node.role == role and name in (None, node.name):
+                return node
+        raise AssertionError(f"{self} holds no {role} {name or ''}")
+
+    def focused(self):
+        """The innermost object below that has the focus."""
+        found = None
+        for node in self.walk():
+            # The current item of a list says so whether or not the list has the focus.
+            if node.has("FOCUSED") and (node.role != "list item" or node.parent().has("FOCUSED")):
+                found = node
+        return found

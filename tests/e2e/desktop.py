@@ -1,0 +1,147 @@
+"""A virtual desktop with a window manager, a clipboard and the program on it; nothing of the user's is touched."""
+
+import os
+import re
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+from pathlib import Path
+
+SAMPLES = Path(__file__).resolve().parents[2] / "samples"
+
+
+class NotInTime(AssertionError):
+    """What was waited for did not happen in time."""
+
+
+def soon(what, condition, seconds=20):
+    """Waits until `condition` gives something true and returns that."""
+    end = time.monotonic() + seconds
+    while True:
+        result = condition()
+        if result:
+            return result
+        if time.monotonic() > end:
+            raise NotInTime(f"{what}: not within {seconds} seconds")
+        time.sleep(0.05)
+
+
+class Desktop:
+    """An X display of its own, with a temporary home directory. Use with `with`: it ends what it started."""
+
+    def __init__(self, program, manager="openbox"):
+        self.program = program
+        self.manager = manager
+        self.started = []
+        self.owner = None  # of the clipboard
+
+    def __enter__(self):
+        self.home = Path(tempfile.mkdtemp(prefix="plotvue-"))
+        keep = ("PATH", "LSAN_OPTIONS", "ASAN_OPTIONS")
+        self.env = {name: os.environ[name] for name in keep if name in os.environ}
+        self.env.update(
+            HOME=str(self.home),
+            XDG_RUNTIME_DIR=str(self.home),
+            LANG="C.UTF-8",
+            DBUS_SESSION_BUS_ADDRESS="disabled:",
+            QT_QPA_PLATFORM="xcb",
+        )
+        try:
+            read, write = os.pipe()
+            self.launch("Xvfb", "-displayfd", str(write), "-screen", "0", "1280x900x24", "-nolisten", "tcp",
+                        pass_fds=[write])
+            os.close(write)
+            with os.fdopen(read) as pipe:
+                self.env["DISPLAY"] = ":" + pipe.readline().strip()
+            if self.manager:
+                self.launch(self.manager)
+                soon("the window manager runs", lambda: "(WINDOW)" in self.output(
+                    "xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        for process in reversed(self.started):
+            if process.poll() is None:
+                process.terminate()
+                try:
+                    process.wait(5)
+                except subprocess.TimeoutExpired:
+                    process.kill()
+                    process.wait()
+            for pipe in (process.stdout, process.stderr, process.stdin):
+                if pipe:
+                    pipe.close()
+        shutil.rmtree(self.home, ignore_errors=True)
+
+    def launch(self, *command, **options):
+        for stream in ("stdin", "stdout", "stderr"):
+            options.setdefault(stream, subprocess.DEVNULL)
+        process = subprocess.Popen(command, env=self.env, cwd=self.home, **options)
+        self.started.append(process)
+        return process
+
+    def output(self, *command):
+        return subprocess.run(command, env=self.env, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                              stderr=subprocess.DEVNULL, text=True, check=False).stdout
+
+    def copy(self, capture):
+        """Another process puts the bytes on the clipboard; None takes the text off it."""
+        if self.owner:
+            self.owner.terminate()
+            self.owner.wait()
+            self.owner = None
+        if capture is None:
+            return
+        path = self.home / "capture"
+        path.write_bytes(capture)
+        self.owner = self.launch("xclip", "-quiet", "-selection", "clipboard", "-in", str(path))
+        soon("the capture is on the clipboard", lambda: subprocess.run(
+            ["xclip", "-selection", "clipboard", "-out"], env=self.env, stdout=subprocess.PIPE,
+            stderr=subprocess.DEVNULL, check=False).stdout == capture)
+
+    def start(self):
+        return self.launch(self.program, stderr=subprocess.PIPE)
+
+    def windows(self):
+        """The visible windows of the program: numbers by title."""
+        found = {}
+        for number in self.output("xdotool", "search", "--onlyvisible", "--class", "plotvue").split():
+            title = self.output("xdotool", "getwindowname", number).rstrip("\n")
+            if title:
+                found[title] = number
+        return found
+
+    def window(self, title):
+        """Waits for the window and for its having the focus; returns its number."""
+        number = soon(f"the window {title!r} is shown", lambda: self.windows().get(title))
+        soon(f"the window {title!r} has the focus",
+             lambda: self.output("xdotool", "getwindowfocus").strip() == number)
+        return number
+
+    def gone(self, title):
+        soon(f"the window {title!r} goes", lambda: title not in self.windows())
+
+    def height(self, window):
+        geometry = self.output("xdotool", "getwindowgeometry", "--shell", window)
+        return int(re.search(r"HEIGHT=(\d+)", geometry)[1])
+
+    def key(self, *keys):
+        """Keys for whatever has the focus."""
+        for key in keys:
+            self.output("xdotool", "key", "--clearmodifiers", key)
+
+
+def ended(process, seconds=20):
+    """Exit status of the process; it must end by itself."""
+    try:
+        return process.wait(seconds)
+    except subprocess.TimeoutExpired:
+        raise NotInTime("the program did not end") from None
+
+
+signal.signal(signal.SIGTERM, lambda *_: exit(1))  # a test that takes too long still cleans up

@@ -1,0 +1,112 @@
+"""A print server of the test's own: its queues keep what they are sent."""
+
+import os
+import subprocess
+import tempfile
+from pathlib import Path
+
+from desktop import soon
+
+BACKEND = """#!/bin/sh
+# backend JOB USER TITLE COPIES OPTIONS [FILE]
+[ $# -ge 5 ] || exit 0
+cat "${6:--}" >"$KEPT/$PRINTER-$1.pdf" && echo "$4" >"$KEPT/$PRINTER-$1.copies"
+"""
+
+CUPSD = """
+Listen {top}/socket
+LogLevel warn
+Browsing No
+WebInterface No
+DefaultAuthType None
+PreserveJobHistory Yes
+<Location />
+  Order allow,deny
+  Allow all
+</Location>
+<Policy default>
+  <Limit All>
+    Order deny,allow
+    Allow all
+  </Limit>
+</Policy>
+"""
+
+CUPS_FILES = """
+ServerRoot {top}/etc
+ServerBin {top}/bin
+CacheDir {top}/cache
+StateDir {top}/state
+RequestRoot {top}/spool
+TempDir {top}/spool/tmp
+DocumentRoot {top}/doc
+AccessLog {top}/log/access
+ErrorLog {top}/log/error
+PageLog {top}/log/page
+SetEnv KEPT {top}/kept
+{user}
+"""
+
+QUEUE = """
+<Printer {name}>
+Info {name}
+DeviceURI keep:/{name}
+State Idle
+Accepting Yes
+Shared No
+</Printer>
+"""
+
+
+class PrintServer:
+    """Runs on the desktop given, whose programs see it as theirs; ends with that desktop."""
+
+    def __init__(self, desktop, queues):
+        # Not below the home directory: the server's helpers run as another user when the test runs as root.
+        self.directory = tempfile.TemporaryDirectory(prefix="plotvue-cups-", dir="/tmp")
+        top = Path(self.directory.name)
+        top.chmod(0o755)
+        self.kept = top / "kept"
+        for name in ("etc", "bin/backend", "cache", "state", "spool/tmp", "doc", "log", "kept"):
+            (top / name).mkdir(parents=True)
+        self.kept.chmod(0o777)
+        for name in ("filter", "daemon", "monitor", "notifier"):
+            (top / "bin" / name).symlink_to(Path("/usr/lib/cups") / name)
+        backend = top / "bin/backend/keep"
+        backend.write_text(BACKEND)
+        backend.chmod(0o755)
+        user = "" if os.getuid() == 0 else f"User {os.getuid()}\nGroup {os.getgid()}"
+        (top / "etc/cupsd.conf").write_text(CUPSD.format(top=top))
+        (top / "etc/cups-files.conf").write_text(CUPS_FILES.format(top=top, user=user))
+        (top / "etc/printers.conf").write_text("".join(QUEUE.format(name=name) for name in queues))
+
+        self.desktop = desktop
+        self.log = top / "log/error"
+        desktop.env.update(CUPS_SERVER=f"{top}/socket", CUPS_SERVERROOT=f"{top}/etc")
+        self.process = desktop.launch("/usr/sbin/cupsd", "-f", "-c", f"{top}/etc/cupsd.conf",
+                                      "-s", f"{top}/etc/cups-files.conf")
+        soon("the print server answers",
+             lambda: "scheduler is running" in desktop.output("lpstat", "-r"))
+
+    def close(self):
+        self.process.terminate()
+        self.process.wait()
+        self.directory.cleanup()
+
+    def completed(self, queue):
+        """The names of the queue's completed jobs."""
+        listing = self.desktop.output("lpstat", "-W", "completed", "-o", queue)
+        return [line.split()[0] for line in listing.splitlines()]
+
+    def copies(self, job):
+        return int((self.kept / f"{job}.copies").read_text())
+
+    def page_pixels(self, job):
+        """For every page of the job: how many pixels are not white."""
+        pages = []
+        prefix = self.kept / "page"
+        subprocess.run(["pdftoppm", "-r", "40", "-gray", self.kept / f"{job}.pdf", prefix], check=True)
+        for page in sorted(self.kept.glob("page*.pgm")):
+            pages.append(sum(byte < 250 for byte in page.read_bytes()[15:]))
+            page.unlink()
+        return pages

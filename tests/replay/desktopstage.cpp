@@ -1,0 +1,77 @@
+#include "platform/desktop/desktopplatform.h"
+#include "replay/player.h"
+
+#include <QApplication>
+#include <QClipboard>
+
+namespace plotvue::replay {
+
+namespace {
+
+// The real widgets, with a person who answers every box at once.
+class AnsweringDesktop : public DesktopPlatform {
+public:
+    PrinterAnswer printer;
+    bool over = false;
+
+    double choosePrinter(View&) override
+    {
+        if (printer.kind == PrinterAnswer::Kind::Cancel)
+            throw Failure{u"The printer dialog was cancelled."};
+        return printer.kind == PrinterAnswer::Kind::Fail ? 1 : printer.copies;
+    }
+
+protected:
+    void showMessage(TextView, TextView) override { settle(); }
+
+    void printView(View&) override
+    {
+        if (printer.kind == PrinterAnswer::Kind::Fail)
+            throw Failure{u"The printer does not answer."};
+    }
+
+    void reportError(TextView) override { over = true; }
+    void spin() override { over = true; }
+    void finish() override { over = true; }
+};
+
+class DesktopStage : public Stage {
+public:
+    DesktopStage(int& argc, char** argv) : application_(argc, argv) {}
+
+    Platform& platform() override { return platform_; }
+    void setPrinter(PrinterAnswer answer) override { platform_.printer = answer; }
+    bool over() const override { return platform_.over; }
+
+    void setClipboard(const Text& text) override
+    {
+        if (text.empty())
+            QApplication::clipboard()->clear();
+        else
+            QApplication::clipboard()->setText(
+                QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size())));
+    }
+
+    void settle() override
+    {
+        platform_.settle();
+        QApplication::processEvents();
+        // Outside an event loop nothing else deletes the windows that have retired.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+private:
+    QApplication application_;
+    AnsweringDesktop platform_;
+};
+
+} // namespace
+
+std::unique_ptr<Stage> desktopStage(int& argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<DesktopStage>(argc, argv);
+}
+
+} // namespace plotvue::replay

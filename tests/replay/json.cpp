@@ -1,0 +1,186 @@
+#include "replay/json.h"
+
+#include "capture/utf8.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace plotvue::replay {
+
+namespace {
+
+std::string quoted(std::string_view utf8)
+{
+    constexpr std::string_view hex = "0123456789abcdef";
+    std::string text = "\"";
+    for (const char c : utf8) {
+        if (c == '"' || c == '\\') {
+            text += '\\';
+            text += c;
+        } else if (c == '\r') {
+            text += "\\r";
+        } else if (c == '\n') {
+            text += "\\n";
+        } else if (c == '\t') {
+            text += "\\t";
+        } else if (static_cast<unsigned char>(c) < 0x20) {
+            text += "\\u00";
+            text += hex[static_cast<unsigned char>(c) >> 4];
+            text += hex[c & 0xF];
+        } else {
+            text += c;
+        }
+    }
+    return text + '"';
+}
+
+std::string quoted(TextView text)
+{
+    return quoted(toUtf8(text));
+}
+
+std::string number(double value)
+{
+    std::array<char, 400> buffer;
+    const bool handy = value == 0 || (std::fabs(value) >= 1e-5 && std::fabs(value) < 1e15);
+    const auto format = handy ? std::chars_format::fixed : std::chars_format::general;
+    return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, format).ptr};
+}
+
+std::string number(int value)
+{
+    return std::to_string(value);
+}
+
+template <typename Range, typename Write>
+std::string list(const Range& range, Write write)
+{
+    std::string text = "[";
+    for (const auto& item : range)
+        text += (text.size() > 1 ? "," : "") + write(item);
+    return text + "]";
+}
+
+template <typename Map, typename Write>
+std::string object(const Map& map, Write write)
+{
+    std::string text = "{";
+    for (const auto& [key, value] : map)
+        text += (text.size() > 1 ? "," : "") + quoted(std::to_string(key)) + ":" + write(value);
+    return text + "}";
+}
+
+const auto writeText = [](const Text& text) { return quoted(text); };
+const auto writeNumber = [](auto value) { return number(value); };
+const auto writeTexts = [](const std::vector<Text>& texts) { return list(texts, writeText); };
+const auto writeNumbers = [](const std::vector<double>& values) { return list(values, writeNumber); };
+
+std::string hexColour(const Colour& colour)
+{
+    constexpr std::string_view hex = "0123456789abcdef";
+    std::string text = "#";
+    for (const std::uint8_t part : {colour.red, colour.green, colour.blue}) {
+        text += hex[part >> 4];
+        text += hex[part & 0xF];
+    }
+    return quoted(text);
+}
+
+struct ControlWriter {
+    std::string operator()(const ButtonState& button) const
+    {
+        return R"("kind":"button","caption":)" + quoted(button.caption);
+    }
+    std::string operator()(const LabelState& label) const
+    {
+        return R"("kind":"label","text":)" + quoted(label.text);
+    }
+    std::string operator()(const TextBoxState& box) const
+    {
+        return R"("kind":"text","text":)" + quoted(box.text);
+    }
+    std::string operator()(const ListState& items) const
+    {
+        return R"("kind":"list","items":)" + writeTexts(items.items);
+    }
+    std::string operator()(const OptionsState& group) const
+    {
+        const auto option = [](const OptionState& state) {
+            return R"({"index":)" + number(state.index) + R"(,"caption":)" + quoted(state.caption) +
+                   R"(,"visible":)" + (state.visible ? "true" : "false") + "}";
+        };
+        return R"("kind":"options","chosen":)" + list(group.chosen, writeNumber) + R"(,"options":)" +
+               list(group.options, option);
+    }
+    std::string operator()(const GridState& grid) const
+    {
+        return R"("kind":"grid","format":)" + quoted(grid.format) + R"(,"columns":)" + number(grid.columns) +
+               R"(,"rows":)" + number(grid.rows) + R"(,"cells":)" + list(grid.cells, writeTexts);
+    }
+    std::string operator()(const ChartContent& chart) const
+    {
+        std::string text = R"("kind":"chart","titles":)" + object(chart.titles, writeText);
+        if (chart.decimals)
+            text += R"(,"decimals":)" + number(*chart.decimals);
+        text += R"(,"series":)" + list(chart.series, writeNumbers) + R"(,"labels":)" +
+                writeTexts(chart.labels) + R"(,"hidden":)" + list(chart.hidden, writeNumber) +
+                R"(,"legends":)" + object(chart.legends, writeText) + R"(,"colors":)" +
+                object(chart.colours, hexColour);
+        if (chart.axisMin)
+            text += R"(,"min":)" + number(*chart.axisMin);
+        if (chart.axisMax)
+            text += R"(,"max":)" + number(*chart.axisMax);
+        return text;
+    }
+};
+
+} // namespace
+
+std::string toJson(const Event& event)
+{
+    const auto of = [](std::string_view kind) { return R"({"event":)" + quoted(kind); };
+    const std::string window = R"(,"window":)" + quoted(event.window) + "}";
+    switch (event.kind) {
+    case Event::Kind::Load:
+        return of("load") + window;
+    case Event::Kind::Show:
+        return of("show") + window;
+    case Event::Kind::Hide:
+        return of("hide") + window;
+    case Event::Kind::Unload:
+        return of("unload") + window;
+    case Event::Kind::Print:
+        return of("print") + window;
+    case Event::Kind::Message:
+        return of("message") + R"(,"title":)" + quoted(event.title) + R"(,"text":)" + quoted(event.text) +
+               "}";
+    case Event::Kind::Error:
+        return of("error") + R"(,"text":)" + quoted(event.text) + "}";
+    case Event::Kind::Spin:
+        return of("spin") + "}";
+    case Event::Kind::End:
+        return of("end") + "}";
+    }
+    return {};
+}
+
+std::string toJson(Name window, bool visible, const ViewState& state)
+{
+    std::string text = R"({"window":)" + quoted(window) + R"(,"loaded":true,"visible":)" +
+                       (visible ? "true" : "false") + R"(,"caption":)" + quoted(state.caption) +
+                       R"(,"controls":{)";
+    bool first = true;
+    for (const auto& [name, control] : state.controls) {
+        text += (first ? "" : ",") + quoted(name) + ":{" + std::visit(ControlWriter{}, control) + "}";
+        first = false;
+    }
+    return text + "}}";
+}
+
+std::string unloadedJson(Name window)
+{
+    return R"({"window":)" + quoted(window) + R"(,"loaded":false})";
+}
+
+} // namespace plotvue::replay

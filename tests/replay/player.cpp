@@ -1,0 +1,159 @@
+#include "replay/player.h"
+
+#include "capture/utf8.h"
+#include "replay/json.h"
+
+#include <algorithm>
+#include <charconv>
+#include <fstream>
+#include <istream>
+#include <ostream>
+#include <sstream>
+#include <utility>
+
+namespace plotvue::replay {
+
+namespace {
+
+std::vector<std::string> wordsOf(const std::string& line)
+{
+    std::vector<std::string> words;
+    std::istringstream stream(line);
+    for (std::string word; std::getline(stream, word, ' ');)
+        words.push_back(word);
+    return words;
+}
+
+int wholeNumber(const std::string& word)
+{
+    int value = 0;
+    const char* end = word.data() + word.size();
+    if (const auto read = std::from_chars(word.data(), end, value); read.ec != std::errc{} || read.ptr != end)
+        throw BadLine("'" + word + "' is no number");
+    return value;
+}
+
+} // namespace
+
+Player::Player(Stage& stage, std::ostream& out) : stage_(stage), app_(stage.platform()), out_(out)
+{
+    stage.platform().listener = [this](const Event& event) { out_ << toJson(event) << '\n'; };
+}
+
+void Player::play(std::istream& script)
+{
+    int number = 0;
+    for (std::string line; !stage_.over() && std::getline(script, line);) {
+        ++number;
+        if (line.empty() || line[0] == '#')
+            continue;
+        try {
+            command(wordsOf(line));
+        } catch (const BadLine& bad) {
+            throw BadLine("line " + std::to_string(number) + ": " + bad.what());
+        }
+        if (!stage_.over())
+            stage_.settle();
+    }
+}
+
+void Player::command(const std::vector<std::string>& words)
+{
+    const auto is = [&](std::string_view verb, std::size_t count) {
+        return words[0] == verb && words.size() == count;
+    };
+    if (words[0] == "clipboard") {
+        clipboard(words);
+    } else if (words[0] == "printer") {
+        printer(words);
+    } else if (is("start", 1)) {
+        if (std::exchange(started_, true))
+            throw BadLine("the process has started already");
+        app_.start();
+    } else if (is("click", 3)) {
+        control<ButtonState>(words[1], words[2], view(words[1]).state());
+        view(words[1]).press(words[2]);
+    } else if (is("choose", 4)) {
+        const int index = wholeNumber(words[3]);
+        const ViewState state = view(words[1]).state();
+        const auto& options = control<OptionsState>(words[1], words[2], state).options;
+        if (std::none_of(options.begin(), options.end(),
+                         [&](const auto& option) { return option.index == index; }))
+            throw BadLine(words[2] + " has no option " + words[3]);
+        view(words[1]).choose(words[2], index);
+    } else if (is("row", 4)) {
+        const int row = wholeNumber(words[3]);
+        const ViewState state = view(words[1]).state();
+        if (row < 1 || row >= control<GridState>(words[1], words[2], state).rows)
+            throw BadLine(words[2] + " has no row " + words[3]);
+        view(words[1]).clickRow(words[2], row);
+    } else if (is("close", 2)) {
+        view(words[1]).close();
+    } else if (is("dump", 2)) {
+        dump(words[1]);
+    } else {
+        throw BadLine("no command: " + words[0]);
+    }
+}
+
+void Player::clipboard(const std::vector<std::string>& words)
+{
+    if (words.size() > 2)
+        throw BadLine("clipboard takes one file");
+    if (words.size() == 1)
+        return stage_.setClipboard({});
+    std::ifstream file(words[1], std::ios::binary);
+    if (!file)
+        throw BadLine("cannot read " + words[1]);
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    stage_.setClipboard(fromUtf8(bytes.str()));
+}
+
+void Player::printer(const std::vector<std::string>& words)
+{
+    using Kind = PrinterAnswer::Kind;
+    if (words.size() == 3 && words[1] == "accept")
+        stage_.setPrinter({Kind::Accept, static_cast<double>(wholeNumber(words[2]))});
+    else if (words.size() == 2 && words[1] == "cancel")
+        stage_.setPrinter({Kind::Cancel});
+    else if (words.size() == 2 && words[1] == "fail")
+        stage_.setPrinter({Kind::Fail});
+    else
+        throw BadLine("printer takes accept N, cancel or fail");
+}
+
+void Player::dump(Name window)
+{
+    const Form& shown = form(window);
+    if (shown.loaded())
+        out_ << toJson(window, shown.visible(), shown.view().state()) << '\n';
+    else
+        out_ << unloadedJson(window) << '\n';
+}
+
+Form& Player::form(Name window)
+{
+    Form* found = app_.window(window);
+    if (!found)
+        throw BadLine("no window " + std::string(window));
+    return *found;
+}
+
+View& Player::view(Name window)
+{
+    if (!form(window).loaded())
+        throw BadLine(std::string(window) + " is not loaded");
+    return form(window).view();
+}
+
+template <typename State>
+const State& Player::control(Name window, Name name, const ViewState& state)
+{
+    const auto at = state.controls.find(name);
+    if (at == state.controls.end() || !std::holds_alternative<State>(at->second))
+        throw BadLine(std::string(window) + " has no such control " + std::string(name));
+    return std::get<State>(at->second);
+}
+
+} // namespace plotvue::replay

@@ -1,0 +1,60 @@
+// Plays a script against the windows of one platform.
+#pragma once
+
+#include "app/application.h"
+
+#include <iosfwd>
+#include <optional>
+#include <stdexcept>
+
+namespace plotvue::replay {
+
+struct PrinterAnswer {
+    enum class Kind { Cancel, Accept, Fail } kind = Kind::Cancel;
+    double copies = 1;
+};
+
+// A platform as a script handles it.
+class Stage {
+public:
+    virtual ~Stage() = default;
+    virtual Platform& platform() = 0;
+    virtual void setClipboard(const Text& text) = 0; // empty: no text
+    virtual void setPrinter(PrinterAnswer answer) = 0;
+    virtual bool over() const = 0; // the process has ended, failed or spins
+    virtual void settle() {}       // lets what was shown and hidden take effect
+};
+
+std::unique_ptr<Stage> recordingStage();
+std::unique_ptr<Stage> desktopStage(int& argc, char** argv);
+
+// A line that cannot be played.
+struct BadLine : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+class Player {
+public:
+    Player(Stage& stage, std::ostream& out);
+
+    // Plays until the script or the process ends. Throws BadLine, its text holding the line's number.
+    void play(std::istream& script);
+
+private:
+    void command(const std::vector<std::string>& words);
+    void clipboard(const std::vector<std::string>& words);
+    void printer(const std::vector<std::string>& words);
+    void dump(Name window);
+    Form& form(Name window);
+    View& view(Name window);
+
+    template <typename State>
+    const State& control(Name window, Name name, const ViewState& state);
+
+    Stage& stage_;
+    Application app_;
+    std::ostream& out_;
+    bool started_ = false;
+};
+
+} // namespace plotvue::replay

@@ -1,0 +1,34 @@
+#include "platform/recording/recording.h"
+#include "replay/player.h"
+
+namespace plotvue::replay {
+
+namespace {
+
+class RecordingStage : public Stage {
+public:
+    Platform& platform() override { return platform_; }
+    void setClipboard(const Text& text) override { platform_.clipboard = text; }
+    bool over() const override { return platform_.over; }
+
+    void setPrinter(PrinterAnswer answer) override
+    {
+        using Answer = RecordingPlatform::Printer::Answer;
+        platform_.printer.copies = answer.copies;
+        platform_.printer.answer = answer.kind == PrinterAnswer::Kind::Accept ? Answer::Accept
+                                   : answer.kind == PrinterAnswer::Kind::Fail ? Answer::Fail
+                                                                              : Answer::Cancel;
+    }
+
+private:
+    RecordingPlatform platform_;
+};
+
+} // namespace
+
+std::unique_ptr<Stage> recordingStage()
+{
+    return std::make_unique<RecordingStage>();
+}
+
+} // namespace plotvue::replay

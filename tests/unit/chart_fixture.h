@@ -1,0 +1,73 @@
+// A chart in a type of which every character is 6 wide and every line 12 high.
+#pragma once
+
+#include "platform/chart/layout.h"
+
+#include <sstream>
+#include <string>
+
+namespace plotvue::chart {
+
+class SixByTwelve : public Metrics {
+public:
+    double width(TextView text, TextRole) const override { return 6.0 * static_cast<double>(text.size()); }
+    double height(TextRole) const override { return 12; }
+};
+
+inline Layout laidOut(const ChartContent& content, const ChartDesign& design, Size paper,
+                      double deviceScale = 1)
+{
+    return layoutChart(content, design, paper, SixByTwelve(), deviceScale);
+}
+
+inline std::string narrow(TextView text)
+{
+    std::string bytes;
+    for (const char16_t c : text)
+        bytes += c == u'\u2212' ? '-' : c == u'\u2026' ? '~' : c < 0x80 ? static_cast<char>(c) : '?';
+    return bytes;
+}
+
+// "left,top widthxheight"
+inline std::string describe(const Box& box)
+{
+    std::ostringstream line;
+    line << box.left << ',' << box.top << ' ' << box.width << 'x' << box.height;
+    return line.str();
+}
+
+inline std::string describe(const Line& line)
+{
+    return narrow(line.text) + " @ " + describe(line.box);
+}
+
+template <typename Range, typename Describe>
+std::string lines(const Range& range, Describe describeOne)
+{
+    std::string all;
+    for (const auto& one : range)
+        all += describeOne(one) + '\n';
+    return all;
+}
+
+inline std::string describeBars(const Layout& layout)
+{
+    return lines(layout.bars, [](const Bar& bar) {
+        return std::to_string(bar.slot) + "/" + std::to_string(bar.series) + " " + describe(bar.box) +
+               (bar.up ? " up" : " down") + (bar.end ? " end" : "");
+    });
+}
+
+inline std::string describeValues(const Layout& layout)
+{
+    return lines(layout.values, [](const SlotValue& value) { return describe(value.figure); });
+}
+
+inline std::string describeLabels(const Layout& layout)
+{
+    return lines(layout.labels, [](const SlotLabel& label) {
+        return std::to_string(label.slot) + " " + narrow(label.name.text) + (label.strong ? "" : " weak");
+    });
+}
+
+} // namespace plotvue::chart

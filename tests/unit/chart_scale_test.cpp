@@ -1,0 +1,118 @@
+#include "platform/chart/figure_text.h"
+#include "platform/chart/scale.h"
+#include "unit/chart_fixture.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+
+namespace plotvue::chart {
+
+namespace {
+
+std::string ticks(const Scale& scale)
+{
+    std::string all;
+    for (const double tick : scale.ticks) {
+        if (!all.empty())
+            all += ' ';
+        all += narrow(figureText(tick, scale.decimals));
+    }
+    return all;
+}
+
+Scale own(double low, double high, std::optional<int> decimals, int steps = 5)
+{
+    return scaleFor({low, high}, {{}, {}, decimals, steps});
+}
+
+} // namespace
+
+TEST(ChartScale, TakesTheFirstStepThatIsWideEnough)
+{
+    EXPECT_EQ(ticks(own(0, 5, 0)), "0 1 2 3 4 5");
+    EXPECT_EQ(ticks(own(0, 9, 0)), "0 2 4 6 8 10");
+    EXPECT_EQ(ticks(own(0, 120, 0)), "0 25 50 75 100 125");
+    EXPECT_EQ(ticks(own(0, 140, 0)), "0 50 100 150");
+    EXPECT_EQ(ticks(own(0, 390, 0)), "0 100 200 300 400");
+}
+
+TEST(ChartScale, StepsAreWhatTheDecimalsCanWrite)
+{
+    EXPECT_EQ(ticks(own(0, 12, 0)), "0 5 10 15");
+    EXPECT_EQ(ticks(own(0, 12, 1)), "0.0 2.5 5.0 7.5 10.0 12.5");
+    EXPECT_EQ(ticks(own(0, 0.4, 0)), "0 1");
+    EXPECT_EQ(ticks(own(0, 1.2, 1)), "0.0 0.5 1.0 1.5");
+    EXPECT_EQ(ticks(own(0, 1.2, 2)), "0.00 0.25 0.50 0.75 1.00 1.25");
+}
+
+TEST(ChartScale, WithoutDecimalsGivenShowsAsManyAsTheStepsNeed)
+{
+    EXPECT_EQ(ticks(own(0, 12, {})), "0.0 2.5 5.0 7.5 10.0 12.5");
+    EXPECT_EQ(ticks(own(0, 1.2, {})), "0.00 0.25 0.50 0.75 1.00 1.25");
+    EXPECT_EQ(ticks(own(0, 450000, {})), "0 100,000 200,000 300,000 400,000 500,000");
+}
+
+TEST(ChartScale, ReachesBelowZero)
+{
+    EXPECT_EQ(ticks(own(-30, 40, 0, 4)), "-40 -20 0 20 40");
+    EXPECT_EQ(ticks(own(-7, 0, 0)), "-8 -6 -4 -2 0");
+    EXPECT_FALSE(std::signbit(own(-7, 0, 0).ticks.back()));
+}
+
+TEST(ChartScale, KeepsGivenEnds)
+{
+    const Scale scale = scaleFor({-1, 2}, {-2.6, 4.3, 1, 5});
+    EXPECT_EQ(scale.min, -2.6);
+    EXPECT_EQ(scale.max, 4.3);
+    EXPECT_EQ(ticks(scale), "-2.0 0.0 2.0 4.0");
+    EXPECT_EQ(ticks(scaleFor({0, 20}, {{}, 25, 0, 4})), "0 10 20");
+}
+
+TEST(ChartScale, AMaximumNotAboveTheMinimumLeavesTheAxisToItself)
+{
+    EXPECT_EQ(ticks(scaleFor({0, 20}, {{}, 0, 0, 4})), "0 5 10 15 20");
+    EXPECT_EQ(ticks(scaleFor({0, 20}, {8, 8, 0, 4})), "0 5 10 15 20");
+    EXPECT_EQ(ticks(scaleFor({0, 0}, {0, 0, 0, 4})), "0 1");
+    const Scale allNegative = scaleFor({-20, 0}, {{}, 0, 0, 4});
+    EXPECT_EQ(allNegative.max, 0);
+    EXPECT_EQ(allNegative.min, -20);
+}
+
+TEST(ChartScale, SurvivesWhatNoScreenShows)
+{
+    const double infinity = std::numeric_limits<double>::infinity();
+    for (const Range reach : {Range{0, 1e300}, Range{-1e305, 1e305}, Range{0, 5e-324}, Range{0, 1e-9}})
+        for (const std::optional<int> decimals :
+             {std::optional<int>(), std::optional(0), std::optional(40)}) {
+            const Scale scale = scaleFor(reach, {infinity, -infinity, decimals, 5});
+            EXPECT_GT(scale.max, scale.min);
+            EXPECT_FALSE(scale.ticks.empty());
+            EXPECT_LE(scale.ticks.size(), 50U);
+        }
+    const Scale faint = scaleFor({0, 1}, {1e18, 1e18 + 1024, 0, 5});
+    EXPECT_LE(faint.ticks.size(), 50U);
+}
+
+TEST(ChartFigureText, WritesThousandsAndMinus)
+{
+    EXPECT_EQ(narrow(figureText(0, 0)), "0");
+    EXPECT_EQ(narrow(figureText(999, 0)), "999");
+    EXPECT_EQ(narrow(figureText(1000, 0)), "1,000");
+    EXPECT_EQ(narrow(figureText(987654321.4, 0)), "987,654,321");
+    EXPECT_EQ(narrow(figureText(1234567.891, 2)), "1,234,567.89");
+    EXPECT_EQ(figureText(-1234.5, 1), u"\u22121,234.5");
+    EXPECT_EQ(narrow(figureText(-0.3, 0)), "0");
+    EXPECT_EQ(narrow(figureText(-0.3, 1)), "-0.3");
+    EXPECT_EQ(narrow(figureText(1e300, 2)), "1.00e+300");
+}
+
+TEST(ChartFigureText, CountsTheDecimalsNeeded)
+{
+    EXPECT_EQ(decimalsNeeded(12, 2), 0);
+    EXPECT_EQ(decimalsNeeded(-2.5, 2), 1);
+    EXPECT_EQ(decimalsNeeded(0.07, 2), 2);
+    EXPECT_EQ(decimalsNeeded(1.0 / 3, 2), 2);
+}
+
+} // namespace plotvue::chart

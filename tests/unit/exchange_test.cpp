@@ -1,0 +1,122 @@
+#include "capture/failure.h"
+#include "ranked/exchange.h"
+#include "support/session.h"
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace plotvue {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Exchange : public testing::Test {
+protected:
+    test::Session session; // for its directory
+};
+
+constexpr mode_t rights = 0777;
+
+mode_t rightsOf(const char* file)
+{
+    struct stat status {};
+    EXPECT_EQ(stat(file, &status), 0);
+    return status.st_mode & rights;
+}
+
+TEST_F(Exchange, TextsStandInQuotesAndNumbersBare)
+{
+    RecordWriter().text(u"ACME").number(12.5).text(u"").number(-3).endRecord().writeTo(listFile);
+    EXPECT_EQ(session.file("plotvue.txt"), "\"ACME\",12.5,\"\",-3\r\n");
+}
+
+TEST_F(Exchange, EveryRecordIsALineOfItsOwn)
+{
+    RecordWriter().number(1).endRecord().number(2).text(u"B").endRecord().writeTo(chosenRowFile);
+    EXPECT_EQ(session.file("plotvue1.txt"), "1\r\n2,\"B\"\r\n");
+}
+
+TEST_F(Exchange, NothingInATextIsDoubledOrEscaped)
+{
+    RecordWriter().text(u"6\" PIPE, \\ \t'A'\r\nB\nC").endRecord().writeTo(scratchFile);
+    EXPECT_EQ(session.file("pvuscrn.txt"), "\"6\" PIPE, \\ \t'A'\r\nB\nC\"\r\n");
+}
+
+TEST_F(Exchange, FilesAreUtf8)
+{
+    RecordWriter().text(u"CAF\u00C9 \u20AC").endRecord().writeTo(listFile);
+    EXPECT_EQ(session.file("plotvue.txt"), "\"CAF\xC3\x89 \xE2\x82\xAC\"\r\n");
+}
+
+TEST_F(Exchange, NumbersHaveAPeriodAndNoExponent)
+{
+    RecordWriter().number(1e15).number(1234567.89).number(0.00001).number(0).endRecord().writeTo(listFile);
+    EXPECT_EQ(session.file("plotvue.txt"), "1000000000000000,1234567.89,0.00001,0\r\n");
+}
+
+TEST_F(Exchange, AFileIsRewrittenWhole)
+{
+    RecordWriter().text(u"A LONG TEXT").endRecord().text(u"MORE").endRecord().writeTo(listFile);
+    RecordWriter().number(1).endRecord().writeTo(listFile);
+    EXPECT_EQ(session.file("plotvue.txt"), "1\r\n");
+}
+
+TEST_F(Exchange, NoRecordsAreAnEmptyFile)
+{
+    RecordWriter().writeTo(listFile);
+    EXPECT_TRUE(session.fileExists("plotvue.txt"));
+    EXPECT_EQ(session.file("plotvue.txt"), "");
+}
+
+TEST_F(Exchange, OnlyTheOwnerReadsAFile)
+{
+    const mode_t before = umask(0);
+    RecordWriter().number(1).endRecord().writeTo(listFile);
+    umask(before);
+    EXPECT_EQ(rightsOf(listFile), 0600u);
+}
+
+TEST_F(Exchange, AFileThatWasOpenToOthersIsClosedToThem)
+{
+    std::ofstream(listFile) << "old";
+    ASSERT_EQ(chmod(listFile, 0644), 0);
+    RecordWriter().number(1).endRecord().writeTo(listFile);
+    EXPECT_EQ(rightsOf(listFile), 0600u);
+}
+
+TEST_F(Exchange, AFileThatCannotBeCreatedIsARunTimeError)
+{
+    fs::create_directory(listFile);
+    try {
+        RecordWriter().number(1).endRecord().writeTo(listFile);
+        FAIL() << "there is a directory of that name";
+    } catch (const Failure& failure) {
+        EXPECT_TRUE(holds(failure.sentence, u"plotvue.txt"));
+        EXPECT_TRUE(failure.sentence.ends_with(u"."));
+    }
+}
+
+TEST_F(Exchange, AFileThatCannotBeWrittenIsARunTimeError)
+{
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit few{10, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &few);
+    bool failed = false;
+    try {
+        RecordWriter().text(Text(1000, u'A')).endRecord().writeTo(listFile);
+    } catch (const Failure&) {
+        failed = true;
+    }
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_TRUE(failed);
+}
+
+} // namespace
+} // namespace plotvue

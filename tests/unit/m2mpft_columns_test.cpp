@@ -1,0 +1,207 @@
+// The columns of the two profit screens: figures fill them to the edges, and on both sides of every border
+// stand other digits, so that a column or a width off by one reads another figure.
+#include "profit_fixture.h"
+
+namespace plotvue::test {
+namespace {
+
+constexpr TextView thirtyLetters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZ1234";
+
+Text entryLine(TextView rank)
+{
+    return u"RANK:" + Text(rank) + u"76543" + u"12345" + u"6" + Text(thirtyLetters) + u"5" + u"abcdefghij" +
+           u"klm";
+}
+
+constexpr TextView partsLine = u"987654321" // 6-14: the figure, where it is read
+                               u"0000"      // 15-18
+                               u"123456789" // 19-27
+                               u"5555"      // 28-31
+                               u"234567891" // 32-40
+                               u"777";
+
+struct Analysis {
+    const RankedAnalysis& list;
+    TextView title, figureMark;
+};
+
+class ProfitColumns : public testing::TestWithParam<Analysis> {
+protected:
+    RankedReading read(const CaptureBuilder& capture)
+    {
+        text_ = capture.text();
+        return readRanked(GetParam().list, text_);
+    }
+
+    CaptureBuilder screen()
+    {
+        CaptureBuilder capture(1);
+        capture.put(1, 1, GetParam().title);
+        return capture;
+    }
+
+private:
+    Text text_;
+};
+
+TEST_P(ProfitColumns, OfTheEntry)
+{
+    CaptureBuilder capture = screen();
+    const RankedReading reading = read(capture.put(2, 1, entryLine(u"012")));
+    const Entry& entry = reading.entry(12);
+    EXPECT_EQ(entry.numbers[profit::customer], 12345);
+    EXPECT_EQ(entry.texts[profit::customerName], thirtyLetters);
+    EXPECT_EQ(entry.texts[profit::group], u"abcdefghij");
+}
+
+TEST_P(ProfitColumns, OfTheRank)
+{
+    for (const auto& [rank, value] : {std::pair{u"100", 100}, std::pair{u"5  ", 5}, std::pair{u"  7", 7}}) {
+        CaptureBuilder capture = screen();
+        EXPECT_EQ(read(capture.put(2, 1, entryLine(rank))).current, value);
+    }
+}
+
+TEST_P(ProfitColumns, OfTheFigures)
+{
+    CaptureBuilder capture = screen();
+    capture.put(2, 1, entryLine(u"001"));
+    const std::size_t figures = 6;
+    capture.put(3, figures, partsLine).put(3, 1, GetParam().figureMark);
+    const RankedReading reading = read(capture);
+    const Entry& entry = reading.entry(1);
+    EXPECT_EQ(entry.numbers[profit::figure], 987654321);
+    EXPECT_EQ(entry.numbers[profit::volumePart], 123456789);
+    EXPECT_EQ(entry.numbers[profit::marginPart], 234567891);
+}
+
+TEST_P(ProfitColumns, OfTheLabels)
+{
+    CaptureBuilder capture = screen();
+    capture.put(2, 1, u"Mlabel!" + Text(monthLabels) + u"NOV98");
+    EXPECT_EQ(read(capture).page[profit::monthLabels], monthLabels);
+}
+
+INSTANTIATE_TEST_SUITE_P(Both, ProfitColumns,
+                         testing::Values(Analysis{frmM2Mpft, u"TO MONTH PROFIT AN", u"GAIN:"},
+                                         Analysis{frmProfRank, u"RANKED PROFIT AN", u"P:"}),
+                         [](const auto& tested) { return std::string(tested.param.list.window); });
+
+TEST(ProfitTotals, OfTheMonthToMonthScreenHaveTenAndElevenColumns)
+{
+    CaptureBuilder capture(1);
+    capture.put(1, 1, u"TO MONTH PROFIT AN").put(2, 1, u"Mprofit9123456789059876543210131111");
+    const RankedReading reading = readRanked(frmM2Mpft, capture.text());
+    EXPECT_EQ(reading.totals[profit::current], 1234567890);
+    EXPECT_EQ(reading.totals[profit::previous], 98765432101);
+}
+
+TEST(ProfitTotals, OfTheRankedScreenHaveTenColumnsEach)
+{
+    CaptureBuilder capture(1);
+    capture.put(1, 1, u"RANKED PROFIT AN").put(2, 1, u"Mprofit9123456789059876543210131111");
+    const RankedReading reading = readRanked(frmProfRank, capture.text());
+    EXPECT_EQ(reading.totals[profit::current], 1234567890);
+    EXPECT_EQ(reading.totals[profit::previous], 8765432101);
+}
+
+// In the drill-down windows: months of eight characters without a gap, digits before and behind them.
+struct DrillDown {
+    Name list, window;
+    TextView title, figureMark;
+};
+
+class ProfitMonths : public testing::TestWithParam<DrillDown> {
+protected:
+    static double month(int base, int k) { return base + k; }
+
+    static Text months(int base)
+    {
+        Text line = u"99";
+        for (int k = 1; k <= 13; ++k)
+            line += digits(base + k);
+        return line + u"7";
+    }
+
+    // Point p carries month 13 - p.
+    ChartContent chart(int type)
+    {
+        CaptureBuilder capture(1);
+        capture.put(1, 1, GetParam().title)
+            .put(2, 1, u"Mlabel " + Text(monthLabels))
+            .put(3, 1, entryLine(u"001"))
+            .put(4, 6, partsLine)
+            .put(4, 1, GetParam().figureMark)
+            .put(5, 1, months(12345600))
+            .put(6, 1, months(23456700))
+            .put(7, 1, months(34567800));
+        session.start(capture.text());
+        session.clickRow(GetParam().list, gainsGrid, 1);
+        session.choose(GetParam().window, "optSales", type);
+        return session.chart(GetParam().window);
+    }
+
+    Numbers expected(double (*ofMonth)(int k))
+    {
+        Numbers points;
+        for (int k = 13; k >= 1; --k)
+            points.push_back(ofMonth(k));
+        return points;
+    }
+
+    Session session;
+};
+
+TEST_P(ProfitMonths, OfVolumeSalesAndProfit)
+{
+    EXPECT_EQ(chart(0).series, std::vector<Numbers>{expected([](int k) { return month(23456700, k); })});
+    session.choose(GetParam().window, "optSales", 1);
+    EXPECT_EQ(session.chart(GetParam().window).series,
+              std::vector<Numbers>{expected([](int k) { return month(34567800, k); })});
+    session.choose(GetParam().window, "optSales", 2);
+    EXPECT_EQ(session.chart(GetParam().window).series,
+              std::vector<Numbers>{expected([](int k) { return month(12345600, k); })});
+}
+
+TEST_P(ProfitMonths, OfThePercentageReadTheProfitOneCharacterWider)
+{
+    // Behind each profit comes the 3 of the next one, behind the last the 7.
+    EXPECT_EQ(chart(3).series, std::vector<Numbers>{expected([](int k) {
+                  return (month(34567800, k) * 10 + (k == 13 ? 7 : 3)) / month(23456700, k) * 100;
+              })});
+}
+
+TEST_P(ProfitMonths, OfTheUnitProfitReadTheProfitAsItIs)
+{
+    EXPECT_EQ(chart(4).series, std::vector<Numbers>{expected(
+                                   [](int k) { return month(34567800, k) / month(12345600, k) * 100; })});
+}
+
+TEST_P(ProfitMonths, HaveTheirLabels)
+{
+    EXPECT_EQ(chart(0).labels, (Texts{u"OCT98", u"NOV98", u"DEC98", u"JAN99", u"FEB99", u"MAR99", u"APR99",
+                                      u"MAY99", u"JUN99", u"JUL99", u"AUG99", u"SEP99", u"OCT99"}));
+}
+
+TEST_P(ProfitMonths, TheComponentsHaveTheirColumns)
+{
+    chart(0);
+    EXPECT_EQ(session.chart(GetParam().window, "ChartFX2").series,
+              (std::vector<Numbers>{{123456789}, {234567891}}));
+}
+
+TEST_P(ProfitMonths, TheTitlesAreCutFromTheEntryAsTheyStand)
+{
+    const ChartContent content = chart(0);
+    EXPECT_EQ(content.titles, (std::map<int, Text>{{1, u"Sales"},
+                                                   {2, u"Customer: 12345 - " + Text(thirtyLetters)},
+                                                   {3, u"Product: abcdefghij"}}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Both, ProfitMonths,
+                         testing::Values(DrillDown{m2m, m2mA, u"TO MONTH PROFIT AN", u"GAIN:"},
+                                         DrillDown{profRank, profRankA, u"RANKED PROFIT AN", u"P:"}),
+                         [](const auto& tested) { return std::string(tested.param.window); });
+
+} // namespace
+} // namespace plotvue::test

@@ -1,0 +1,250 @@
+#include "unit/pastdue_fixture.h"
+
+namespace plotvue {
+namespace {
+
+using namespace test;
+
+TEST(PastdueList, ShowsTheTitleLineAndARowForEveryCustomer)
+{
+    Session session;
+    session.start(twoCustomers());
+    EXPECT_EQ(session.events(), listOpens("frmPastdue"));
+    EXPECT_EQ(session.caption("frmPastdue"), u"PlotVue");
+    EXPECT_EQ(session.text("frmPastdue", "txtHeader"), u"RANKED PAST DUE RECEIVABLES");
+    EXPECT_EQ(session.grid("frmPastdue").rows, 3);
+    EXPECT_EQ(session.grid("frmPastdue").columns, 7);
+    const std::vector<Texts> rows{
+        {u"1", u"10442", padded(u"NORTHSIDE TRUCKING", 30), padded(u"HARBOR CITY", 15), u"OR", u"1557.5",
+         u"357.5"},
+        {u"2", u"77", padded(u"ACME", 30), padded(u"ELK", 15), u"WA", u"100", u"90"}};
+    EXPECT_EQ(pastdueRows(session), rows);
+}
+
+TEST(PastdueList, ItsHeadingsAreAsWideAsTheirTexts)
+{
+    Session session;
+    session.start(twoCustomers());
+    EXPECT_EQ(session.grid("frmPastdue").format,
+              u"Rank |Customer|Customer Name                                           "
+              u"|City                              |ST |Total A/R |Past Due ");
+}
+
+TEST(PastdueList, EveryFieldOfTheRankLineHasItsColumns)
+{
+    Session session;
+    session.start(hostScreen({
+        pastdueTitle,
+        u"RANK:  1987612345678901234567890123456789012345678901234567890123456789",
+    }));
+    const Texts row{u"1", u"23456", u"890123456789012345678901234567", u"901234567890123", u"56", u"0", u"0"};
+    EXPECT_EQ(pastdueRows(session).at(0), row);
+}
+
+TEST(PastdueList, RankOneHundredIsTheLast)
+{
+    Text capture = hostScreen({pastdueTitle});
+    for (int rank = 1; rank <= 100; ++rank) {
+        const std::string number = std::to_string(rank);
+        const Text digits(number.begin(), number.end());
+        capture += u"RANK:" + Text(3 - digits.size(), u' ') + digits + u"9    " +
+                   Text(5 - digits.size(), u' ') + digits + u"\r\n";
+    }
+    Session session;
+    session.start(capture);
+    EXPECT_EQ(pastdueRows(session).size(), 100u);
+    EXPECT_EQ(pastdueRows(session).at(99).at(1), u"100");
+    EXPECT_EQ(pastdueRows(session).at(8).at(1), u"9");
+}
+
+TEST(PastdueList, AmountsAreEightColumnsFromColumnSeven)
+{
+    Session session;
+    session.start(hostScreen({
+        pastdueTitle,
+        pastdueMonths,
+        u"RANK:  1     10442",
+        u"OCT999"
+        u"10000001"
+        u"20000003"
+        u"30000005"
+        u"40000007"
+        u"50000011"
+        u"60000013"
+        u"70000017"
+        u"80000019"
+        u"9999",
+    }));
+    // 10000001 is not due; 20000003 + 30000005 + 40000007 + 50000011 + 60000013 + 70000017 + 80000019 is.
+    EXPECT_EQ(pastdueRows(session).at(0).at(5), u"360000076");
+    EXPECT_EQ(pastdueRows(session).at(0).at(6), u"350000075");
+}
+
+struct Length {
+    std::size_t characters; // of the line, its carriage return not counted
+    const char16_t* total;
+};
+
+class AgeingLine : public testing::TestWithParam<Length> {};
+
+// Every amount is 1 and stands at the left of its columns, so that a short line cuts none of those it
+// reaches.
+TEST_P(AgeingLine, IsSummedAsFarAsItReaches)
+{
+    const Text whole = u"OCT99 1       1       1       1       1       1       1       1       ";
+    Session session;
+    session.start(hostScreen({pastdueTitle, pastdueMonths, u"RANK:  1     10442",
+                              TextView(whole).substr(0, GetParam().characters)}));
+    EXPECT_EQ(pastdueRows(session).at(0).at(5), GetParam().total);
+}
+
+INSTANTIATE_TEST_SUITE_P(Lengths, AgeingLine,
+                         testing::Values(Length{7, u"1"}, Length{15, u"1"}, Length{21, u"1"},
+                                         Length{22, u"2"}, Length{29, u"2"}, Length{30, u"3"},
+                                         Length{37, u"3"}, Length{38, u"4"}, Length{45, u"4"},
+                                         Length{46, u"5"}, Length{53, u"5"}, Length{54, u"6"},
+                                         Length{61, u"6"}, Length{62, u"7"}, Length{69, u"7"},
+                                         Length{70, u"8"}));
+
+TEST(PastdueList, AnAgeingLineTooShortForABucketIsNotPastDue)
+{
+    Session session;
+    session.start(hostScreen({pastdueTitle, pastdueMonths, u"RANK:  1     10442", u"OCT99     1200    300"}));
+    EXPECT_EQ(pastdueRows(session).at(0).at(5), u"1200");
+    EXPECT_EQ(pastdueRows(session).at(0).at(6), u"0");
+}
+
+TEST(PastdueList, WordsAndBlanksWhereAmountsShouldBeCountNothing)
+{
+    Session session;
+    session.start(hostScreen({pastdueTitle, pastdueMonths, u"RANK:  1       ABC",
+                              ageing(u"OCT99", {u"NONE", u"", u"1,234", u"-2.5-", u"5 0"})}));
+    const Texts row{u"1", u"0", u"", u"", u"", u"48.5", u"48.5"};
+    EXPECT_EQ(pastdueRows(session).at(0), row);
+}
+
+TEST(PastdueList, AgeingLinesCountOnlyBehindTheMonthLabels)
+{
+    Session session;
+    session.start(hostScreen({pastdueTitle, u"RANK:  1     10442", ageing(u"OCT99", {u"1200", u"300"}),
+                              pastdueMonths, u"RANK:  2     10443", ageing(u"OCT99", {u"40", u"2"})}));
+    EXPECT_EQ(pastdueRows(session).at(0).at(5), u"0");
+    EXPECT_EQ(pastdueRows(session).at(1).at(5), u"42");
+}
+
+TEST(PastdueList, BeforeTheMonthLabelsALineOfCrossesIsAnAgeingLine)
+{
+    Session session;
+    session.start(hostScreen({pastdueTitle, u"RANK:  1     10442", u"xxxxx       8"}));
+    EXPECT_EQ(pastdueRows(session).at(0).at(5), u"8");
+}
+
+TEST(PastdueList, OnlyTheCurrentMonthIsTotalled)
+{
+    Session session;
+    session.start(hostScreen({pastdueTitle, pastdueMonths, u"RANK:  1     10442",
+                              ageing(u"SEP99", {u"1200", u"300"}), ageing(u"MAY99", {u"7", u"8"})}));
+    EXPECT_EQ(pastdueRows(session).at(0).at(5), u"0");
+}
+
+TEST(PastdueList, TheMonthLabelsOfALaterPageTakeOver)
+{
+    Session session;
+    session.start(hostScreen({pastdueTitle, pastdueMonths, u"RANK:  1     10442",
+                              ageing(u"OCT99", {u"10", u"1"}), u"Mlabel NOV99OCT99SEP99AUG99JUL99JUN99",
+                              ageing(u"OCT99", {u"99", u"99"}), u"RANK:  2     10443",
+                              ageing(u"NOV99", {u"20", u"2"}), ageing(u"OCT99", {u"99", u"99"})}));
+    // The labels' own line still holds the month before: its blank amounts are the customer's for a while.
+    EXPECT_EQ(pastdueRows(session).at(0).at(5), u"0");
+    EXPECT_EQ(pastdueRows(session).at(1).at(5), u"22");
+}
+
+TEST(PastdueList, MonthLabelsAfterACustomerAreAnAgeingLineOfThatCustomer)
+{
+    Session session;
+    session.start(hostScreen({pastdueTitle, pastdueMonths, u"RANK:  1     10442",
+                              ageing(u"OCT99", {u"10", u"1"}), pastdueMonths}));
+    EXPECT_EQ(pastdueRows(session).at(0).at(5), u"0");
+}
+
+TEST(PastdueList, ALineMayBeRankAndAgeingLineAtOnce)
+{
+    Session session;
+    session.start(hostScreen({
+        pastdueTitle,
+        pastdueMonths,
+        u"RANK:  1     10442",
+        ageing(u"OCT99", {u"3", u"4"}),
+        u"RANK:  2      1200 OCT99 SALES",
+    }));
+    const std::vector<Texts> rows = pastdueRows(session);
+    EXPECT_EQ(rows.at(0).at(5), u"7");
+    EXPECT_EQ(rows.at(1).at(1), u"1200");
+    // "2" of columns 7 to 14, "1200" of 15 to 22 and "99" of 23 to 30.
+    EXPECT_EQ(rows.at(1).at(5), u"1301");
+    EXPECT_EQ(rows.at(1).at(6), u"1299");
+}
+
+TEST(PastdueList, RanksAreRowsWhateverTheirOrder)
+{
+    Session session;
+    session.start(hostScreen({pastdueTitle, u"RANK:  2     10002", u"RANK:  1     10001"}));
+    EXPECT_EQ(pastdueRows(session).at(0).at(1), u"10001");
+    EXPECT_EQ(pastdueRows(session).at(1).at(1), u"10002");
+}
+
+TEST(PastdueList, AMissingRankLeavesAnEmptyRow)
+{
+    Session session;
+    session.start(
+        hostScreen({pastdueTitle, u"RANK:  1     10001", u"RANK:  3     10003", u"RANK:  4     10004"}));
+    // As many rows as customers: the gap pushes the last one out.
+    const Texts gap{u"2", u"0", u"", u"", u"", u"0", u"0"};
+    ASSERT_EQ(pastdueRows(session).size(), 3u);
+    EXPECT_EQ(pastdueRows(session).at(1), gap);
+    EXPECT_EQ(pastdueRows(session).at(2).at(1), u"10003");
+}
+
+TEST(PastdueList, ARankThatComesTwiceIsCountedTwiceAndKeptOnce)
+{
+    Session session;
+    session.start(hostScreen({pastdueTitle, u"RANK:  1     10001", u"RANK:  1     10002"}));
+    ASSERT_EQ(pastdueRows(session).size(), 2u);
+    EXPECT_EQ(pastdueRows(session).at(0).at(1), u"10002");
+    EXPECT_EQ(pastdueRows(session).at(1).at(1), u"0");
+}
+
+TEST(PastdueList, TheLastTitleLineIsShown)
+{
+    Session session;
+    session.start(hostScreen({u"RANKED PAST DUE, PAGE 1", u" RANKED PAST DUE, PAGE 2"}));
+    EXPECT_EQ(session.text("frmPastdue", "txtHeader"), u" RANKED PAST DUE, PAGE 2");
+}
+
+TEST(PastdueList, WithoutCustomersIsEmpty)
+{
+    Session session;
+    session.start(hostScreen({pastdueTitle, pastdueMonths}));
+    EXPECT_EQ(session.grid("frmPastdue").rows, 1);
+}
+
+TEST(PastdueList, ReadsOneThousandLinesAndNoMore)
+{
+    Text capture = hostScreen({pastdueTitle});
+    for (int line = 2; line <= 999; ++line)
+        capture += u".\r\n\r\n"; // the blank lines are none
+    Session session;
+    session.start(capture + hostScreen({u"RANK:  1     10001", u"RANK:  2     10002"}));
+    ASSERT_EQ(pastdueRows(session).size(), 1u);
+    EXPECT_EQ(pastdueRows(session).at(0).at(1), u"10001");
+}
+
+TEST(PastdueList, ALastLineThatIsNotEndedIsNotRead)
+{
+    Session session;
+    session.start(hostScreen({pastdueTitle, u"RANK:  1     10001"}) + u"RANK:  2     10002");
+    EXPECT_EQ(pastdueRows(session).size(), 1u);
+}
+
+} // namespace
+} // namespace plotvue

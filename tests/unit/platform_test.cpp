@@ -1,0 +1,216 @@
+#include "platform/form.h"
+#include "platform/recording/recording.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+namespace plotvue {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// A window with a button that does what the test wants.
+class Window : public Form {
+public:
+    explicit Window(Platform& platform) : Form(platform) {}
+
+    std::function<void()> onLoad = [] {};
+    std::function<void()> onClick = [] {};
+
+    Name name() const override { return "frmAny"; }
+    void print() { printWindow(); }
+
+protected:
+    Declaration declare() const override
+    {
+        return {.name = "frmAny",
+                .caption = u"Any",
+                .content = {Box::Direction::Row, {{Button{.name = "cmdAny", .caption = u"&Any"}}}}};
+    }
+    Handlers handlers() override
+    {
+        return {{"cmdAny", [this](int) { onClick(); }}};
+    }
+    void Form_Load() override { onLoad(); }
+    void wayOut() override { Hide(); }
+};
+
+class Windows : public testing::Test {
+protected:
+    Windows()
+    {
+        platform.listener = [this](const Event& event) {
+            kinds.push_back(event.kind);
+            last = event.text;
+        };
+    }
+
+    std::vector<Event::Kind> kinds;
+    Text last;
+    RecordingPlatform platform;
+    Window window{platform};
+};
+
+using enum Event::Kind;
+
+TEST_F(Windows, AreLoadedWhenTheyAreFirstShown)
+{
+    EXPECT_FALSE(window.loaded());
+    EXPECT_THROW(window.view(), std::out_of_range);
+    window.Show();
+    EXPECT_TRUE(window.loaded());
+    EXPECT_TRUE(window.visible());
+    EXPECT_THAT(kinds, ElementsAre(Load, Show));
+}
+
+TEST_F(Windows, AreBuiltHidden)
+{
+    bool visible = true;
+    window.onLoad = [&] { visible = window.visible(); };
+    window.Show();
+    EXPECT_FALSE(visible);
+}
+
+TEST_F(Windows, AreNotLoadedAgainWhenTheyAreShownAgain)
+{
+    window.Show();
+    window.Hide();
+    window.Show();
+    EXPECT_THAT(kinds, ElementsAre(Load, Show, Hide, Show));
+}
+
+TEST_F(Windows, SayNothingWhenTheyAlreadyAreWhatTheyShallBe)
+{
+    window.Hide();
+    EXPECT_THAT(kinds, IsEmpty());
+    window.Show();
+    window.Show();
+    window.Hide();
+    window.Hide();
+    EXPECT_THAT(kinds, ElementsAre(Load, Show, Hide));
+}
+
+TEST_F(Windows, ThatHideThemselvesWhileTheyLoadStayHidden)
+{
+    window.onLoad = [this] { window.Hide(); };
+    window.Show();
+    EXPECT_TRUE(window.loaded());
+    EXPECT_FALSE(window.visible());
+    EXPECT_THAT(kinds, ElementsAre(Load));
+    window.Show();
+    EXPECT_TRUE(window.visible());
+}
+
+TEST_F(Windows, AreLoadedAfreshAfterTheyWereUnloaded)
+{
+    window.Show();
+    window.Unload();
+    EXPECT_FALSE(window.loaded());
+    EXPECT_FALSE(window.visible());
+    window.Show();
+    EXPECT_THAT(kinds, ElementsAre(Load, Show, Hide, Unload, Load, Show));
+}
+
+TEST_F(Windows, ThatWereNeverLoadedAreNotUnloaded)
+{
+    window.Unload();
+    EXPECT_THAT(kinds, IsEmpty());
+}
+
+TEST_F(Windows, MayUnloadThemselvesInAHandler)
+{
+    window.onClick = [this] { window.Unload(); };
+    window.Show();
+    window.view().press("cmdAny");
+    EXPECT_FALSE(window.loaded());
+    EXPECT_FALSE(platform.over);
+}
+
+TEST_F(Windows, CloseByTheirWayOut)
+{
+    window.Show();
+    window.view().close();
+    EXPECT_THAT(kinds, ElementsAre(Load, Show, Hide));
+}
+
+TEST_F(Windows, EndTheProcess)
+{
+    bool after = false;
+    window.onClick = [&] {
+        platform.end();
+        after = true;
+    };
+    window.Show();
+    window.view().press("cmdAny");
+    EXPECT_THAT(kinds, ElementsAre(Load, Show, End));
+    EXPECT_TRUE(platform.over);
+    EXPECT_FALSE(after);
+}
+
+TEST_F(Windows, ReportARunTimeErrorWithItsSentence)
+{
+    window.onClick = [] { throw Failure{u"It does not fit."}; };
+    window.Show();
+    window.view().press("cmdAny");
+    EXPECT_EQ(kinds.back(), Error);
+    EXPECT_EQ(last, u"It does not fit.");
+    EXPECT_TRUE(platform.over);
+}
+
+TEST_F(Windows, ReportAMistakeOfTheProgramAndEnd)
+{
+    window.onClick = [] { throw std::out_of_range("no such control"); };
+    window.Show();
+    window.view().press("cmdAny");
+    EXPECT_EQ(kinds.back(), Error);
+    EXPECT_TRUE(holds(last, u"no such control"));
+    EXPECT_TRUE(platform.over);
+}
+
+TEST_F(Windows, ReportThatMemoryIsShort)
+{
+    window.onClick = [] { throw std::bad_alloc(); };
+    window.Show();
+    window.view().press("cmdAny");
+    EXPECT_EQ(kinds.back(), Error);
+    EXPECT_TRUE(platform.over);
+}
+
+TEST_F(Windows, SpinWhereAReaderNeverReturns)
+{
+    window.onClick = [] { throw EndlessRead{}; };
+    window.Show();
+    window.view().press("cmdAny");
+    EXPECT_EQ(kinds.back(), Spin);
+    EXPECT_TRUE(platform.over);
+}
+
+TEST_F(Windows, ALoadThatFailsShowsNothing)
+{
+    window.onLoad = [] { throw Failure{u"It does not fit."}; };
+    platform.run([this] { window.Show(); });
+    EXPECT_THAT(kinds, ElementsAre(Load, Error));
+    EXPECT_FALSE(window.visible());
+}
+
+TEST_F(Windows, PrintOnceACopy)
+{
+    window.Show();
+    kinds.clear();
+    platform.printer = {RecordingPlatform::Printer::Answer::Accept, 2};
+    window.print();
+    EXPECT_THAT(kinds, ElementsAre(Print, Print));
+}
+
+TEST_F(Windows, AMessageIsToldWithItsTitle)
+{
+    Text title;
+    platform.listener = [&](const Event& event) { title = event.title; };
+    platform.message(u"Title", u"Text");
+    EXPECT_EQ(title, u"Title");
+}
+
+} // namespace
+} // namespace plotvue
