@@ -95,6 +95,22 @@ TEST_F(DesktopStageTest, WindowComesBackWhereItWas)
     EXPECT_EQ(windowOf(*view).pos(), stood);
 }
 
+TEST_F(DesktopStageTest, WindowBuiltAnewStandsWhereTheLastOfItsNameDid)
+{
+    auto view = build(test::everyControl());
+    view->show();
+    platform.settle();
+    const QPoint place(173, 91);
+    windowOf(*view).setGeometry(QRect(place, windowOf(*view).size()));
+    view->hide();
+    platform.settle();
+
+    view = build(test::everyControl());
+    view->show();
+    platform.settle();
+    EXPECT_EQ(windowOf(*view).geometry().topLeft(), place);
+}
+
 TEST_F(DesktopStageTest, ClipboardTextPassesWholeButForLineEnds)
 {
     const Text raw(u"a\nb\r\nc\rd\n\n\r\r\n\0e\xD800", 17);

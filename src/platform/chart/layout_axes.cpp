@@ -126,8 +126,8 @@ void placeAxes(const LayoutInput& input, Layout& layout, const Box& inner, doubl
     layout.plot.top = layout.snapped(top);
     layout.plot.height = std::max(em, layout.snapped(labelTop - em * .5 - belowBars) - layout.plot.top);
     placeTicks(input, layout, ticksEnd);
-    placeLabels(input, layout, std::move(labels), names ? 1 : stepBetweenLabels(labels, layout.slotWidth, em),
-                layout.plot.bottom() + em * .5 + belowBars, longest);
+    const int step = names ? 1 : stepBetweenLabels(labels, layout.slotWidth, em);
+    placeLabels(input, layout, std::move(labels), step, layout.plot.bottom() + em * .5 + belowBars, longest);
 }
 
 } // namespace plotvue::chart

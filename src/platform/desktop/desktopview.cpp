@@ -30,8 +30,11 @@ DesktopView::DesktopView(Stage& stage, const Declaration& declaration, const Han
 DesktopView::~DesktopView()
 {
     stage_.leave(*this);
-    if (window_)
-        window_->retire();
+    if (!window_)
+        return;
+    if (window_->isVisible())
+        keepPlace();
+    window_->retire();
 }
 
 void DesktopView::show()
@@ -50,19 +53,34 @@ void DesktopView::settle()
 {
     const bool seen = window_ && window_->isVisible();
     if (wanted_ && !seen) {
-        // Said to the native window: a widget that stands there already would not pass it on, and the window
-        // manager would find a place of its own.
-        if (position_ && window().windowState() == Qt::WindowNoState)
-            window().windowHandle()->setPosition(*position_);
+        takePlace();
         window().show();
     } else if (wanted_ && raise_) {
         window_->raise();
         window_->activateWindow();
     } else if (!wanted_ && seen) {
-        position_ = window_->geometry().topLeft();
+        keepPlace();
         window_->hide();
     }
     raise_ = false;
+}
+
+void DesktopView::keepPlace() const
+{
+    stage_.places[declaration_.name] = window_->geometry().topLeft();
+}
+
+void DesktopView::takePlace() const
+{
+    const auto place = stage_.places.find(declaration_.name);
+    if (place == stage_.places.end() || window().windowState() != Qt::WindowNoState)
+        return;
+    // Said to the native window if there is one: a widget that stands there already would not pass it on, and
+    // the window manager would find a place of its own.
+    if (QWindow* native = window().windowHandle())
+        native->setPosition(place->second);
+    else
+        window().setGeometry(QRect(place->second, window().size()));
 }
 
 Window& DesktopView::window() const

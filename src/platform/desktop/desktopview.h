@@ -3,8 +3,6 @@
 
 #include "platform/desktop/windowbuilder.h"
 
-#include <QPoint>
-
 namespace plotvue {
 
 class Stage;
@@ -39,6 +37,8 @@ public:
     bool isBuilt() const { return window_ != nullptr; }
 
 private:
+    void keepPlace() const;
+    void takePlace() const;
     Controls& controls() const;
 
     Stage& stage_;
@@ -47,7 +47,6 @@ private:
     std::function<void()> close_;
     mutable Window* window_ = nullptr; // goes by itself once it is retired
     mutable Controls controls_;
-    std::optional<QPoint> position_; // of the client area, when it was hidden
     bool wanted_ = false, raise_ = false;
 };
 

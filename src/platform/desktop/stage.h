@@ -2,8 +2,12 @@
 // that is shown and hidden again within one event is never seen.
 #pragma once
 
-#include <QObject>
+#include "platform/declaration.h"
 
+#include <QObject>
+#include <QPoint>
+
+#include <map>
 #include <vector>
 
 namespace plotvue {
@@ -14,6 +18,9 @@ class Stage : public QObject {
     Q_OBJECT
 
 public:
+    // Where windows were last seen; one of the same name, built anew too, comes back there.
+    std::map<Name, QPoint> places;
+
     void enter(DesktopView& view) { views_.push_back(&view); }
     void leave(DesktopView& view) { std::erase(views_, &view); }
 

@@ -17,7 +17,6 @@ public:
     ChartPainter(QPainter& painter, const chart::Figures& figures, const chart::Layout& layout,
                  const ChartInks& inks, const ChartFonts& fonts)
         : painter_(painter),
-          figures_(figures),
           layout_(layout),
           inks_(inks),
           fonts_(fonts)
@@ -42,7 +41,6 @@ private:
     void paintSlanted(const chart::Line& line);
 
     QPainter& painter_;
-    const chart::Figures& figures_;
     const chart::Layout& layout_;
     const ChartInks& inks_;
     const ChartFonts& fonts_;
