@@ -36,7 +36,7 @@ def includes(path):
 
 
 def faults():
-    for top in ("src", "tests", "bench"):
+    for top in ("src", "tests", "bench", "fuzz"):
         for path in sorted(Path(top).rglob("*")):
             if path.suffix not in (".cpp", ".h"):
                 continue

@@ -140,7 +140,7 @@ class Files(unittest.TestCase):
             with self.subTest(name, keep=keep):
                 replay = self.charted()
                 self.cut(name, keep)
-                self.fails(replay, f"click {CHARTS} cmdBack", rf"^The file \S+ in the working directory ends too early\.$")
+                self.fails(replay, f"click {CHARTS} cmdBack", rf"^The file {name} .* ends too early\.$")
                 replay = self.charted()
                 self.cut(name, keep)
                 self.ends_the_list(replay, f"click {CHARTS} cmdNext")

@@ -6,8 +6,9 @@ from pathlib import Path
 SAMPLES = Path(__file__).resolve().parents[2] / "samples"
 WHOLE = {path.stem: path.read_bytes() for path in sorted(SAMPLES.glob("*.txt"))}
 
-ODD_FIELDS = [b"1E308", b"-1E308", b"1e-320", b"99999", b"-32769", b"101", b"0", b"-5", b".", b"-", b"", b"XXX", b'"', b'","',
-              "€1,5".encode(), b"\xff\xfe", b"\xed\xa0\x80", b"\0", b"\t", b";", b"GAIN:", b"3A:", b"-----", b"RANK:  7"]
+ODD_FIELDS = [b"1E308", b"-1E308", b"1e-320", b"99999", b"-32769", b"101", b"0", b"-5", b".", b"-", b"", b"XXX", b'"',
+              b'","', "€1,5".encode(), b"\xff\xfe", b"\xed\xa0\x80", b"\0", b"\t", b";", b"GAIN:", b"3A:", b"-----",
+              b"RANK:  7"]
 
 
 def cut(random, lines):

@@ -56,17 +56,48 @@ class Walk:
             self.whole = False
             name, capture = f"damaged{self.copied}", damaged(self.random, capture)
         self.copied += 1
+        self.put(name, capture)
+
+    def put(self, name, capture):
         (self.captures / f"{name}.txt").write_bytes(capture)
         self.do(f"clipboard ../captures/{name}.txt")
+
+    def tour(self):
+        """Once through all windows and their options, from the start window back to it."""
+        for name, capture in WHOLE.items():
+            self.put(name, capture)
+            self.do("click startup Command1")
+            window, = self.visible
+            for first in [offer[0] for offer in self.offers(window) if offer[0].startswith("row")]:
+                self.do(first)
+                for offer in self.offers(window + "A") if window + "A" in self.visible else []:
+                    self.do(*(line for line in offer if line.startswith("choose")))
+                self.do(*(f"close {chart}" for chart in self.visible - {window}))
+            for offer in self.offers(window):
+                self.do(*(line for line in offer if line.startswith("choose")))
+            self.do(f"click {window} cmdExit")
 
     def use(self, window):
         """Does with the window one of the things that it offers, or looks at something that must hold of it."""
         if window in check.HISTORY and self.random.random() < 0.15:
             rule = self.random.choice([check.twice_refreshed_is_the_same, check.shown_again_is_the_same])
             return rule(self, window)
+        offers = [*self.offers(window), [f"close {window}"]]
+        if self.careful and window + "A" in self.visible:
+            # Left alone, the charts would step through the files of whichever list is opened next.
+            offers = [offer for offer in offers if offer[0].startswith("row")]
+        if window == "startup":
+            offers = [["click startup Command1"]]
+            if not self.careful and self.random.random() < 0.02:
+                offers = [["click startup Command2", "close startup"]]
+        action = self.random.choice(self.random.choice(offers))
+        if window in check.LISTS and action.startswith("row") and self.whole:
+            return check.back_then_down_is_the_same(self, window, action)
+        self.do(action)
+
+    def offers(self, window):
+        """What the window's controls offer, a list of lines a control."""
         state = self.replay.state(window)
-        if not state:
-            return
         offers = []
         for name, control in state["controls"].items():
             if control["kind"] == "button":
@@ -76,15 +107,4 @@ class Walk:
                                for option in control["options"] if option["visible"]])
             elif control["kind"] == "grid":
                 offers.append([f"row {window} {name} {row}" for row in range(1, control["rows"])])
-        offers.append([f"close {window}"])
-        if self.careful and window + "A" in self.visible:
-            # Left alone, the charts would step through the files of whichever list is opened next.
-            offers = [offer for offer in offers if offer[0].startswith("row")]
-        if window == "startup":
-            offers = [["click startup Command1"]]
-            if not self.careful and self.random.random() < 0.02:
-                offers = [["click startup Command2", "close startup"]]
-        action = self.random.choice(self.random.choice([offer for offer in offers if offer]))
-        if window in check.LISTS and action.startswith("row") and self.whole:
-            return check.back_then_down_is_the_same(self, window, action)
-        self.do(action)
+        return [offer for offer in offers if offer]

@@ -1,13 +1,26 @@
 """The replay program as a process that is told one thing after the other."""
 
+import argparse
 import json
 import os
 import subprocess
 import tempfile
 from pathlib import Path
 
-BUILT = Path(__file__).resolve().parents[2] / "build/dev/tests/plotvue-replay"
+BUILT = str(Path(__file__).resolve().parents[2] / "build/dev/tests/plotvue-replay")
 ENVIRONMENT = {"QT_QPA_PLATFORM": "offscreen", "QT_LOGGING_RULES": "*.warning=false"}  # of Qt's own
+
+
+def existing(path):
+    """The replay program as an argument."""
+    if not Path(path).exists():
+        raise argparse.ArgumentTypeError(f"{path} is not there: cmake --preset dev && cmake --build --preset dev")
+    return Path(path).resolve()
+
+
+def text(line):
+    """Half a surrogate pair comes as its own three bytes."""
+    return line.decode("utf-8", "surrogatepass")
 
 
 class Replay:
@@ -33,10 +46,10 @@ class Replay:
         answers = []
         while awaited and (line := self.process.stdout.readline()):
             self.printed.append(line)
-            answers.append(json.loads(line))
+            answers.append(json.loads(text(line)))
             awaited -= "event" not in answers[-1]
         if awaited:
-            last = json.loads(self.printed[-1]) if self.printed else {}
+            last = json.loads(text(self.printed[-1])) if self.printed else {}
             self.over = last.get("event", "nothing was printed")
             return answers
         return answers[:-1]
