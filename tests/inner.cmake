@@ -11,6 +11,7 @@ target_compile_definitions(testsupport PUBLIC PLOTVUE_SAMPLES="${PROJECT_SOURCE_
 file(GLOB unit CONFIGURE_DEPENDS unit/*.cpp)
 add_executable(unittests ${unit})
 target_link_libraries(unittests PRIVATE testsupport GTest::gtest_main)
+target_precompile_headers(unittests PRIVATE <gtest/gtest.h> support/session.h support/capturebuilder.h)
 gtest_discover_tests(unittests TEST_PREFIX unit.)
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets PrintSupport)

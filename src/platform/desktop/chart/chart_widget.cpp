@@ -146,7 +146,7 @@ std::optional<int> ChartWidget::pointForKey(const QKeyEvent& event) const
 
 bool ChartWidget::event(QEvent* event)
 {
-    // A shown read-out has the first word on keys that are shortcuts of the window: Esc hides it, then leaves.
+    // A shown read-out has the first word on keys that are shortcuts of the window: Esc hides it first.
     if (event->type() == QEvent::ShortcutOverride && pointForKey(static_cast<QKeyEvent&>(*event))) {
         event->accept();
         return true;
