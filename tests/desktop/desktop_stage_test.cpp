@@ -170,6 +170,41 @@ TEST_F(DesktopStageTest, PaperIsWhiteWhateverTheTheme)
     EXPECT_GT(sum / (paper.width() * paper.height()), 235);
 }
 
+// Where anything is drawn.
+QRect drawnIn(const QImage& paper)
+{
+    QRect drawn;
+    for (int y = 0; y < paper.height(); ++y)
+        for (int x = 0; x < paper.width(); ++x)
+            if (paper.pixelColor(x, y) != QColor(Qt::white))
+                drawn |= QRect(x, y, 1, 1);
+    return drawn;
+}
+
+TEST_F(DesktopStageTest, WindowFillsEitherPaperEitherWayAndKeepsItsShape)
+{
+    const auto view = build(test::everyControl());
+    view->show();
+    platform.settle();
+    Window& window = windowOf(*view);
+    const QSize letter(816, 1056), a4(794, 1123); // at 96 dots an inch
+    for (const QSize page : {letter, letter.transposed(), a4, a4.transposed()}) {
+        QImage paper(page + QSize(200, 200), QImage::Format_RGB32);
+        paper.fill(Qt::white);
+        {
+            QPainter painter(&paper);
+            drawOnPaper(window, painter, QRectF(QPointF(0, 0), page));
+        }
+        const QRect drawn = drawnIn(paper);
+        const QSize whole = window.size().scaled(page, Qt::KeepAspectRatio);
+        EXPECT_TRUE(QRect(QPoint(0, 0), page).contains(drawn)) << page.width() << 'x' << page.height();
+        EXPECT_LE(drawn.width(), whole.width());
+        EXPECT_LE(drawn.height(), whole.height());
+        EXPECT_GT(drawn.width(), whole.width() * 9 / 10);
+        EXPECT_GT(drawn.height(), whole.height() * 9 / 10);
+    }
+}
+
 } // namespace
 
 } // namespace plotvue
