@@ -2,7 +2,7 @@
 """Takes the pictures of all windows from the samples, on a display of its own.
 
 docs/pictures.py          the pictures of the README, into docs/
-docs/pictures.py --all    every window, light and dark, at 100 % and 200 %: build/pictures/index.html
+docs/pictures.py --all    every window, light and dark, at 100 %, 150 % and 200 %: build/pictures/index.html
 
 Needs the release build and xvfb, xclip, xdotool, imagemagick.
 """
@@ -134,7 +134,7 @@ def main():
         pathlib.Path(directory, "kdeglobals").write_text(DARK)
         dark = {"XDG_CONFIG_HOME": directory, "XDG_CURRENT_DESKTOP": "KDE", "KDE_FULL_SESSION": "true",
                 "KDE_SESSION_VERSION": "5", "QT_QPA_PLATFORMTHEME": "kde"}
-        kinds = {"light": {}, "dark": dark, "light-200": {"QT_SCALE_FACTOR": "2"},
+        kinds = {"light": {}, "dark": dark, "light-150": {"QT_SCALE_FACTOR": "1.5"}, "light-200": {"QT_SCALE_FACTOR": "2"},
                  "dark-200": {**dark, "QT_SCALE_FACTOR": "2"}}
         names = ["startup"] + MONTHLY + GROUPS + [n for r in RANKED for n in (r, r + "-chart")]
         folder = ROOT / "build/pictures"
