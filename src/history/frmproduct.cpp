@@ -1,10 +1,12 @@
 // Product history.
 //
-//   1  QXM31H          10/11/99
-//   2  PRODUCT: 0010012345 DIESEL FUEL NO. 2
-//      MON YR    VOLUME     SALES    PROFIT          MON YR    VOLUME     SALES    PROFIT
-//      ----- --------- --------- ---------
-//      OCT99     12345     11234      1234
+//   1  QXM31H       10/11/99     THREE RIVERS FUEL & LUBRICANTS                14:32:08
+//   2  PRODUCT:0020450001DIESEL FUEL NO. 2 LOW SULFUR
+//   3  SALES HISTORY BY MONTH, 25 MONTHS                  VOLUME IN GALLONS
+//   4  MONTH    VOLUME     SALES    PROFIT      MONTH    VOLUME     SALES    PROFIT
+//   5  ----- --------- --------- ---------      ----- --------- --------- ---------
+//   6  OCT99     48725  43755.05   3118.40
+//   7  SEP99    129942 115258.92   9031.08      SEP98    121950  93174.61   7635.50
 
 #include "history/salesfields.h"
 #include "history/screens.h"

@@ -1,12 +1,16 @@
 // Month-to-month profit: the customer/product pairs whose profit changed most, gains and losses apart.
 //
-//     MONTH TO MONTH PROFIT ANALYSIS
-//     FOR SALES ...
-//     Mlabel OCT99SEP99...                                   (thirteen labels from column 8)
-//     Mprofit     9250.00    8000.00
-//     RANK:  1     10442 NORTHSIDE TRUCKING             DIESEL
-//     GAIN:  1250.00        820.00          430.00
-//     V   12345 ...                                          (volume, sales and profit, 13 months each)
+//     MONTH TO MONTH PROFIT ANALYSIS, OCTOBER AND SEPTEMBER 1999
+//     FOR SALES REP 014 R. HALVORSEN, NORTH TERRITORY
+//     Mlabel OCT99SEP99AUG99JUL99JUN99...
+//     Mprofit   36812.00    34331.00
+//     RANK:  1     10386 MILLBROOK TRANSIT              LUBRICANTS
+//     GAIN:   756.00       144.00       612.00
+//     V     1969    1823    1869    1673    1763    1582...
+//     S     8919    8314    8584    7698    7910    7069...
+//     P     2560    1804    2151    1657    1970    1720...
+//
+// The last three lines are volume, sales and profit, 13 months each, the newest first.
 
 #include "ranked/monthcolumns.h"
 #include "ranked/profitanalysis.h"

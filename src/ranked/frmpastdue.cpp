@@ -1,10 +1,14 @@
 // Past-due receivables: customers by what they owe, and one customer's ageing over six months.
 //
-//     RANKED PAST DUE RECEIVABLES
-//     Mlabel OCT99SEP99AUG99JUL99JUN99MAY99                  (the ageing key: six labels, current first)
-//     RANK:  1     10442 NORTHSIDE TRUCKING             HARBOR CITY     OR   12345.00
-//            CURRENT   1-30   31-60 ...                      (bucket captions of 8 characters from column 8)
-//     OCT99    1200     300      50 ...                      (amounts of 8 characters from column 7)
+//     RANKED PAST DUE RECEIVABLES, AS OF 10/31/99
+//     Mlabel OCT99SEP99AUG99JUL99JUN99MAY99
+//     RANK:  1     10288 WESTFORK DAIRY                 ALDER GROVE     WA    18300
+//            CURRENT  1 - 30 31 - 60 61 - 90 91 - 120OVER 120
+//     OCT99    10280    8624    5591    3725     855       0
+//     SEP99    11084    4151    1794     983     394       0
+//
+// The labels are the ageing key, the current month first. A caption has 8 characters from column 8 on, an amount 8
+// from column 7 on.
 
 #include "capture/failure.h"
 #include "capture/number.h"

@@ -1,12 +1,14 @@
 // Ranked profit: the customer/product pairs by their current profit. Built like the month-to-month analysis.
 //
-//     RANKED PROFIT ANALYSIS
-//     FOR SALES ...
-//     Mlabel OCT99SEP99...                                   (thirteen labels from column 8)
-//     Mprofit     9250.00    8000.00
-//     RANK:  1     10442 NORTHSIDE TRUCKING             DIESEL
-//     P:     1250.00        820.00          430.00           (or "GAIN:", whose own figure is not read)
-//     V   12345 ...                                          (volume, sales and profit, 13 months each)
+//     RANKED PROFIT ANALYSIS, OCTOBER 1999
+//     FOR SALES REP 014 R. HALVORSEN, NORTH TERRITORY
+//     Mlabel OCT99SEP99AUG99JUL99JUN99...
+//     Mprofit   36812.00    34331.00
+//     RANK:  1     10386 MILLBROOK TRANSIT              LUBRICANTS
+//     P:     2560.00       623.00       280.00     (or "GAIN:", whose own figure is not read)
+//     V     1969    1823    1869    1673    1763    1582...
+//     S     8919    8314    8584    7698    7910    7069...
+//     P     2560    1804    2151    1657    1970    1720...
 
 #include "ranked/monthcolumns.h"
 #include "ranked/profitanalysis.h"

@@ -1,14 +1,17 @@
 // Financial ratios: value and benchmark of each, 13 months of one, its formula and what it means.
 //
-//     FINANCIAL RATIO ANALYSIS
-//     COMP:NORTHWAY FUEL AND LUBRICANTS
-//     Mlabel OCT99SEP99...                                   (thirteen labels from column 8)
-//     1:CUR       1.82 ...                                   (months 1 to 7, 13 characters from column 9)
-//     2:CUR       1.75 ...                                   (months 8 to 13)
-//     3:     2.00                           1.82          2.00          3A:a name of its own|
-//     4: current month's figures
-//     5: formula
-//     6: note, or STD for the one known by the code
+//     FINANCIAL RATIO ANALYSIS, OCTOBER 1999
+//     COMP:THREE RIVERS FUEL & LUBRICANTS
+//     Mlabel OCT99SEP99AUG99JUL99JUN99...
+//     1:CUR           1.86          1.84          1.81          1.80  ...
+//     2:CUR           1.68          1.66          1.68          1.62  ...
+//     3:         2.00                        1.86          2.00
+//     4: CASS 4,182,300  CLIB 2,298,000
+//     5: CASS / CLIB
+//     6: STD
+//
+// A value has 13 characters, from column 9 on every 14. The sixth line is the note, or STD for the one known by the
+// code; the third may carry a name of the ratio's own behind "3A:".
 
 #include "capture/number.h"
 #include "ranked/analyses.h"

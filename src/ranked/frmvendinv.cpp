@@ -1,12 +1,17 @@
 // Vendor inventory: the beginning-of-month inventory by vendor and product category, 13 months of one pair,
 // and the age of its FIFO inventory.
 //
-//     VENDOR INVENTORY ANALYSIS
-//     Total EOM ...
-//     Mlabel OCT99SEP99...                                   (thirteen labels from column 8)
-//     RANK:  1        CASCADE LUBRICANT SUPPLY             MOTOR OIL
-//     F: 123456.78 12345.67   2.4   10000   20000 ...        (the first two amounts share column 11)
-//     V   12345 ...                                          (volume, sales and profit, 13 months each)
+//     VENDOR INVENTORY ANALYSIS, BEGINNING OF MONTH NOVEMBER 1999
+//     Total EOM FIFO value of all inventory 1,364,497, all warehouses
+//     Mlabel OCT99SEP99AUG99JUL99JUN99...
+//     RANK:  1        HARVEST OIL BLENDERS                 MOTOR OIL
+//     F:   97787   92450   24.9    60702    8434    9218    3467   15967
+//     V     1109    1029    1100     973    1082     912...
+//     S     5241    4850    5205    4466    5046    4099...
+//     P     1409    1281    1423    1197    1196    1162...
+//
+// The labels begin in column 8, the figures of a month every 8 columns from 3; the "F:" line's first two fields
+// share column 11.
 
 #include "capture/failure.h"
 #include "capture/number.h"
