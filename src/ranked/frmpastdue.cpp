@@ -7,8 +7,8 @@
 //     OCT99    10280    8624    5591    3725     855       0
 //     SEP99    11084    4151    1794     983     394       0
 //
-// The labels are the ageing key, the current month first. A caption has 8 characters from column 8 on, an amount 8
-// from column 7 on.
+// The labels are the ageing key, the current month first. A caption has 8 characters from column 8 on, an
+// amount 8 from column 7 on.
 
 #include "capture/failure.h"
 #include "capture/number.h"

@@ -10,8 +10,8 @@
 //     5: CASS / CLIB
 //     6: STD
 //
-// A value has 13 characters, from column 9 on every 14. The sixth line is the note, or STD for the one known by the
-// code; the third may carry a name of the ratio's own behind "3A:".
+// A value has 13 characters, from column 9 on every 14. The sixth line is the note, or STD for the one known
+// by the code; the third may carry a name of the ratio's own behind "3A:".
 
 #include "capture/number.h"
 #include "ranked/analyses.h"

@@ -10,8 +10,8 @@
 //     S     5241    4850    5205    4466    5046    4099...
 //     P     1409    1281    1423    1197    1196    1162...
 //
-// The labels begin in column 8, the figures of a month every 8 columns from 3; the "F:" line's first two fields
-// share column 11.
+// The labels begin in column 8, the figures of a month every 8 columns from 3; the "F:" line's first two
+// fields share column 11.
 
 #include "capture/failure.h"
 #include "capture/number.h"
