@@ -96,6 +96,7 @@ def take(display, name, picture, directory, extra):
         wait_for(lambda: len(display.windows()) > 0)
         time.sleep(0.4)
         before = display.windows()
+        display.run("xdotool", "windowfocus", "--sync", before[-1])
         for key in KEYS.get(name, []):
             display.run("xdotool", "key", key)
             time.sleep(0.3)

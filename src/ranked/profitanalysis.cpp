@@ -97,7 +97,7 @@ std::vector<Item> charts()
             {ChartBox{.name = "ChartFX2",
                       .design = {.bars = ChartDesign::Bars::Grouped, .labels = ChartDesign::Labels::Names},
                       .titles = {{2, u"Volume/Margin components"}}},
-             1}};
+             2}};
 }
 
 void draw(View& view, const Record& record, int type, TextView componentLine)
