@@ -10,12 +10,6 @@ Handlers GroupWindow::handlers()
             {"cmdExit", [this](int) { cmdExit_Click(); }}};
 }
 
-void GroupWindow::cmdExit_Click()
-{
-    Hide();
-    startup_.Show();
-}
-
 void GroupWindow::RefreshChart()
 {
     const Text capture = platform().clipboardText();

@@ -26,7 +26,7 @@ private:
     void optSales_Click() { RefreshChart(); }
     void cmdRefresh_Click() { RefreshChart(); }
     void cmdPrint_Click() { printWindow(); }
-    void cmdExit_Click();
+    void cmdExit_Click() { leaveFor(startup_); }
     void RefreshChart();
 
     Form& startup_;

@@ -25,12 +25,6 @@ void HistoryWindow::Form_Load()
     RefreshChart();
 }
 
-void HistoryWindow::cmdExit_Click()
-{
-    Hide();
-    startup_.Show();
-}
-
 void HistoryWindow::RefreshChart()
 {
     const Text capture = platform().clipboardText();

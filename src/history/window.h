@@ -29,7 +29,7 @@ private:
     void optSales_Click() { RefreshChart(); }
     void cmdRefresh_Click() { RefreshChart(); }
     void cmdPrint_Click() { printWindow(); }
-    void cmdExit_Click();
+    void cmdExit_Click() { leaveFor(startup_); }
 
     // Reads the clipboard afresh, parses it and draws; nothing is kept from one drawing to the next.
     void RefreshChart();

@@ -53,6 +53,12 @@ void Form::load()
     Form_Load();
 }
 
+void Form::leaveFor(Form& home)
+{
+    Hide();
+    home.Show();
+}
+
 void Form::printWindow()
 {
     try {

@@ -34,6 +34,9 @@ protected:
     // Whether a window that was hidden is loaded again when it is next shown.
     virtual bool loadsAnew() const { return false; }
 
+    // Hides this window and shows `home` in its place.
+    void leaveFor(Form& home);
+
     // Asks for a printer and prints the window once a copy. Every failure, cancelling included, ends it
     // without a word.
     void printWindow();

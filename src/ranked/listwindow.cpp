@@ -50,12 +50,6 @@ void RankedListWindow::Form_Load()
         fill(grid);
 }
 
-void RankedListWindow::cmdExit_Click()
-{
-    Hide();
-    startup_.Show();
-}
-
 void RankedListWindow::fill(const RankedGrid& grid)
 {
     GridControl& control = view().grid(grid.box.name);

@@ -26,7 +26,7 @@ protected:
     bool loadsAnew() const override { return true; }
 
 private:
-    void cmdExit_Click();
+    void cmdExit_Click() { leaveFor(startup_); }
     void cmdPrint_Click() { printWindow(); }
     void cmdTips_Click() { platform().message({}, analysis_.tips); }
     void MSFlexGrid_Click(const RankedGrid& grid, int row);
