@@ -6,15 +6,11 @@
 #include <array>
 #include <charconv>
 #include <string>
+#include <string_view>
 
 namespace plotvue {
 
 namespace {
-
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
 
 // The field's characters without those that are skipped, as far as they can belong to a number.
 std::string numberCharacters(TextView field, bool dropCommas)
@@ -30,57 +26,36 @@ std::string numberCharacters(TextView field, bool dropCommas)
     return kept;
 }
 
-std::size_t endOfDigits(const std::string& text, std::size_t from)
-{
-    while (from < text.size() && isDigit(text[from]))
-        ++from;
-    return from;
-}
-
 // A number out of range is too small when its first significant digit stands far behind the point.
-bool tooSmall(const std::string& number)
+bool tooSmall(std::string_view number)
 {
-    const std::size_t e = number.find_first_of("Ee");
-    const std::string mantissa = number.substr(0, e);
-    const auto point = static_cast<std::ptrdiff_t>(std::min(mantissa.find('.'), mantissa.size()));
+    const std::size_t e = std::min(number.find_first_of("Ee"), number.size());
+    const std::string_view mantissa = number.substr(0, e);
+    const auto point = static_cast<std::ptrdiff_t>(std::min(mantissa.find('.'), e));
     const auto first = static_cast<std::ptrdiff_t>(mantissa.find_first_of("123456789"));
-    if (e == std::string::npos)
-        return first > point;
-    std::ptrdiff_t exponent = 0;
-    const bool negative = number[e + 1] == '-';
-    const char* digits = number.data() + e + 1 + (isDigit(number[e + 1]) ? 0 : 1);
-    if (std::from_chars(digits, number.data() + number.size(), exponent).ec != std::errc{})
-        return negative;
-    return point - first + (negative ? -exponent : exponent) < 0;
+    int exponent = 0; // narrow, so that the sum below always fits
+    if (e < number.size()) {
+        const char* digits = number.data() + e + (number[e + 1] == '+' ? 2 : 1);
+        if (std::from_chars(digits, number.data() + number.size(), exponent).ec != std::errc{})
+            return *digits == '-';
+    }
+    return point - first + exponent < 0;
 }
 
 double readNumber(TextView field, bool dropCommas)
 {
     const std::string text = numberCharacters(field, dropCommas);
-    const std::size_t start = !text.empty() && (text[0] == '+' || text[0] == '-') ? 1 : 0;
-    const std::size_t whole = endOfDigits(text, start);
-    const bool point = whole < text.size() && text[whole] == '.';
-    std::size_t end = point ? endOfDigits(text, whole + 1) : whole;
-    if (end - start == (point ? 1u : 0u))
+    if (text.starts_with("+-"))
         return 0;
-    if (end < text.size() && (text[end] == 'E' || text[end] == 'e')) {
-        const std::size_t sign = end + 1 < text.size() && !isDigit(text[end + 1]) ? 1 : 0;
-        const bool signOrDigit = sign == 0 || text[end + 1] == '+' || text[end + 1] == '-';
-        const std::size_t exponent = endOfDigits(text, end + 1 + sign);
-        if (signOrDigit && exponent > end + 1 + sign)
-            end = exponent;
-    }
-    std::string number = text.substr(start, end - start);
-    if (const std::size_t plus = number.find('+'); plus != std::string::npos)
-        number.erase(plus, 1);
+    const char* start = text.data() + (text.starts_with('+') ? 1 : 0); // from_chars takes no plus in front
     double value = 0;
-    const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
-    if (read.ec == std::errc::result_out_of_range) {
-        if (!tooSmall(number))
+    const auto [end, error] = std::from_chars(start, text.data() + text.size(), value);
+    if (error == std::errc::result_out_of_range) {
+        if (!tooSmall({start, end}))
             throw Failure{u"A figure on the screen is too large to be worked with."};
-        value = 0;
+        return 0;
     }
-    return value == 0 || text[0] != '-' ? value : -value;
+    return value == 0 ? 0 : value; // and not minus zero
 }
 
 } // namespace

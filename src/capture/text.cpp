@@ -29,7 +29,7 @@ TextView mid(TextView text, Position start, Position length)
 
 TextView withoutLast(TextView text)
 {
-    return text.substr(0, text.size() - (text.empty() ? 0 : 1));
+    return text.empty() ? text : text.substr(0, text.size() - 1);
 }
 
 } // namespace plotvue

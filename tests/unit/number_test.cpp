@@ -143,6 +143,8 @@ TEST(LeadingNumber, TooLargeForADoubleIsARunTimeError)
     EXPECT_THROW(leadingNumber(u"1E309"), Failure);
     EXPECT_THROW(leadingNumber(u"-1E309"), Failure);
     EXPECT_THROW(leadingNumber(u"1E999999999999999999999999"), Failure);
+    EXPECT_THROW(leadingNumber(u"10E9223372036854775807"), Failure);
+    EXPECT_THROW(leadingNumber(u"10E2147483647"), Failure);
     EXPECT_THROW(leadingNumber(Text(400, u'9')), Failure);
     EXPECT_THROW(leadingNumber(Text(400, u'9') + u"E-5"), Failure);
     EXPECT_THROW(leadingNumber(u"0.01E311"), Failure);
@@ -153,6 +155,8 @@ TEST(LeadingNumber, TooSmallForADoubleIsZero)
     EXPECT_EQ(leadingNumber(u"1E-400"), 0);
     EXPECT_EQ(leadingNumber(u"-1E-400"), 0);
     EXPECT_EQ(leadingNumber(u"1E-999999999999999999999999"), 0);
+    EXPECT_EQ(leadingNumber(u".01E-9223372036854775808"), 0);
+    EXPECT_EQ(leadingNumber(u".01E-2147483648"), 0);
     EXPECT_EQ(leadingNumber(u"." + Text(400, u'0') + u"1"), 0);
     EXPECT_EQ(leadingNumber(u"." + Text(400, u'0') + u"1E5"), 0);
     EXPECT_EQ(leadingNumber(u"0E999"), 0);
@@ -215,6 +219,7 @@ TEST(PlainNumber, AtMostFifteenSignificantDigits)
 {
     EXPECT_EQ(plainNumber(0.1 + 0.2), u"0.3");
     EXPECT_EQ(plainNumber(1.0 / 3), u"0.333333333333333");
+    EXPECT_EQ(plainNumber(-1.0 / 3), u"-0.333333333333333");
     EXPECT_EQ(plainNumber(200.0 / 3), u"66.6666666666667");
     EXPECT_EQ(plainNumber(1234567890123456.0), u"1234567890123460");
     EXPECT_EQ(plainNumber(0.99999999999999999), u"1");

@@ -2,7 +2,9 @@
 #include "capture/text.h"
 #include "capture/utf8.h"
 
+#include <cstring>
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace plotvue {
 namespace {
@@ -147,6 +149,37 @@ TEST(Utf8, ReadsWhatItWrites)
     EXPECT_EQ(fromUtf8(toUtf8(text)), text);
 }
 
+TEST(Utf8, TheFirstAndTheLastOfEachLength)
+{
+    const std::pair<Text, std::string> written[] = {
+        {u"\u007F", "\x7F"},
+        {u"\u0080", "\xC2\x80"},
+        {u"\u07FF", "\xDF\xBF"},
+        {u"\u0800", "\xE0\xA0\x80"},
+        {u"\uD7FF", "\xED\x9F\xBF"},
+        {u"\uE000", "\xEE\x80\x80"},
+        {u"\uFFFF", "\xEF\xBF\xBF"},
+        {u"\U00010000", "\xF0\x90\x80\x80"},
+        {u"\U0010FFFF", "\xF4\x8F\xBF\xBF"},
+        {{u'\xDBFF'}, "\xED\xAF\xBF"}, // halves of pairs
+        {{u'\xDC00'}, "\xED\xB0\x80"},
+        {{u'\xD7FF', u'\xDC00'}, "\xED\x9F\xBF\xED\xB0\x80"},
+        {{u'\xDC00', u'\xDC00'}, "\xED\xB0\x80\xED\xB0\x80"},
+        {{u'\xD800', u'\xDBFF'}, "\xED\xA0\x80\xED\xAF\xBF"},
+        {{u'\xDBFF', u'\xE000'}, "\xED\xAF\xBF\xEE\x80\x80"},
+    };
+    for (const auto& [text, bytes] : written) {
+        EXPECT_EQ(toUtf8(text), bytes);
+        EXPECT_EQ(fromUtf8(bytes), text);
+    }
+}
+
+TEST(Utf8, NothingBehindTheTextIsLookedAt)
+{
+    const Text pair = u"\U0001F6E2";
+    EXPECT_EQ(toUtf8(TextView(pair).substr(0, 1)), "\xED\xA0\xBD");
+}
+
 TEST(Utf8, AnAccentIsOneCharacterSoThatColumnsStay)
 {
     EXPECT_EQ(find(fromUtf8("CAF\xC3\xA9:"), u":"), 5);
@@ -155,10 +188,11 @@ TEST(Utf8, AnAccentIsOneCharacterSoThatColumnsStay)
 TEST(Utf8, BytesThatAreNoUtf8BecomeReplacementCharacters)
 {
     EXPECT_EQ(fromUtf8("A\xFFZ"), u"A\uFFFDZ");
-    EXPECT_EQ(fromUtf8("\xC3"), u"\uFFFD");                  // cut off
-    EXPECT_EQ(fromUtf8("\xC3Z"), u"\uFFFDZ");                // not continued
-    EXPECT_EQ(fromUtf8("\x80"), u"\uFFFD");                  // a continuation alone
-    EXPECT_EQ(fromUtf8("\xC0\x80"), u"\uFFFD\uFFFD");        // longer than need be
+    EXPECT_EQ(fromUtf8("\xC3"), u"\uFFFD");   // cut off
+    EXPECT_EQ(fromUtf8("\xC3Z"), u"\uFFFDZ"); // not continued
+    EXPECT_EQ(fromUtf8("\x80"), u"\uFFFD");   // a continuation alone
+    for (const char* longer : {"\xC0\x80", "\xC1\xBF", "\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF"}) // than need be
+        EXPECT_EQ(fromUtf8(longer), Text(std::strlen(longer), u'\uFFFD'));
     EXPECT_EQ(fromUtf8("\xF4\x90\x80\x80").front(), 0xFFFD); // beyond the last character
 }
 
