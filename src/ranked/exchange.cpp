@@ -14,6 +14,9 @@ namespace plotvue {
 
 namespace {
 
+// A pipe in a file's place must not be waited for.
+constexpr int atOnce = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
+
 [[noreturn]] void failFor(const char* file, TextView what)
 {
     const int reason = errno;
@@ -54,11 +57,14 @@ RecordWriter& RecordWriter::endRecord()
 void RecordWriter::writeTo(const char* file) const
 {
     constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
-    const int descriptor = open(file, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, ownerOnly);
+    const int descriptor = open(file, O_WRONLY | O_CREAT | O_TRUNC | atOnce, ownerOnly);
     if (descriptor < 0)
         failFor(file, u"cannot be created");
-    // A file that is already there keeps the rights it had.
-    bool good = fchmod(descriptor, ownerOnly) == 0;
+    // A file that is already there keeps the rights it had. What a link leads to may be no file: a device
+    // keeps them.
+    struct stat found {};
+    bool good =
+        fstat(descriptor, &found) == 0 && (!S_ISREG(found.st_mode) || fchmod(descriptor, ownerOnly) == 0);
     for (std::size_t done = 0; good && done < bytes_.size();) {
         const ssize_t written = write(descriptor, bytes_.data() + done, bytes_.size() - done);
         good = written >= 0 || errno == EINTR;
@@ -74,9 +80,16 @@ void RecordWriter::writeTo(const char* file) const
 
 RecordReader::RecordReader(const char* file) : file_(file)
 {
-    const int descriptor = open(file, O_RDONLY | O_CLOEXEC);
+    const int descriptor = open(file, O_RDONLY | atOnce);
     if (descriptor < 0)
         failFor(file, u"cannot be opened");
+    // What a link leads to may be no file: a device need not come to an end.
+    struct stat found {};
+    if (fstat(descriptor, &found) == 0 && S_ISCHR(found.st_mode)) {
+        close(descriptor);
+        errno = ENODEV;
+        failFor(file, u"cannot be read");
+    }
     char buffer[1 << 16];
     ssize_t count = 0;
     do {
@@ -92,7 +105,6 @@ RecordReader::RecordReader(const char* file) : file_(file)
 
 std::string_view RecordReader::field()
 {
-    constexpr std::string_view lineEnds = "\r\n";
     const auto from = [this](std::size_t start, std::string_view ends) {
         return std::min(bytes_.find_first_of(ends, start), bytes_.size());
     };
@@ -102,9 +114,9 @@ std::string_view RecordReader::field()
     const bool isQuoted = bytes_[at_] == '"';
     const std::size_t start = isQuoted ? at_ + 1 : at_;
     const std::size_t end = isQuoted ? from(start, "\"") : from(start, ",\r\n");
-    at_ = from(isQuoted ? std::min(end + 1, bytes_.size()) : end, ",\r\n");
+    at_ = from(end, ",\r\n");
     // A comma leads to the next field of the record, a line end to the next record.
-    if (at_ < bytes_.size() && lineEnds.find(bytes_[at_]) == std::string_view::npos)
+    if (bytes_[at_] == ',')
         ++at_;
     return std::string_view(bytes_).substr(start, end - start);
 }

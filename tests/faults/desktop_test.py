@@ -1,17 +1,20 @@
-"""The real program when what it stands on goes away: the clipboard's owner, the display."""
+"""The real program when what it stands on halts or goes away: the clipboard's owner, the display."""
 
 import os
 import signal
+import subprocess
 import sys
 import time
 import unittest
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
-from desktop import SAMPLES, Desktop, ended
+from desktop import SAMPLES, Desktop, ended, soon
 
 PRODUCT = (SAMPLES / "product.txt").read_bytes()
 GAINS = (SAMPLES / "monthtomonth.txt").read_bytes()
+VENDORS = (SAMPLES / "vendors.txt").read_bytes()
+LONG = PRODUCT + b"no screen at all\r\n" * 300_000  # comes in many pieces
 
 
 class OnTheDesktop(unittest.TestCase):
@@ -31,6 +34,52 @@ class OnTheDesktop(unittest.TestCase):
         self.desktop.key("F5")
         self.desktop.window("Plotvue!")
         self.assertIsNone(process.poll())
+        self.still_held(PRODUCT)
+
+    def still_held(self, capture, owner=None):
+        """Whatever has happened, the clipboard is its owner's, and holds what was copied."""
+        self.assertIsNone((owner or self.desktop.owner).poll())
+        held = subprocess.run(["xclip", "-selection", "clipboard", "-out"], env=self.desktop.env,
+                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, timeout=20, check=True).stdout
+        self.assertTrue(held == capture)  # too long to be shown
+
+    def halting_owner(self, capture, pieces):
+        """Another program holds the capture and halts after so many pieces of its answer."""
+        path = self.desktop.home / "long"
+        path.write_bytes(capture)
+        owner = self.desktop.launch(os.environ["OWNER"], str(path), str(pieces))
+        soon("it holds the clipboard", lambda: "UTF8_STRING" in self.desktop.output(
+            "xclip", "-selection", "clipboard", "-t", "TARGETS", "-out"))
+        return owner
+
+    def start_with_an_owner_that_halts(self, pieces):
+        """The program comes back, in the time that the toolkit gives an owner, and says that there is no data."""
+        owner = self.halting_owner(LONG, pieces)
+        process = self.desktop.start()
+        stat = Path(f"/proc/{owner.pid}/stat")
+        soon("the owner has halted", lambda: stat.read_text().rpartition(")")[2].split()[0] == "T")
+        began = time.monotonic()
+        self.need_data()
+        self.assertLess(time.monotonic() - began, 8)
+        return owner, process
+
+    def test_an_owner_that_halts_amid_a_long_answer_and_goes_on(self):
+        owner, process = self.start_with_an_owner_that_halts(pieces=10)
+        owner.send_signal(signal.SIGCONT)
+        self.still_held(LONG, owner)
+        self.desktop.key("F5")
+        self.desktop.window("Plotvue!")
+        self.still_held(LONG, owner)
+        self.assertIsNone(process.poll())
+
+    def test_an_owner_that_halts_amid_a_long_answer_and_another_copy(self):
+        owner, process = self.start_with_an_owner_that_halts(pieces=1)
+        self.charts_the_next_capture(process)
+        owner.send_signal(signal.SIGCONT)
+        self.assertEqual(ended(owner), 0)  # the clipboard is no longer its own
+        self.desktop.key("F5")
+        self.desktop.window("Plotvue!")
+        self.still_held(PRODUCT)
 
     def test_an_owner_that_is_gone_when_it_should_answer(self):
         self.desktop.copy(PRODUCT)
@@ -67,10 +116,38 @@ class OnTheDesktop(unittest.TestCase):
         self.desktop.copy(GAINS)
         process = self.desktop.start()
         self.desktop.window("PlotVue")
+        self.still_held(GAINS)
         self.desktop.key("Return")
         self.assertEqual(ended(process), 1)
+        self.still_held(GAINS)
         self.assertRegex(process.stderr.read().decode(),
                          r"^PlotVue: The file pvuscrn.txt in the working directory cannot be created \(.+\)\.\n$")
+
+    def test_nothing_is_written_but_the_three_files(self):
+        elsewhere, here = self.desktop.home / "elsewhere", self.desktop.home / "here"
+        elsewhere.mkdir(mode=0o700)
+        here.mkdir()
+        variables = [f"{name}={elsewhere}" for name in ("HOME", "TMPDIR", "XDG_RUNTIME_DIR")]
+        self.desktop.copy(VENDORS)
+        process = self.desktop.launch("env", f"--chdir={here}", *variables, program, stderr=subprocess.PIPE)
+        self.desktop.window("PlotVue")
+        self.desktop.key("Return")
+        soon("a row is charted", lambda: (here / "plotvue.txt").exists())
+        self.desktop.key("Page_Down", "ctrl+p")
+        self.desktop.window("Print")
+        self.desktop.key("Escape")
+        self.desktop.gone("Print")
+        self.desktop.key("Escape", "Escape")
+        self.desktop.window("Plot Vue!")
+        self.desktop.copy(PRODUCT)
+        self.desktop.key("F5")
+        self.desktop.window("Plotvue!")
+        self.desktop.key("Escape")
+        self.desktop.window("Plot Vue!")
+        self.desktop.key("Escape")
+        self.assertEqual(ended(process), 0)
+        self.assertEqual(sorted(path.name for path in here.iterdir()), ["plotvue.txt", "plotvue1.txt", "pvuscrn.txt"])
+        self.assertEqual(list(elsewhere.iterdir()), [])
 
 
 if __name__ == "__main__":

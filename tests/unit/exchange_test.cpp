@@ -46,6 +46,12 @@ TEST_F(Exchange, NothingInATextIsDoubledOrEscaped)
     EXPECT_EQ(session.file("pvuscrn.txt"), "\"6\" PIPE, \\ \t'A'\r\nB\nC\"\r\n");
 }
 
+TEST_F(Exchange, AFileMayBeASingleByte)
+{
+    std::ofstream(chosenRowFile) << '7';
+    EXPECT_EQ(RecordReader(chosenRowFile).number(), 7);
+}
+
 TEST_F(Exchange, FilesAreUtf8)
 {
     RecordWriter().text(u"CAF\u00C9 \u20AC").endRecord().writeTo(listFile);

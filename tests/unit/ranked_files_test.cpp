@@ -1,8 +1,12 @@
 // The files between a list and its drill-down window, and what happens when they are not there.
 #include "profit_fixture.h"
 
+#include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace plotvue::test {
 namespace {
@@ -161,6 +165,49 @@ TEST_F(RankedFiles, AnExchangeFileThatCannotBeWrittenEndsTheClick)
         ASSERT_EQ(events.size(), 1u) << file;
         EXPECT_TRUE(events[0].starts_with("error The file " + std::string(file) + " ")) << events[0];
     }
+}
+
+TEST_F(RankedFiles, APipeIsNotWaitedFor)
+{
+    session.start(threeEntries().text());
+    session.events();
+    mkfifo("plotvue.txt", S_IRUSR | S_IWUSR);
+    session.clickRow(m2m, gainsGrid, 1); // nobody reads it
+    expectError("plotvue.txt", "cannot be created");
+
+    fs::remove("plotvue.txt");
+    Session other;
+    other.start(threeEntries().text());
+    other.clickRow(m2m, gainsGrid, 1);
+    other.events();
+    fs::remove("plotvue.txt");
+    mkfifo("plotvue.txt", S_IRUSR | S_IWUSR);
+    other.press(m2mA, "cmdBack"); // nobody writes it
+    EXPECT_EQ(other.events(), Events{"error The file plotvue.txt in the working directory ends too early."});
+}
+
+TEST_F(RankedFiles, ADeviceThatALinkLeadsToKeepsItsRights)
+{
+    const int terminal = posix_openpt(O_RDWR | O_NOCTTY);
+    ASSERT_GE(terminal, 0);
+    ASSERT_EQ(grantpt(terminal) + unlockpt(terminal), 0);
+    const std::string name = ptsname(terminal);
+    constexpr fs::perms rights = fs::perms::owner_read | fs::perms::owner_write | fs::perms::others_read;
+    fs::permissions(name, rights);
+    session.start(threeEntries().text());
+    fs::create_symlink(name, "plotvue.txt");
+    session.clickRow(m2m, gainsGrid, 1);
+    EXPECT_EQ(fs::status(name).permissions(), rights);
+    close(terminal);
+}
+
+TEST_F(RankedFiles, ADeviceThatNeverEndsIsNotRead)
+{
+    openFirst();
+    fs::remove("plotvue.txt");
+    fs::create_symlink("/dev/zero", "plotvue.txt");
+    session.press(m2mA, "cmdBack");
+    expectError("plotvue.txt", "cannot be read");
 }
 
 TEST_F(RankedFiles, WithoutTheListTheTypeCannotBeChanged)

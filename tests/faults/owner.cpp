@@ -1,0 +1,132 @@
+// plotvue-owner FILE [PIECES]: a well-behaved owner of the X11 clipboard, which holds the file's bytes as
+// UTF-8 text. It stops itself, as a debugger or a suspended session would, after that many pieces of its
+// first long answer; when it is made to go on, it goes on. It ends when another program takes the clipboard.
+#include <algorithm>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <xcb/xcb.h>
+
+namespace {
+
+constexpr std::size_t pieceSize = 100'000;
+
+class Owner {
+public:
+    Owner(xcb_connection_t* display, std::string text, int pieces)
+        : display_(display),
+          text_(std::move(text)),
+          piecesToStop_(pieces)
+    {
+        const xcb_screen_t& screen = *xcb_setup_roots_iterator(xcb_get_setup(display)).data;
+        window_ = xcb_generate_id(display);
+        xcb_create_window(display, 0, window_, screen.root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
+                          screen.root_visual, 0, nullptr);
+        xcb_set_selection_owner(display, window_, clipboard_, XCB_CURRENT_TIME);
+        xcb_flush(display);
+    }
+
+    void serve()
+    {
+        while (const std::unique_ptr<xcb_generic_event_t, void (*)(void*)> event{xcb_wait_for_event(display_),
+                                                                                 &std::free}) {
+            const int type = event->response_type & 0x7f; // 0: an error, such as an asker that has gone
+            if (type == XCB_SELECTION_REQUEST)
+                answer(*reinterpret_cast<xcb_selection_request_event_t*>(event.get()));
+            else if (type == XCB_PROPERTY_NOTIFY)
+                goOn(*reinterpret_cast<xcb_property_notify_event_t*>(event.get()));
+            else if (type == XCB_SELECTION_CLEAR)
+                return;
+            xcb_flush(display_);
+        }
+    }
+
+private:
+    xcb_atom_t atom(std::string_view name)
+    {
+        const auto asked = xcb_intern_atom(display_, 0, static_cast<std::uint16_t>(name.size()), name.data());
+        const std::unique_ptr<xcb_intern_atom_reply_t, void (*)(void*)> reply{
+            xcb_intern_atom_reply(display_, asked, nullptr), &std::free};
+        return reply->atom;
+    }
+
+    void put(xcb_window_t window, xcb_atom_t property, xcb_atom_t type, std::uint8_t format,
+             std::size_t count, const void* data)
+    {
+        xcb_change_property(display_, XCB_PROP_MODE_REPLACE, window, property, type, format,
+                            static_cast<std::uint32_t>(count), data);
+    }
+
+    void answer(const xcb_selection_request_event_t& request)
+    {
+        xcb_selection_notify_event_t notice{};
+        notice.response_type = XCB_SELECTION_NOTIFY;
+        notice.time = request.time;
+        notice.requestor = request.requestor;
+        notice.selection = request.selection;
+        notice.target = request.target;
+        notice.property = request.property;
+        if (request.target == targets_) {
+            const xcb_atom_t offered[] = {targets_, utf8_};
+            put(request.requestor, request.property, XCB_ATOM_ATOM, 32, std::size(offered), offered);
+        } else if (request.target != utf8_) {
+            notice.property = XCB_NONE;
+        } else if (text_.size() <= pieceSize) {
+            put(request.requestor, request.property, utf8_, 8, text_.size(), text_.data());
+        } else {
+            const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+            xcb_change_window_attributes(display_, request.requestor, XCB_CW_EVENT_MASK, &mask);
+            const auto size = static_cast<std::uint32_t>(text_.size());
+            put(request.requestor, request.property, atom("INCR"), 32, 1, &size);
+            sent_[{request.requestor, request.property}] = 0;
+        }
+        xcb_send_event(display_, 0, request.requestor, 0, reinterpret_cast<const char*>(&notice));
+    }
+
+    // The asker has taken a piece: the next one; an empty one is the end.
+    void goOn(const xcb_property_notify_event_t& taken)
+    {
+        const auto transfer = sent_.find({taken.window, taken.atom});
+        if (taken.state != XCB_PROPERTY_DELETE || transfer == sent_.end())
+            return;
+        if (piecesToStop_ > 0 && --piecesToStop_ == 0)
+            std::raise(SIGSTOP);
+        std::size_t& sent = transfer->second;
+        const std::size_t size = std::min(pieceSize, text_.size() - sent);
+        put(taken.window, taken.atom, utf8_, 8, size, text_.data() + sent);
+        sent += size;
+        if (size == 0)
+            sent_.erase(transfer);
+    }
+
+    xcb_connection_t* display_;
+    std::string text_;
+    int piecesToStop_; // 0: never
+    xcb_window_t window_ = XCB_NONE;
+    xcb_atom_t clipboard_ = atom("CLIPBOARD"), targets_ = atom("TARGETS"), utf8_ = atom("UTF8_STRING");
+    std::map<std::pair<xcb_window_t, xcb_atom_t>, std::size_t> sent_; // bytes, by asker and its property
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc < 2)
+        return EXIT_FAILURE;
+    std::ostringstream text;
+    text << std::ifstream(argv[1], std::ios::binary).rdbuf();
+    xcb_connection_t* display = xcb_connect(nullptr, nullptr);
+    if (xcb_connection_has_error(display))
+        return EXIT_FAILURE;
+    Owner(display, text.str(), argc > 2 ? std::atoi(argv[2]) : 0).serve();
+    xcb_disconnect(display);
+    return EXIT_SUCCESS;
+}

@@ -1,0 +1,89 @@
+"""Two of the real program on one display and in one directory."""
+
+import sys
+import unittest
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
+from accessible import SpokenDesktop
+from desktop import SAMPLES, ended, soon
+
+
+class Pair(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.desktop = SpokenDesktop(program)
+        cls.desktop.__enter__()
+        cls.addClassCleanup(cls.desktop.__exit__)
+        cls.desktop.copy((SAMPLES / "vendors.txt").read_bytes())
+
+    def start(self):
+        process = self.desktop.start()
+        self.addCleanup(process.wait)
+        self.addCleanup(process.kill)
+        window = self.desktop.application(process).shown("PlotVue")
+        number = soon("it has a window", lambda: self.desktop.output(
+            "xdotool", "search", "--all", "--onlyvisible", "--pid", str(process.pid), "--name", "PlotVue").strip())
+        self.desktop.output("xdotool", "windowactivate", number)
+        soon("it has the focus", lambda: self.desktop.output("xdotool", "getwindowfocus").strip() == number)
+        table = window.first("table")
+        self.vendors = [" ".join((table.cell(row, 2).name, table.cell(row, 3).name)) for row in range(5)]
+        return process
+
+    def drill_down(self, process):
+        """The window of the process that shows charts, and the name of the first of them; None while there is none."""
+        for window in self.desktop.application(process).children():
+            charts = [node.name for node in window.walk() if node.role == "chart"] if window.has("SHOWING") else []
+            if charts:
+                return window, charts[0]
+        return None, None
+
+    def shows(self, process, row):
+        words = self.vendors[row].split()
+        soon(f"{self.vendors[row]} is charted", lambda: all(
+            word in (self.drill_down(process)[1] or "") for word in words))
+
+    def press(self, process, button):
+        self.drill_down(process)[0].first("push button", button).press()
+
+    def test_both_step_through_the_one_list(self):
+        one = self.start()
+        self.desktop.key("Return")
+        self.shows(one, 0)
+        two = self.start()
+        self.desktop.key("Down", "Down", "Return")
+        self.shows(two, 2)
+        self.shows(one, 0)
+        # The row chosen last is where both go on from, whoever chose it.
+        for process, button, row in ((one, "Down", 3), (two, "Down", 4), (one, "Back", 3), (one, "Back", 2),
+                                     (two, "Back", 1), (one, "Down", 2)):
+            self.press(process, button)
+            self.shows(process, row)
+        self.press(two, "Close")
+        soon("its charts are closed", lambda: self.drill_down(two)[0] is None)
+        self.press(one, "Down")
+        self.shows(one, 3)
+        self.assertIsNone(one.poll())
+        self.assertIsNone(two.poll())
+
+    def test_each_reaches_the_end_of_the_list_for_itself(self):
+        one = self.start()
+        self.desktop.key("Return")
+        self.shows(one, 0)
+        two = self.start()
+        self.desktop.key("Return")
+        self.shows(two, 0)
+        self.press(two, "Back")
+        self.desktop.application(two).shown("PlotVue", "alert")
+        self.press(one, "Down")
+        self.shows(one, 1)
+        self.desktop.key("Return")
+        soon("its charts are closed", lambda: self.drill_down(two)[0] is None)
+        one.terminate()
+        ended(one)
+        self.assertIsNone(two.poll())
+
+
+if __name__ == "__main__":
+    program = sys.argv.pop()
+    unittest.main(verbosity=2)

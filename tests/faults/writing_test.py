@@ -1,0 +1,100 @@
+"""The small files cannot be written: it ends as it must, with a plain sentence."""
+
+import os
+import sys
+import unittest
+from pathlib import Path
+
+from files import BARE, CHARTS, CHOOSING, CHOSEN, ENTRIES, FULL, LIST, MAY_MOUNT, SCRATCH, Files, disk_of
+
+
+class Writing(Files):
+    def test_a_folder_in_the_place_of_each_file(self):
+        self.put_folder(SCRATCH)
+        self.fails(self.copied(), "start", rf"^The file {SCRATCH} in the working directory cannot be created \(.+\)\.$")
+        (self.directory / SCRATCH).rmdir()
+        for name in (CHOSEN, ENTRIES):
+            with self.subTest(name):
+                replay = self.listed()
+                self.put_folder(name)
+                self.fails(replay, f"row {LIST} MSFlexGrid1 1", rf"^The file {name} .* cannot be created \(.+\)\.$")
+                (self.directory / name).rmdir()
+
+    def test_a_link_is_followed(self):
+        target = self.directory / "elsewhere"
+        target.write_text("old")
+        (self.directory / ENTRIES).symlink_to(target)
+        replay = self.charted()
+        self.assertTrue((self.directory / ENTRIES).is_symlink())
+        self.assertIn(b"RANK:", target.read_bytes())
+        self.assertEqual(target.stat().st_mode & 0o777, 0o600)
+        replay.tell(f"click {CHARTS} cmdNext")
+        self.assertIsNone(replay.over)
+
+    def test_a_link_to_nowhere(self):
+        (self.directory / ENTRIES).symlink_to("/dev/nowhere/list")
+        self.fails(self.listed(), f"row {LIST} MSFlexGrid1 1", rf"^The file {ENTRIES} .* cannot be created \(.+\)\.$")
+
+    def test_a_link_to_itself(self):
+        (self.directory / SCRATCH).symlink_to(SCRATCH)
+        self.fails(self.copied(), "start", rf"^The file {SCRATCH} .* cannot be created \(.+\)\.$")
+
+    def test_a_file_that_is_not_to_be_written(self):
+        for name, lines in ((SCRATCH, ()), (CHOSEN, CHOOSING), (ENTRIES, CHOOSING[:1])):
+            for line in lines or [f"click {LIST} cmdExit"]:
+                with self.subTest(name, line=line):
+                    replay = self.charted(around=BARE)
+                    if name == SCRATCH:
+                        replay.tell(line)
+                        line = "click startup Command1"
+                    self.allow(name, 0o400)
+                    kept = (self.directory / name).read_bytes()
+                    self.fails(replay, line, rf"^The file {name} .* cannot be created \(Permission denied\)\.$")
+                    self.assertEqual((self.directory / name).read_bytes(), kept)
+                    self.take(name)
+
+    def test_a_disk_that_is_full_at_once(self):
+        self.fails(self.copied(around=disk_of(1, self.directory)), "start",
+                   rf"^The file {SCRATCH} .* cannot be written \(.+\)\.$")
+
+    def test_a_disk_that_fills_up_on_the_way(self):
+        # The capture takes five pages, the key of the row one more, the list three.
+        for pages, name in ((5, CHOSEN), (6, ENTRIES), (8, ENTRIES)):
+            with self.subTest(name, pages=pages):
+                replay = self.copied(around=disk_of(pages, self.directory))
+                if not MAY_MOUNT:
+                    self.put_full_device(name)
+                replay.tell("start")
+                self.assertTrue(replay.state(LIST)["visible"])
+                self.fails(replay, CHOOSING[0], rf"^The file {name} .* cannot be written \({FULL}\)\.$")
+                (self.directory / name).unlink(missing_ok=True)
+
+    def test_a_device_that_is_full(self):
+        for name in (CHOSEN, ENTRIES):
+            with self.subTest(name):
+                replay = self.listed()
+                self.put_full_device(name)
+                self.fails(replay, CHOOSING[0], rf"^The file {name} .* cannot be written \({FULL}\)\.$")
+                self.take(name)
+
+    def test_a_device_keeps_its_rights(self):
+        ours, terminal = os.openpty()
+        self.addCleanup(os.close, ours)
+        self.addCleanup(os.close, terminal)
+        os.fchmod(terminal, 0o640)
+        (self.directory / ENTRIES).symlink_to(os.ttyname(terminal))
+        self.fails(self.listed(), CHOOSING[0], rf"^The file {ENTRIES} .* cannot be read \(.+\)\.$")
+        self.assertEqual(os.fstat(terminal).st_mode & 0o777, 0o640)
+
+    def test_a_pipe_that_nobody_reads(self):
+        for name in (CHOSEN, ENTRIES):
+            with self.subTest(name):
+                replay = self.listed()
+                self.put_pipe(name)
+                self.fails(replay, CHOOSING[0], rf"^The file {name} .* cannot be created \(.+\)\.$")
+                self.take(name)
+
+
+if __name__ == "__main__":
+    Files.program = Path(sys.argv.pop()).resolve()
+    unittest.main(verbosity=2)
