@@ -37,7 +37,11 @@ protected:
 
 class DesktopStage : public Stage {
 public:
-    DesktopStage(int& argc, char** argv) : application_(argc, argv) {}
+    DesktopStage(int& argc, char** argv)
+    {
+        if (!QApplication::instance()) // one stage after the other may stand on the same
+            application_.emplace(argc, argv);
+    }
 
     Platform& platform() override { return platform_; }
     void setPrinter(PrinterAnswer answer) override { platform_.printer = answer; }
@@ -61,7 +65,7 @@ public:
     }
 
 private:
-    QApplication application_;
+    std::optional<QApplication> application_;
     AnsweringDesktop platform_;
 };
 

@@ -40,6 +40,8 @@ public:
     // Plays until the script or the process ends. Throws BadLine, its text holding the line's number.
     void play(std::istream& script);
 
+    Application& application() { return app_; }
+
 private:
     void command(const std::vector<std::string>& words);
     void clipboard(const std::vector<std::string>& words);
