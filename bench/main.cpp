@@ -1,11 +1,15 @@
+// bench ROUNDS: times PlotVue's own work on the display at hand. The lines that it prints are for bench/run.
+#include "reading.h"
+#include "windows.h"
+
 #include <QApplication>
 
-#include <benchmark/benchmark.h>
+#include <cstdlib>
 
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication desktop(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
+    const int rounds = argc > 1 ? std::atoi(argv[1]) : 1;
+    plotvue::measureWindows(rounds);
+    plotvue::measureReading(rounds);
 }

@@ -1,57 +1,79 @@
-// What it costs to recognise a capture and to read its figures.
-#include "history/reading.h"
+// What it costs to recognise a capture and to read its figures, beside one plain search through the same
+// text.
+#include "reading.h"
 
 #include "app/recognition.h"
+#include "captures.h"
+#include "history/reading.h"
 #include "history/screens.h"
-#include "sample.h"
+#include "rounds.h"
 
-#include <benchmark/benchmark.h>
+#include <memory>
 
 namespace plotvue {
 
 namespace {
 
-MonthlyFigures read(TextView capture, int months)
+constexpr TextView absentMarker = u"QXM99Z"; // as long as the shortest one of the screens
+
+// The compiler is not to leave out what nobody looks at.
+volatile std::size_t result;
+
+void search(const Text& text)
 {
+    result = text.find(absentMarker);
+}
+
+void recogniseAndRead(const Text& capture, int months)
+{
+    result = recognise(capture).identifier.size();
     const Acceptance acceptance = accept(frmProduct, capture);
-    return readMonths(frmProduct, capture, acceptance.identifier, months, frmProduct.types[0]);
+    result =
+        readMonths(frmProduct, capture, acceptance.identifier, months, frmProduct.types[0]).values.size();
 }
 
-void recogniseProduct(benchmark::State& state)
+Case capture(int months)
 {
-    const Text capture = productCapture();
-    for (auto _ : state)
-        benchmark::DoNotOptimize(recognise(capture));
+    const auto text = std::make_shared<const Text>(sampleCapture("product.txt"));
+    constexpr int times = 100; // a run
+    const auto repeat = [text](auto&& what) {
+        for (int i = 0; i < times; ++i)
+            what(*text);
+    };
+    return {.name = "recognise and read " + std::to_string(months) + " months",
+            .unit = "us",
+            .nanosecondsAUnit = microseconds * times,
+            .run = [=] { repeat([=](const Text& each) { recogniseAndRead(each, months); }); },
+            .referenceName = "plain search",
+            .reference = [=] { repeat(search); }};
 }
-BENCHMARK(recogniseProduct);
 
-void recogniseNothing(benchmark::State& state)
+Case foreign(const std::string& size, std::size_t characters)
 {
-    const Text text(static_cast<std::size_t>(state.range(0)), u'x');
-    for (auto _ : state)
-        benchmark::DoNotOptimize(recognise(text));
-    state.SetComplexityN(state.range(0));
+    const auto text = std::make_shared<const Text>(foreignText(characters));
+    const int times = characters < 1 << 20 ? 100 : 1;
+    const auto repeat = [text, times](auto&& what) {
+        for (int i = 0; i < times; ++i)
+            what(*text);
+    };
+    return {.name = "recognise nothing in " + size,
+            .unit = "ns/char",
+            .nanosecondsAUnit = nanoseconds * times * double(characters),
+            .run = [=] { repeat([](const Text& each) { result = recognise(each).identifier.size(); }); },
+            .referenceName = "plain search",
+            .reference = [=] { repeat(search); }};
 }
-BENCHMARK(recogniseNothing)->RangeMultiplier(16)->Range(1 << 10, 1 << 22)->Complexity();
-
-void readProduct(benchmark::State& state)
-{
-    const Text capture = productCapture();
-    for (auto _ : state)
-        benchmark::DoNotOptimize(read(capture, static_cast<int>(state.range(0))));
-}
-BENCHMARK(readProduct)->Arg(13)->Arg(25);
-
-void recogniseAndReadProduct(benchmark::State& state)
-{
-    const Text capture = productCapture();
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(recognise(capture));
-        benchmark::DoNotOptimize(read(capture, static_cast<int>(state.range(0))));
-    }
-}
-BENCHMARK(recogniseAndReadProduct)->Arg(13)->Arg(25);
 
 } // namespace
+
+void measureReading(int rounds)
+{
+    measure(capture(13), rounds);
+    measure(capture(25), rounds);
+    measure(foreign("2 KB", 2 << 10), rounds);
+    measure(foreign("64 KB", 64 << 10), rounds);
+    measure(foreign("2 MB", 2 << 20), rounds);
+    measure(foreign("64 MB", 64 << 20), rounds);
+}
 
 } // namespace plotvue

@@ -1,12 +1,16 @@
-// The smallest program of the toolkit: what any start costs.
+// The smallest program of the toolkit, a window as large as a chart's with a button: what any start costs.
 #include <QApplication>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 int main(int argc, char* argv[])
 {
     QApplication desktop(argc, argv);
+    QWidget window;
+    QVBoxLayout layout(&window);
     QPushButton button("Exit");
-    button.resize(900, 560);
-    button.show();
+    layout.addWidget(&button);
+    window.resize(900, 560);
+    window.show();
     return QApplication::exec();
 }

@@ -2,8 +2,10 @@
 
 #include "capture/failure.h"
 
+#include <algorithm>
 #include <array>
-#include <bitset>
+#include <cstdint>
+#include <limits>
 
 namespace plotvue {
 
@@ -46,27 +48,43 @@ constexpr std::array recognitionOrder{
     Marker{u"QXMLCHIST", u"QXMLCHIST"},
 };
 
-using Found = std::bitset<recognitionOrder.size()>;
+// A set of markers: a bit each, the first one's the lowest.
+using Markers = std::uint32_t;
+static_assert(recognitionOrder.size() <= std::numeric_limits<Markers>::digits);
 
-constexpr char16_t beyondFirstLetters = u'Z' + 1;
+// As long as every marker is at least.
+constexpr std::size_t commonLength = 6;
+static_assert(std::ranges::all_of(recognitionOrder,
+                                  [](const Marker& marker) { return marker.text.size() >= commonLength; }));
 
-constexpr auto firstLetters = [] {
-    std::array<bool, beyondFirstLetters> letters{};
-    for (const Marker& marker : recognitionOrder)
-        letters[marker.text.front()] = true;
-    return letters;
+constexpr std::size_t characters = 128;
+
+// The markers with a character at `position`, by what is left of it when it is divided by `characters`.
+template <std::size_t position>
+constexpr auto markersWith = [] {
+    std::array<Markers, characters> result{};
+    for (std::size_t i = 0; i < recognitionOrder.size(); ++i)
+        result[recognitionOrder[i].text[position] % characters] |= Markers{1} << i;
+    return result;
 }();
 
-Found markersIn(TextView screen)
+// Two characters that stand apart rule out nearly every place of any text, whatever language it is in.
+Markers candidates(char16_t first, char16_t last)
 {
-    Found found;
-    for (std::size_t at = 0; at < screen.size() && !found[0]; ++at) {
-        if (screen[at] >= beyondFirstLetters || !firstLetters[screen[at]])
+    return markersWith<0>[first % characters] & markersWith<commonLength - 1>[last % characters];
+}
+
+Markers markersIn(TextView screen)
+{
+    Markers found = 0;
+    for (std::size_t at = 0; at + commonLength <= screen.size() && !(found & 1); ++at) {
+        const Markers possible = candidates(screen[at], screen[at + commonLength - 1]);
+        if (possible == 0)
             continue;
         const TextView rest = screen.substr(at);
         for (std::size_t i = 0; i < recognitionOrder.size(); ++i)
-            if (!found[i] && rest.starts_with(recognitionOrder[i].text))
-                found.set(i);
+            if ((possible >> i & 1) && rest.starts_with(recognitionOrder[i].text))
+                found |= Markers{1} << i;
     }
     return found;
 }
@@ -80,10 +98,10 @@ bool holdsZero(TextView screen)
 
 Recognised recognise(TextView screen)
 {
-    const Found found = markersIn(screen);
+    const Markers found = markersIn(screen);
     for (std::size_t i = 0; i < recognitionOrder.size(); ++i) {
         const Marker& marker = recognitionOrder[i];
-        if (found[i] && (marker.kind != Marker::Kind::AsksForZero || holdsZero(screen)))
+        if ((found >> i & 1) && (marker.kind != Marker::Kind::AsksForZero || holdsZero(screen)))
             return {marker.identifier, marker.kind == Marker::Kind::Ranked};
     }
     return {};

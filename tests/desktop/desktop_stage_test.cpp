@@ -120,6 +120,16 @@ TEST_F(DesktopStageTest, ClipboardTextPassesWholeButForLineEnds)
     EXPECT_EQ(withCarriageReturns(u"\n"), u"\r\n");
 }
 
+TEST_F(DesktopStageTest, TheClipboardIsReadOnceAnEvent)
+{
+    copy(u"a");
+    EXPECT_EQ(platform.clipboardText(), u"a");
+    copy(u"b");
+    EXPECT_EQ(platform.clipboardText(), u"a");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(platform.clipboardText(), u"b");
+}
+
 TEST_F(DesktopStageTest, PicturesOnTheClipboardAreNoText)
 {
     QGuiApplication::clipboard()->setImage(QImage(2, 2, QImage::Format_RGB32));

@@ -16,8 +16,8 @@ namespace plotvue {
 Text readClipboard()
 {
     const QMimeData* held = QGuiApplication::clipboard()->mimeData();
-    // An owner that hangs costs the toolkit's time limit a question: ask no further when the first fails.
-    if (!held || held->formats().isEmpty() || !held->hasText())
+    // One question: an owner that hangs costs the toolkit's time limit for each.
+    if (!held || !held->hasFormat(QStringLiteral("text/plain")))
         return {};
     return withCarriageReturns(toText(held->text()));
 }

@@ -81,11 +81,16 @@ DesktopPlatform::~DesktopPlatform()
 
 Text DesktopPlatform::clipboardText()
 {
+    if (readInThisEvent_)
+        return *readInThisEvent_;
     if (clipboardNeedsFocus()) {
         stage_.settle();
         waitForFocus();
     }
-    return readClipboard();
+    readInThisEvent_ = readClipboard();
+    QMetaObject::invokeMethod(
+        &stage_, [this] { readInThisEvent_.reset(); }, Qt::QueuedConnection);
+    return *readInThisEvent_;
 }
 
 std::unique_ptr<View> DesktopPlatform::build(const Declaration& declaration, const Handlers& handlers,

@@ -6,6 +6,8 @@
 #include "platform/desktop/stage.h"
 #include "platform/platform.h"
 
+#include <optional>
+
 namespace plotvue {
 
 class DesktopPlatform : public Platform {
@@ -29,6 +31,8 @@ protected:
     void finish() override;
 
 private:
+    // Startup asks for the clipboard, and so does the window that it shows: its owner is asked once an event.
+    std::optional<Text> readInThisEvent_;
     Stage stage_;
     Printing printing_;
 };

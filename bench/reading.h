@@ -1,0 +1,7 @@
+#pragma once
+
+namespace plotvue {
+
+void measureReading(int rounds);
+
+} // namespace plotvue

@@ -1,0 +1,137 @@
+// From what a person does to the painted window, beside painting the same window once more as it is. The
+// capture is copied by this program itself: what its owner takes to hand it over is not counted.
+#include "windows.h"
+
+#include "app/application.h"
+#include "captures.h"
+#include "platform/desktop/desktopplatform.h"
+#include "platform/desktop/desktopview.h"
+#include "platform/desktop/window.h"
+#include "rounds.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QEvent>
+
+namespace plotvue {
+
+namespace {
+
+// PlotVue at work, started with a capture copied.
+class Desk : public QObject {
+public:
+    explicit Desk(const Text& capture) : application_(platform_)
+    {
+        qApp->installEventFilter(this);
+        QApplication::clipboard()->setText(toQString(capture));
+        application_.start();
+    }
+
+    View& view(Name window) { return application_.window(window)->view(); }
+
+    // Does it, and returns when that window has been painted.
+    template <typename Action>
+    void untilPainted(Name window, Action action)
+    {
+        painted_ = nullptr;
+        action();
+        const QWidget* awaited = &widget(window);
+        while (painted_ != awaited)
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+
+    void repaint(Name window)
+    {
+        untilPainted(window, [&] {
+            widget(window).update();
+            for (QWidget* each : widget(window).findChildren<QWidget*>())
+                each->update();
+        });
+    }
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint && object->isWidgetType())
+            painted_ = static_cast<QWidget*>(object)->window();
+        return false;
+    }
+
+private:
+    QWidget& widget(Name window) { return static_cast<DesktopView&>(view(window)).window(); }
+
+    DesktopPlatform platform_;
+    Application application_;
+    const QWidget* painted_ = nullptr;
+};
+
+void optionClick(const char* group, const char* name, int rounds)
+{
+    constexpr Name window = "frmProduct";
+    Desk desk(sampleCapture("product.txt"));
+    desk.untilPainted(window, [] {});
+    int index = 0;
+    measure(
+        {.name = name,
+         .unit = "ms",
+         .nanosecondsAUnit = milliseconds,
+         .run =
+             [&] { desk.untilPainted(window, [&] { desk.view(window).choose(group, index = 1 - index); }); },
+         .referenceName = "repaint",
+         .reference = [&] { desk.repaint(window); }},
+        rounds);
+}
+
+// Always from the 50th entry to the 51st: the files of the list are read from their beginning.
+void down(int rounds)
+{
+    constexpr Name list = "frmM2Mpft", window = "frmM2MpftA";
+    Desk desk(rankedCapture());
+    desk.untilPainted(list, [] {});
+    const auto open = [&] { desk.view(list).clickRow("MSFlexGrid1", 50); };
+    desk.untilPainted(window, open);
+    const auto reopen = [&] {
+        open();
+        QApplication::processEvents(); // comes to the front, which is not counted
+    };
+    measure({.name = "Down in a list of 100",
+             .unit = "ms",
+             .nanosecondsAUnit = milliseconds,
+             .run = [&] { desk.untilPainted(window, [&] { desk.view(window).press("cmdNext"); }); },
+             .referenceName = "repaint",
+             .reference = [&] { desk.repaint(window); },
+             .prepare = reopen},
+            rounds);
+}
+
+void fillList(int rounds)
+{
+    constexpr Name list = "frmM2Mpft", startup = "startup";
+    Desk desk(rankedCapture());
+    desk.untilPainted(list, [] {});
+    const auto refresh = [&] { desk.view(startup).press("Command1"); };
+    const auto leave = [&] {
+        if (desk.view(startup).visible())
+            return;
+        desk.untilPainted(startup, [&] { desk.view(list).press("cmdExit"); });
+    };
+    measure({.name = "Refresh to a list of 100",
+             .unit = "ms",
+             .nanosecondsAUnit = milliseconds,
+             .run = [&] { desk.untilPainted(list, refresh); },
+             .referenceName = "repaint",
+             .reference = [&] { desk.repaint(list); },
+             .prepare = leave},
+            rounds);
+}
+
+} // namespace
+
+void measureWindows(int rounds)
+{
+    optionClick("optSales", "click on a data type", rounds);
+    optionClick("opt12", "click on a period", rounds);
+    down(rounds);
+    fillList(rounds);
+}
+
+} // namespace plotvue
