@@ -48,7 +48,8 @@ class Display:
 
     def __init__(self):
         read, write = os.pipe()
-        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "2400x1800x24"],
+        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "2400x1800x24",
+                                        "-noreset"],
                                        pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         self.name = ":" + os.fdopen(read).readline().strip()

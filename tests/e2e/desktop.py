@@ -50,7 +50,8 @@ class Desktop:
         )
         try:
             read, write = os.pipe()
-            self.launch("Xvfb", "-displayfd", str(write), "-screen", "0", "1280x900x24", "-nolisten", "tcp",
+            # It would start afresh whenever its last client goes, and cut off one that is just coming.
+            self.launch("Xvfb", "-noreset", "-displayfd", str(write), "-screen", "0", "1280x900x24", "-nolisten", "tcp",
                         pass_fds=[write])
             os.close(write)
             with os.fdopen(read) as pipe:
