@@ -80,20 +80,16 @@ Text plainNumber(double value)
     std::string text(buffer.data(), end);
     const bool negative = text[0] == '-';
     const std::size_t e = text.find('e');
-    int exponent = 0;
-    const char* digits = text.data() + e + (text[e + 1] == '+' ? 2 : 1);
-    std::from_chars(digits, text.data() + text.size(), exponent);
+    const int exponent = std::stoi(text.substr(e + 1));
 
     std::string figures = text.substr(negative ? 1 : 0, e - (negative ? 1 : 0));
     std::erase(figures, '.');
     figures.erase(figures.find_last_not_of('0') + 1);
     if (figures.empty())
         return u"0";
-    if (exponent < 0)
-        figures.insert(0, static_cast<std::size_t>(-exponent), '0');
+    figures.insert(0, static_cast<std::size_t>(std::max(-exponent, 0)), '0');
     const auto whole = static_cast<std::size_t>(std::max(exponent, 0)) + 1;
-    if (figures.size() < whole)
-        figures.resize(whole, '0');
+    figures.resize(std::max(figures.size(), whole), '0');
     Text result = negative ? u"-" : u"";
     result.append(figures.begin(), figures.begin() + static_cast<std::ptrdiff_t>(whole));
     if (figures.size() > whole) {

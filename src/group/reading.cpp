@@ -46,7 +46,7 @@ Salesman readSalesman(TextView line, std::size_t figures, const std::vector<bool
     TextView rest = mid(line, 6);
     for (std::size_t i = 0; i < figures; ++i) {
         const Position end = find(rest, u";");
-        if (end && i < wanted.size() && wanted[i])
+        if (end && wanted[i])
             salesman.figures[i] = leadingNumber(mid(rest, 1, end - 1));
         rest = mid(rest, end + 1);
     }

@@ -27,8 +27,8 @@ struct GroupScreen {
 inline constexpr int mostGroups = 4;
 inline constexpr int figuresAGroup = 3;
 
-// Lines that the text no longer has read as empty ones. Only the figures that `wanted` says are read, the
-// others are 0; figures count from 0.
+// Lines that the text no longer has read as empty ones. Of the 12 figures of a salesman, counted from 0, only
+// those that `wanted` says are read; the others are 0.
 // Throws Failure for more than 23 salesmen, or fewer than none. The views point into the capture.
 GroupScreen readGroups(TextView capture, const std::vector<bool>& wanted);
 

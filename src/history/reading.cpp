@@ -30,7 +30,7 @@ struct MonthRow {
     {
         switch (value.is) {
         case Value::Is::Nothing:
-            return 0;
+            break;
         case Value::Is::Figure:
             return read(value.a);
         case Value::Is::QuotientTimesHundred: {

@@ -142,6 +142,12 @@ TEST(FrmGLarch, WhatRoundsToNothingDoesNotCount)
               (Numbers{0, 0, 0, -5, 5, 0, 0, 0, 0, 0, 0, 0, 0}));
 }
 
+TEST(FrmGLarch, ASingleAmountTurnsAnAccountWithoutOthers)
+{
+    EXPECT_EQ(drawn(ledgerWith({u"0", u"0", u"0", u"0", u"0", u"0", u"-1", u"0", u"0", u"0", u"0", u"0"})),
+              (Numbers{0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0}));
+}
+
 TEST(FrmGLarch, ATrailingMinusReadsAndCountsAsPositive)
 {
     EXPECT_EQ(drawn(ledgerWith(
@@ -198,7 +204,15 @@ TEST(FrmGLarch, TheFirstYearIsTheFourCharactersBehindTheFirstSlash)
     EXPECT_EQ(labels(ledger().replaceLine(4, u"99987 TO 2002"), 4)[0], u"J98"); // no slash: columns 1 to 4
     EXPECT_EQ(labels(ledger().replaceLine(4, u"A/NONE"), 4)[0], u"J");          // years 0 to 4
     EXPECT_EQ(labels(ledger().replaceLine(4, u"A/123"), 4)[0], u"J3");
+    EXPECT_EQ(labels(ledger().replaceLine(4, u"A/9999"))[0], u"J00"); // of 10003
     EXPECT_TRUE(outcome(ledger().replaceLine(4, u"A/9E9 ")).starts_with("error "));
+}
+
+TEST(FrmGLarch, TheFirstYearIsReadBeforeTheLinesRunOut)
+{
+    Session session;
+    session.start(u"PFMGLARCH1\r\nACCOUNT\r\nLOCATION\r\nFROM 01/9E9\r\n");
+    EXPECT_TRUE(session.events().back().starts_with("error "));
 }
 
 TEST(FrmGLarch, TitlesNameTheAccountAndTheLocation)

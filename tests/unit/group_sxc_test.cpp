@@ -184,6 +184,14 @@ TEST_F(SalesmenByCategory, WithoutSalesmenTheChartIsAnEmptyPoint)
     EXPECT_EQ(content.legends.size(), 4u);
 }
 
+TEST_F(SalesmenByCategory, TheTypeIsATitleOnlyWhereAFigureIsRead)
+{
+    EXPECT_EQ(chart(screen(0)).titles, (std::map<int, Text>{{2, u"OCT  1999"}}));
+    session.copy(screen(1, 1).text());
+    session.press(sxc, "cmdRefresh");
+    EXPECT_EQ(session.chart(sxc).titles.at(3), u"Sales");
+}
+
 TEST_F(SalesmenByCategory, WithoutAGroupLineTheChartIsAnEmptyPoint)
 {
     const ChartContent content = chart(CaptureBuilder().put(1, 1, u"QXM21SXC"));

@@ -98,6 +98,13 @@ TEST_F(MonthToMonth, AGainOfZeroCountsAsALossAndTakesAGainsRow)
     EXPECT_EQ(cellsOf(session.grid(m2m, gainsGrid), 1), (Texts{u"30", u"0"}));
 }
 
+TEST_F(MonthToMonth, AGainOfCentsIsNoLoss)
+{
+    start(MonthToMonthScreen().add(1, u"0.50").add(2, u"-5"));
+    EXPECT_EQ(customers(session, m2m, gainsGrid), Texts{u"10001"});
+    EXPECT_EQ(customers(session, m2m, lossesGrid), Texts{u"10002"});
+}
+
 TEST_F(MonthToMonth, AGainOfZeroBehindTheLastGainIsALossOnly)
 {
     MonthToMonthScreen screen;
@@ -145,6 +152,14 @@ TEST_F(MonthToMonth, MarkersMayStandAnywhereAndSeveralOnALine)
     start(screen);
     EXPECT_EQ(session.text(m2m, "txtHeader"), u"ALL MONTH TO MONTH FOR SALES REP 7");
     EXPECT_EQ(session.text(m2m, "txtL3"), u"ALL MONTH TO MONTH FOR SALES REP 7");
+}
+
+TEST_F(MonthToMonth, ALineMayOpenAnEntryAndGiveItsGain)
+{
+    MonthToMonthScreen screen;
+    screen.add(1, u"30").put(10, 1, u"RANK:  2;  GAIN:"); // a gain stands where a rank does
+    start(screen);
+    EXPECT_EQ(cellsOf(session.grid(m2m, gainsGrid), 1), (Texts{u"30", u"2"}));
 }
 
 TEST_F(MonthToMonth, TheLastOfSeveralHeadingsWins)

@@ -159,6 +159,7 @@ TEST(LeadingNumber, TooSmallForADoubleIsZero)
     EXPECT_EQ(leadingNumber(u".01E-2147483648"), 0);
     EXPECT_EQ(leadingNumber(u"." + Text(400, u'0') + u"1"), 0);
     EXPECT_EQ(leadingNumber(u"." + Text(400, u'0') + u"1E5"), 0);
+    EXPECT_EQ(leadingNumber(u"." + Text(400, u'0') + u"1E+5"), 0);
     EXPECT_EQ(leadingNumber(u"0E999"), 0);
     EXPECT_EQ(leadingNumber(u"0E99999999999999999999999"), 0);
 }

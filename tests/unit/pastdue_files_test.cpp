@@ -2,6 +2,7 @@
 #include "unit/pastdue_fixture.h"
 
 #include <filesystem>
+#include <fstream>
 
 namespace plotvue {
 namespace {
@@ -156,6 +157,20 @@ TEST(PastdueSteps, WalkTheWholeSample)
         session.press(chart, "cmdBack");
         EXPECT_EQ(session.file("plotvue1.txt"), toUtf8(pastdueRows(session).at(row).at(1)) + "\r\n");
     }
+}
+
+TEST(PastdueSteps, TheFiveHundredthRecordIsTakenWhenNoneBeforeItIsTheOne)
+{
+    Session session;
+    session.start(sample("pastdue"));
+    session.clickRow(list, "MSFlexGrid1", 1);
+    std::string records;
+    for (int number = 1; number <= 502; ++number)
+        records += "\"\",\"RANK:  1     " + std::to_string(20000 + number) +
+                   "\",\"\",\"\",\"\",\"\",\"\",\"\",\"\"\r\n";
+    std::ofstream("plotvue.txt", std::ios::binary) << records;
+    session.press(chart, "cmdNext");
+    EXPECT_EQ(session.file("plotvue1.txt"), "20501\r\n");
 }
 
 TEST(PastdueTrouble, AnotherTitleInTheScratchFileShowsTheStartAgain)

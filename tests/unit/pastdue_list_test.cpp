@@ -91,7 +91,7 @@ class AgeingLine : public testing::TestWithParam<Length> {};
 // reaches.
 TEST_P(AgeingLine, IsSummedAsFarAsItReaches)
 {
-    const Text whole = u"OCT99 1       1       1       1       1       1       1       1       ";
+    const Text whole = u"OCT99 1       1       1       1       1       1       1       1       1       ";
     Session session;
     session.start(hostScreen({pastdueTitle, pastdueMonths, u"RANK:  1     10442",
                               TextView(whole).substr(0, GetParam().characters)}));
@@ -104,7 +104,7 @@ INSTANTIATE_TEST_SUITE_P(Lengths, AgeingLine,
                                          Length{37, u"3"}, Length{38, u"4"}, Length{45, u"4"},
                                          Length{46, u"5"}, Length{53, u"5"}, Length{54, u"6"},
                                          Length{61, u"6"}, Length{62, u"7"}, Length{69, u"7"},
-                                         Length{70, u"8"}));
+                                         Length{70, u"8"}, Length{78, u"8"}));
 
 TEST(PastdueList, AnAgeingLineTooShortForABucketIsNotPastDue)
 {
@@ -142,8 +142,9 @@ TEST(PastdueList, BeforeTheMonthLabelsALineOfCrossesIsAnAgeingLine)
 TEST(PastdueList, OnlyTheCurrentMonthIsTotalled)
 {
     Session session;
-    session.start(hostScreen({pastdueTitle, pastdueMonths, u"RANK:  1     10442",
-                              ageing(u"SEP99", {u"1200", u"300"}), ageing(u"MAY99", {u"7", u"8"})}));
+    session.start(
+        hostScreen({pastdueTitle, pastdueMonths, u"RANK:  1     10442", ageing(u"SEP99", {u"1200", u"300"}),
+                    ageing(u"MAY99", {u"7", u"8"}), ageing(u"OCT98", {u"5", u"6"})}));
     EXPECT_EQ(pastdueRows(session).at(0).at(5), u"0");
 }
 
@@ -237,6 +238,8 @@ TEST(PastdueList, ReadsOneThousandLinesAndNoMore)
     session.start(capture + hostScreen({u"RANK:  1     10001", u"RANK:  2     10002"}));
     ASSERT_EQ(pastdueRows(session).size(), 1u);
     EXPECT_EQ(pastdueRows(session).at(0).at(1), u"10001");
+    session.clickRow("frmPastdue", "MSFlexGrid1", 1); // found again there
+    EXPECT_TRUE(session.file("plotvue.txt").starts_with("\"xxxxx\",\"RANK:  1     10001\r\","));
 }
 
 TEST(PastdueList, ALastLineThatIsNotEndedIsNotRead)

@@ -1,4 +1,6 @@
 #include "capture/utf8.h"
+#include "history/reading.h"
+#include "history/screens.h"
 #include "unit/product_fixture.h"
 
 #include <gmock/gmock.h>
@@ -45,6 +47,16 @@ TEST_F(ProductTest, TwoYearsHaveShortLabels)
                 ElementsAre(u"N97", u"D97", u"J98", u"F98", u"M98", u"A98", u"M98", u"J98", u"J98", u"A98",
                             u"S98", u"O98", u"N98", u"D98", u"J99", u"F99", u"M99", u"A99", u"M99", u"J99",
                             u"J99", u"A99", u"S99", u"O99", u"N99", u""));
+}
+
+TEST_F(ProductTest, UpToEighteenMonthsHaveLongLabels)
+{
+    const Text capture = fullScreen().text();
+    const auto newest = [&](int months) {
+        return readMonths(frmProduct, capture, 1, months, frmProduct.types[0]).labels.at(months - 1);
+    };
+    EXPECT_EQ(newest(18), u"NOV99");
+    EXPECT_EQ(newest(19), u"N99");
 }
 
 TEST_F(ProductTest, TheRightBlockStartsOnTheSecondLineUnderTheDashes)
@@ -259,6 +271,14 @@ TEST_F(ProductTest, AProjectionBeyondADoubleIsARunTimeError)
 {
     chart(newest(u"", u"9E307", u""));
     EXPECT_THAT(session.events(), ElementsAre(StartsWith("error ")));
+}
+
+TEST_F(ProductTest, AColonThatEndsTheSubjectLineIsNone)
+{
+    Text capture(20 * 81, u'.'); // no line ends at all: a line is 81 characters, the last taken for its end
+    capture.replace(0, 11, u"OCT99QXM31H");
+    capture[2 * 81 - 1] = u':';
+    EXPECT_EQ(chart(capture).titles.at(2), u"Product: .......... " + Text(70, u'.'));
 }
 
 } // namespace

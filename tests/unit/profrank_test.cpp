@@ -1,6 +1,8 @@
 // Ranked profit: what differs from the month-to-month windows.
 #include "profit_fixture.h"
 
+#include <algorithm>
+
 namespace plotvue::test {
 namespace {
 
@@ -99,6 +101,37 @@ TEST_F(RankedProfit, AHeadingNeedNotBeTheTitle)
     screen.add(1, u"5").put(2, 1, u"RANKED PROF. FOR OCTOBER");
     start(screen);
     EXPECT_EQ(session.text(profRank, "txtHeader"), u"RANKED PROF. FOR OCTOBER");
+}
+
+TEST_F(RankedProfit, ALineMayOpenAnEntryAndGiveItsComponents)
+{
+    const Text text = CaptureBuilder(2)
+                          .put(1, 1, u"RANKED PROFIT AN")
+                          .put(2, 1, u"RANK:  2")
+                          .put(2, 18, u"1234567890123456789012345 GAIN:")
+                          .text();
+    const RankedReading reading = readRanked(frmProfRank, text);
+    EXPECT_EQ(reading.entry(2).numbers[profit::volumePart], 234567890); // columns 19 to 27
+    EXPECT_EQ(reading.entry(2).numbers[profit::marginPart], 567890123); // columns 32 to 40
+}
+
+TEST_F(RankedProfit, ANameIsNoComponentLineInTheChart)
+{
+    CaptureBuilder screen(4);
+    screen.put(1, 1, u"RANKED PROFIT AN")
+        .put(2, 1, u"RANK:  1;    10001 55 SHOP: MAIN ROAD")
+        .put(2, 60, u" ");
+    start(screen);
+    EXPECT_EQ(components(1), (Numbers{0, 0}));
+}
+
+TEST_F(RankedProfit, ARecordIsTheLabelsAndFiveLines)
+{
+    start(RankedProfitScreen().add(1, u"5").add(2, u"4"));
+    session.clickRow(profRank, gainsGrid, 1);
+    const std::string list = session.file("plotvue.txt");
+    const std::string record = list.substr(0, list.find("\r\n"));
+    EXPECT_EQ(std::count(record.begin(), record.end(), '"'), 2 * 6);
 }
 
 TEST_F(RankedProfit, AComponentLineOfEitherKindIsShown)

@@ -141,6 +141,13 @@ TEST(RatioList, ALineMayHoldSeveralMarkers)
               (Texts{u"ROE ", u"Return on Equity", u"ABCDEFGHIJKLM", u"OPQRSTUVWXYZa"}));
 }
 
+TEST(RatioList, ANameOfItsOwnWinsOnALineThatHasBoth)
+{
+    Session session;
+    session.start(hostScreen({ratioTitle, u"1:CUR ", u"2:CUR  3: 3A:Loads a Day|"}));
+    EXPECT_EQ(ratioRows(session).at(0).at(1), u"Loads a Day");
+}
+
 TEST(RatioList, TheLastTitleAndCompanyAreShown)
 {
     Session session;

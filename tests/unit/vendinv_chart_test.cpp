@@ -164,15 +164,16 @@ TEST_P(VendorAges, AreTitledWithTheirSum)
     EXPECT_EQ(session.ages().titles.at(3), GetParam().title);
 }
 
-INSTANTIATE_TEST_SUITE_P(Sums, VendorAges,
-                         testing::Values(Sum{u"F:                               7", u"FIFO: $7"},
-                                         Sum{u"F:                             999", u"FIFO: $999"},
-                                         Sum{u"F:                             999       1", u"FIFO: $1,000"},
-                                         Sum{u"F:                          1234.4", u"FIFO: $1,234"},
-                                         Sum{u"F:                          1234.6", u"FIFO: $1,235"},
-                                         Sum{u"F:                        99999999 9999999",
-                                             u"FIFO: $109,999,998"},
-                                         Sum{u"F:                         -123456", u"FIFO: -$123,456"}));
+INSTANTIATE_TEST_SUITE_P(
+    Sums, VendorAges,
+    testing::Values(Sum{u"F:", u"FIFO: $0"}, Sum{u"F:                              -1", u"FIFO: -$1"},
+                    Sum{u"F:                               7", u"FIFO: $7"},
+                    Sum{u"F:                             999", u"FIFO: $999"},
+                    Sum{u"F:                             999       1", u"FIFO: $1,000"},
+                    Sum{u"F:                          1234.4", u"FIFO: $1,234"},
+                    Sum{u"F:                          1234.6", u"FIFO: $1,235"},
+                    Sum{u"F:                        99999999 9999999", u"FIFO: $109,999,998"},
+                    Sum{u"F:                         -123456", u"FIFO: -$123,456"}));
 
 TEST(VendorChart, APairCutBehindItsRankLineShowsZeros)
 {

@@ -76,6 +76,13 @@ TEST(VendorList, FiguresBelongToTheRankLineBeforeThem)
     EXPECT_EQ(vendorRows(session).at(1).at(1), u"2");
 }
 
+TEST(VendorList, ALineMayOpenAPairAndGiveItsFigures)
+{
+    Session session;
+    session.start(hostScreen({vendorTitle, u"RANK:  1        F:  24.9 "}));
+    EXPECT_EQ(vendorRows(session).at(0).at(4), u"  24.9 ");
+}
+
 TEST(VendorList, BlankAmountsAreZero)
 {
     Session session;
