@@ -127,7 +127,7 @@ def captions():
 
 
 def operators():
-    """The usual changes of operators, wherever something is worked out, and of the numbers in it that lay out no screen."""
+    """The usual changes of operators, wherever something is worked out, and of its numbers that lay out no screen."""
     pattern = "|".join(map(re.escape, sorted(OPERATORS, key=len, reverse=True)))
     for path in sources(COMPUTED):
         text, code = code_of(path)

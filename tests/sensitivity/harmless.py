@@ -8,6 +8,9 @@ NOT_USED = "is set before it is used"
 OTHER_THINGS = "each marker takes other things from the line, so their order cannot be seen"
 ONLY_WHERE = "only which places are compared at all, never what is found there"
 NOTHING_MORE = "nothing is left for the one step more"
+NOTHING_THERE = "the slot behind the last one has no label and no figure"
+ZERO = "zero is added, to whichever it may be"
+TOLERANCE = "only a deviation exactly as large as the tolerance"
 SYSTEM_CALL = "no open, read or write of a file gives that, or what it gives is all the same"
 
 # By the file, then by what the change, told without its line number, holds.
@@ -53,6 +56,17 @@ HARMLESS = {
         r"\"Mlabel\".* <-> .*\"1:\"": OTHER_THINGS,
         r"\{\.text = u\"GAIN:\".* <-> \{\.text = u\"P:\"": "what both take stands in the same columns of the same line",
         r"u\"GAIN:\" <-> u\"P:\"": "either mark is asked for, in any order",
+    },
+    r"chart/figure_text": {
+        r"if \(value\[ < -> <= \]0 &&": "the digits of zero are all 0, which takes no minus",
+        r"std::round\(scaled\)\)\[ <= -> < \]1e-7": TOLERANCE,
+    },
+    r"chart/(scale|layout)": {
+        r"return value\[ > -> >= \]0\.5": "a half is no whole number",
+        r"std::round\(value\)\)\[ < -> <= \]1e-6|least \* \(1 - tolerance|high - low\[ < -> <= \]unit \* tolerance": TOLERANCE,
+        r"\(value.*\[ < -> <= \]0 \? down : up\) \+= value": ZERO,
+        r"const bool up = value\[ > -> >= \]0": "a figure of zero was left out before",
+        r"int slot = 0; slot\[ < -> <= \](input\.figures\.slotCount\(\)|layout\.pointCount|figures\.pointCount)": NOTHING_THERE,
     },
     r"app/recognition": {
         r"digits|characters = |commonLength = \[6 -> 5|markersWith|found & |possible (==|>>)": ONLY_WHERE,

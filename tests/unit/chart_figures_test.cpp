@@ -1,4 +1,3 @@
-#include "platform/chart/drawable.h"
 #include "platform/chart/figures.h"
 #include "unit/chart_fixture.h"
 
@@ -42,8 +41,35 @@ TEST(ChartFigures, TheEmptySlotAtTheEndIsNoPoint)
     content.series[0][2] = 7;
     EXPECT_EQ(Figures(content, projecting).pointCount(), 3);
     content.series[0][2] = 0;
+    content.series[1][2] = 7;
+    EXPECT_EQ(Figures(content, projecting).pointCount(), 3);
+    content.series[1][2] = 0;
     content.labels[2] = u"NOV99";
     EXPECT_EQ(Figures(content, projecting).pointCount(), 3);
+}
+
+TEST(ChartFigures, TheSmallestChartWithAnEmptySlotAtTheEndHasOnePoint)
+{
+    ChartContent content;
+    content.series = {{5, 0}};
+    content.labels = {u"OCT99", u""};
+    EXPECT_EQ(Figures(content, {}).pointCount(), 1);
+    content.labels = {};
+    EXPECT_EQ(Figures(content, {}).pointCount(), 2) << "without labels none is missing";
+    content.series = {{0}};
+    content.labels = {u""};
+    EXPECT_EQ(Figures(content, {}).pointCount(), 1) << "an only slot is no end";
+}
+
+TEST(ChartFigures, ASlotBehindTheLastLabelHasNone)
+{
+    ChartContent content;
+    content.series = {{1, 2}};
+    content.labels = {u"SEP99", u"OCT99"};
+    content.labels.pop_back();
+    EXPECT_EQ(Figures(content, {}).label(0), u"SEP99");
+    EXPECT_TRUE(Figures(content, {}).label(1).empty());
+    EXPECT_EQ(narrow(Figures(content, {}).sentence(1)), "2");
 }
 
 TEST(ChartFigures, AProjectionOfNothingIsAbsent)
@@ -83,6 +109,11 @@ TEST(ChartFigures, AProjectionHasTheColourOfWhatItProjects)
     content.colours = {{0, {1, 2, 3}}};
     EXPECT_EQ(Figures(content, projecting).series()[1].colour, (Colour{1, 2, 3}));
     EXPECT_TRUE(Figures(content, projecting).series()[0].ownColour);
+    content.colours[1] = {4, 5, 6};
+    const Figures coloured(content, projecting);
+    EXPECT_EQ(coloured.series()[1].colour, (Colour{4, 5, 6}));
+    EXPECT_FALSE(coloured.series()[2].ownColour) << "it projects nothing";
+    EXPECT_EQ(coloured.series()[2].colour, (Colour{0xDB, 0x9A, 0x35}));
 }
 
 TEST(ChartFigures, ANameIsTheLegendThenTheDesignsThenTheFirstTitle)
@@ -143,6 +174,29 @@ TEST(ChartFigures, SeriesOfOnePointWithoutLabelsAreComponents)
     EXPECT_FALSE(Figures(content, grouped).components());
 }
 
+TEST(ChartFigures, ASeriesAloneHasNoneToBeComparedWith)
+{
+    ChartContent content;
+    content.series = {{4.25}, {-2.5}};
+    content.legends = {{0, u"Volume"}, {1, u"Margin"}};
+    content.hidden = {1};
+    const Figures figures(content, {});
+    EXPECT_FALSE(figures.components());
+    EXPECT_TRUE(figures.label(0).empty());
+    EXPECT_EQ(narrow(figures.sentence(0)), "Volume 4.25");
+}
+
+TEST(ChartFigures, AComponentThatTheScreenDoesNotHaveTakesNoSlot)
+{
+    ChartContent content;
+    content.series = {{4}, {0}, {3}};
+    content.legends = {{0, u"Volume"}, {2, u"Margin"}};
+    const Figures figures(content, {});
+    EXPECT_EQ(figures.slotCount(), 2);
+    EXPECT_EQ(figures.label(1), u"Margin");
+    EXPECT_TRUE(figures.label(2).empty());
+}
+
 TEST(ChartFigures, WhatIsNoNumberIsBroughtIntoWhatCanBeAddedUp)
 {
     const double infinity = std::numeric_limits<double>::infinity();
@@ -158,29 +212,11 @@ TEST(ChartFigures, WhatIsNoNumberIsBroughtIntoWhatCanBeAddedUp)
 
 TEST(ChartFigures, JoinTheTitles)
 {
-    EXPECT_EQ(narrow(titlesInOneLine(newestMonthProjected())), "Sales, Product: 4711");
+    ChartContent content = newestMonthProjected();
+    EXPECT_EQ(narrow(titlesInOneLine(content)), "Sales, Product: 4711");
+    content.titles[3] = u"WH: 1";
+    EXPECT_EQ(narrow(titlesInOneLine(content)), "Sales, Product: 4711, WH: 1");
     EXPECT_TRUE(titlesInOneLine({}).empty());
-}
-
-TEST(ChartDrawable, LeavesControlCharactersOut)
-{
-    EXPECT_EQ(drawable(u" OC\tT99\r\n"), u"OCT99");
-    EXPECT_EQ(drawable(u"a\u0085\u2028b"), u"ab");
-    EXPECT_TRUE(drawable(u"\r").empty());
-    EXPECT_TRUE(isBlank(u" \r"));
-    EXPECT_FALSE(isBlank(u" x"));
-    EXPECT_EQ(drawable(Text(100000, u'x')).size(), 500U);
-}
-
-TEST(ChartDrawable, ElidesToTheRoom)
-{
-    const auto width = [](TextView text) { return 6.0 * static_cast<double>(text.size()); };
-    EXPECT_EQ(elided(u"Long title", 60, width), u"Long title");
-    EXPECT_EQ(elided(u"Long title", 59, width), u"Long tit\u2026");
-    EXPECT_EQ(elided(u"Long title", 36, width), u"Long\u2026");
-    EXPECT_EQ(elided(u"Long title", 6, width), u"\u2026");
-    EXPECT_TRUE(elided(u"Long title", 5, width).empty());
-    EXPECT_EQ(elided(u"a\U0001F600bc", 18, width), u"a\u2026");
 }
 
 } // namespace plotvue::chart

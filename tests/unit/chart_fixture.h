@@ -20,6 +20,17 @@ inline Layout laidOut(const ChartContent& content, const ChartDesign& design, Si
     return layoutChart(content, design, paper, SixByTwelve(), deviceScale);
 }
 
+inline ChartContent fourBars()
+{
+    ChartContent content;
+    content.decimals = 0;
+    content.series = {{10, 20, 30, 40}};
+    content.labels = {u"A", u"B\r", u"C", u"D"};
+    return content;
+}
+
+inline constexpr Size plot400x200{442, 251}; // with ticks of two digits and nothing above
+
 inline std::string narrow(TextView text)
 {
     std::string bytes;

@@ -6,21 +6,6 @@
 
 namespace plotvue::chart {
 
-namespace {
-
-ChartContent fourBars()
-{
-    ChartContent content;
-    content.decimals = 0;
-    content.series = {{10, 20, 30, 40}};
-    content.labels = {u"A", u"B\r", u"C", u"D"};
-    return content;
-}
-
-constexpr Size plot400x200{442, 251}; // with ticks of two digits and nothing above
-
-} // namespace
-
 TEST(ChartLayout, StandsToThePixel)
 {
     const Layout layout = laidOut(fourBars(), {}, plot400x200);
@@ -53,6 +38,10 @@ TEST(ChartLayout, SnapsToDevicePixelsOnTheScreenOnly)
         for (const Bar& bar : laidOut(content, {}, {451, 263}, scale).bars)
             for (const double edge : {bar.box.left, bar.box.right(), bar.box.top, bar.box.bottom()})
                 EXPECT_NEAR(edge * scale, std::round(edge * scale), 1e-9) << scale;
+    // Bars take 70 % of a slot: 71.575, less what is no whole device pixel.
+    EXPECT_EQ(laidOut(content, {}, {451, 263}, 1).bars[0].box.width, 71);
+    EXPECT_EQ(laidOut(content, {}, {451, 263}, 2).bars[0].box.width, 71.5);
+    EXPECT_EQ(describe(laidOut(fourBars(), {}, plot400x200, 2).plot), "30,24 400x200");
     const Layout paper = laidOut(content, {}, {451, 263}, 0);
     EXPECT_DOUBLE_EQ(paper.bars[1].box.left, 30 + 1.5 * 409 / 4 - 409 / 4. * .35);
     EXPECT_NEAR(paper.bars[0].box.height, 11.3 / 40 * 212, 1e-9);
@@ -60,55 +49,19 @@ TEST(ChartLayout, SnapsToDevicePixelsOnTheScreenOnly)
     EXPECT_EQ(laidOut(content, {}, {451, 263}, 2).hairline, 1);
 }
 
-TEST(ChartLayout, StacksNegativePartsDownwards)
+TEST(ChartLayout, AStepIsAtLeastThreeAndAHalfLinesHigh)
 {
-    ChartContent content;
-    content.decimals = 0;
-    content.series = {{10, -10}, {30, -20}};
-    content.labels = {u"A", u"B"};
-    const Layout layout = laidOut(content, {}, {448, 260});
-    EXPECT_EQ(describe(layout.plot), "36,24 400x200");
-    EXPECT_EQ(describeBars(layout), "0/0 82,99 108x25 up\n"
-                                    "0/1 82,24 108x75 up end\n"
-                                    "1/0 282,124 108x25 down\n"
-                                    "1/1 282,149 108x50 down end\n");
-    EXPECT_EQ(describeValues(layout), "40 @ 130,10.5 12x12\n"
-                                      "-30 @ 327,200.5 18x12\n");
-    EXPECT_EQ(layout.zero, 124);
-    EXPECT_EQ(layout.labels[0].name.box.top, 239) << "room for figures below the bars";
+    // Below the heading there are 16 lines, two of them for the labels: room for four steps.
+    EXPECT_EQ(laidOut(fourBars(), {}, {442, 225}).ticks.size(), 5U);
+    EXPECT_EQ(laidOut(fourBars(), {}, {442, 224}).ticks.size(), 3U);
 }
 
-TEST(ChartLayout, GroupsSideBySide)
-{
-    ChartContent content;
-    content.decimals = 0;
-    content.series = {{10, 20}, {30, 40}};
-    content.labels = {u"A", u"B"};
-    const Layout layout = laidOut(content, {ChartDesign::Bars::Grouped}, plot400x200);
-    EXPECT_EQ(describeBars(layout), "0/0 76,174 53x50 up end\n"
-                                    "0/1 130,74 53x150 up end\n"
-                                    "1/0 276,124 53x100 up end\n"
-                                    "1/1 330,24 53x200 up end\n");
-    EXPECT_EQ(layout.values.size(), 4U);
-    content.hidden = {0};
-    EXPECT_EQ(describeBars(laidOut(content, {ChartDesign::Bars::Grouped}, plot400x200)),
-              "0/0 76,74 107x150 up end\n"
-              "1/0 276,24 107x200 up end\n");
-}
-
-TEST(ChartLayout, PutsTheProjectionOnTheNewestMonth)
+TEST(ChartLayout, TheAxisTakesAtMostHalfOfTheWidth)
 {
     ChartContent content = fourBars();
-    content.labels.back() = u"";
-    content.series = {{10, 20, 20, 0}, {0, 0, 20, 0}};
-    const Layout layout = laidOut(content, {{}, {}, 1, {}}, plot400x200);
-    EXPECT_EQ(describeBars(layout), "0/0 45,174 70x50 up end\n"
-                                    "1/0 145,124 70x100 up end\n"
-                                    "2/0 245,124 70x100 up\n"
-                                    "2/1 245,24 70x100 up end\n");
-    EXPECT_EQ(describeValues(layout), "10 @ 74,160.5 12x12\n"
-                                      "20 @ 174,110.5 12x12\n"
-                                      "40 @ 274,10.5 12x12\n");
+    content.series = {{10, 20, 30, 123456789}};
+    // The axis has 38 of 76, and half a line parts it from the bars.
+    EXPECT_EQ(describe(laidOut(content, {}, {100, 251}).plot), "56,24 32x200");
 }
 
 TEST(ChartLayout, LeavesAGapForTheEmptySlotAtTheEnd)
@@ -132,19 +85,11 @@ TEST(ChartLayout, TheWholeSlotIsTheTarget)
     EXPECT_EQ(layout.slotAt(30, 100), 0);
     EXPECT_EQ(layout.slotAt(129.9, 240), 0) << "on its label";
     EXPECT_EQ(layout.slotAt(130, 24), 1);
+    EXPECT_EQ(layout.slotAt(130, 12), 1) << "on the figure of its bar";
     EXPECT_EQ(layout.slotAt(429, 223), 3);
     EXPECT_EQ(layout.slotAt(430, 223), -1);
     EXPECT_EQ(layout.slotAt(200, 5), -1) << "on the titles";
     EXPECT_EQ(layout.slotAt(200, 251), -1);
-}
-
-TEST(ChartLayout, WritesFiguresOnlyWhereAllFit)
-{
-    ChartContent content = fourBars();
-    content.series = {{10, 20, 30, 123456789}};
-    const double left = 12 + 11 * 6 + 6; // "150,000,000"
-    EXPECT_EQ(laidOut(content, {}, {left + 4 * 70 + 12, 251}).values.size(), 4U);
-    EXPECT_TRUE(laidOut(content, {}, {left + 4 * 69 + 12, 251}).values.empty());
 }
 
 TEST(ChartLayout, KeepsAForcedAxisAndClipsWhatReachesBeyond)
@@ -162,22 +107,6 @@ TEST(ChartLayout, KeepsAForcedAxisAndClipsWhatReachesBeyond)
     const Layout without = laidOut(content, {}, plot400x200);
     EXPECT_FALSE(without.zero);
     EXPECT_EQ(without.bars[3].box.bottom(), 224);
-}
-
-TEST(ChartLayout, DrawsComponentsAsABarEachWithItsLegendBelow)
-{
-    ChartContent content;
-    content.decimals = 0;
-    content.series = {{40}, {-40}};
-    content.legends = {{0, u"Volume"}, {1, u"Margin"}};
-    const Layout layout = laidOut(content, {ChartDesign::Bars::Grouped}, {448, 260});
-    EXPECT_EQ(describeBars(layout), "0/0 82,24 108x100 up end\n"
-                                    "1/1 282,124 108x100 down end\n");
-    EXPECT_EQ(describeValues(layout), "40 @ 130,10.5 12x12\n"
-                                      "-40 @ 327,225.5 18x12\n");
-    EXPECT_EQ(describeLabels(layout), "0 Volume\n1 Margin\n");
-    EXPECT_EQ(layout.labels[0].name.box.top, 239);
-    EXPECT_TRUE(layout.legend.empty());
 }
 
 TEST(ChartLayout, WithoutDataThereAreOnlyTitles)

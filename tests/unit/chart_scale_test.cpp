@@ -44,12 +44,14 @@ TEST(ChartScale, StepsAreWhatTheDecimalsCanWrite)
     EXPECT_EQ(ticks(own(0, 0.4, 0)), "0 1");
     EXPECT_EQ(ticks(own(0, 1.2, 1)), "0.0 0.5 1.0 1.5");
     EXPECT_EQ(ticks(own(0, 1.2, 2)), "0.00 0.25 0.50 0.75 1.00 1.25");
+    EXPECT_EQ(own(0, 5e6, 5).ticks.size(), 6U) << "however many of the smallest steps a step holds";
 }
 
 TEST(ChartScale, WithoutDecimalsGivenShowsAsManyAsTheStepsNeed)
 {
     EXPECT_EQ(ticks(own(0, 12, {})), "0.0 2.5 5.0 7.5 10.0 12.5");
     EXPECT_EQ(ticks(own(0, 1.2, {})), "0.00 0.25 0.50 0.75 1.00 1.25");
+    EXPECT_EQ(ticks(own(0, 0.5, {})), "0.0 0.1 0.2 0.3 0.4 0.5");
     EXPECT_EQ(ticks(own(0, 450000, {})), "0 100,000 200,000 300,000 400,000 500,000");
 }
 
@@ -60,6 +62,22 @@ TEST(ChartScale, ReachesBelowZero)
     EXPECT_FALSE(std::signbit(own(-7, 0, 0).ticks.back()));
 }
 
+TEST(ChartScale, ReachesAsFarAsStacksOrTheLongestOfABunchEachWay)
+{
+    ChartContent content;
+    content.series = {{-5, 3}, {10, -7}, {0, 0}, {4, -2}};
+    content.labels = {u"A", u"B"};
+    const ChartDesign grouped{ChartDesign::Bars::Grouped};
+    EXPECT_EQ(reachOf(Figures(content, {})), (Range{-9, 14}));
+    EXPECT_EQ(reachOf(Figures(content, grouped)), (Range{-7, 10}));
+}
+
+TEST(ChartScale, WithoutAnyFigureEndsAtOne)
+{
+    EXPECT_EQ(ticks(own(0, 0, {})), "0 1");
+    EXPECT_EQ(ticks(own(0, 0, 2)), "0.00 1.00");
+}
+
 TEST(ChartScale, KeepsGivenEnds)
 {
     const Scale scale = scaleFor({-1, 2}, {-2.6, 4.3, 1, 5});
@@ -67,6 +85,7 @@ TEST(ChartScale, KeepsGivenEnds)
     EXPECT_EQ(scale.max, 4.3);
     EXPECT_EQ(ticks(scale), "-2.0 0.0 2.0 4.0");
     EXPECT_EQ(ticks(scaleFor({0, 20}, {{}, 25, 0, 4})), "0 10 20");
+    EXPECT_EQ(scaleFor({0, 20}, {1e9, 1e9 + 5, 0, 5}).ticks.back(), 1e9 + 5);
 }
 
 TEST(ChartScale, AMaximumNotAboveTheMinimumLeavesTheAxisToItself)
@@ -79,10 +98,19 @@ TEST(ChartScale, AMaximumNotAboveTheMinimumLeavesTheAxisToItself)
     EXPECT_EQ(allNegative.min, -20);
 }
 
+TEST(ChartScale, AnEndThatIsNotFiniteIsNone)
+{
+    const double infinity = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(ticks(scaleFor({0, 20}, {{}, infinity, 0, 4})), "0 5 10 15 20");
+    EXPECT_EQ(ticks(scaleFor({0, 20}, {-infinity, {}, 0, 4})), "0 5 10 15 20");
+    EXPECT_EQ(ticks(scaleFor({0, 20}, {std::nan(""), {}, 0, 4})), "0 5 10 15 20");
+}
+
 TEST(ChartScale, SurvivesWhatNoScreenShows)
 {
     const double infinity = std::numeric_limits<double>::infinity();
-    for (const Range reach : {Range{0, 1e300}, Range{-1e305, 1e305}, Range{0, 5e-324}, Range{0, 1e-9}})
+    for (const Range reach :
+         {Range{0, 1e300}, Range{-1e305, 1e305}, Range{-1.5e308, 1.5e308}, Range{0, 5e-324}, Range{0, 1e-9}})
         for (const std::optional<int> decimals :
              {std::optional<int>(), std::optional(0), std::optional(40)}) {
             const Scale scale = scaleFor(reach, {infinity, -infinity, decimals, 5});
@@ -104,6 +132,8 @@ TEST(ChartFigureText, WritesThousandsAndMinus)
     EXPECT_EQ(figureText(-1234.5, 1), u"\u22121,234.5");
     EXPECT_EQ(narrow(figureText(-0.3, 0)), "0");
     EXPECT_EQ(narrow(figureText(-0.3, 1)), "-0.3");
+    EXPECT_EQ(narrow(figureText(1e15 - 1, 0)), "999,999,999,999,999");
+    EXPECT_EQ(narrow(figureText(1e15, 0)), "1.00e+15");
     EXPECT_EQ(narrow(figureText(1e300, 2)), "1.00e+300");
 }
 
@@ -113,6 +143,15 @@ TEST(ChartFigureText, CountsTheDecimalsNeeded)
     EXPECT_EQ(decimalsNeeded(-2.5, 2), 1);
     EXPECT_EQ(decimalsNeeded(0.07, 2), 2);
     EXPECT_EQ(decimalsNeeded(1.0 / 3, 2), 2);
+}
+
+TEST(ChartFigureText, WritesNoDecimalsOfWhatRoundingLeftOver)
+{
+    const double nothing = 0.3 - 0.1 - 0.2, large = 1500000000 * 1.1;
+    ASSERT_NE(nothing, 0);
+    ASSERT_NE(large, 1650000000);
+    EXPECT_EQ(decimalsNeeded(nothing, 2), 0);
+    EXPECT_EQ(decimalsNeeded(large, 2), 0);
 }
 
 } // namespace plotvue::chart

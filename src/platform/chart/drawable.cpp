@@ -47,9 +47,10 @@ Text elided(Text text, double room, const std::function<double(TextView)>& width
         return text;
     std::size_t fits = 0, tooLong = text.size();
     auto cut = [&](std::size_t length) {
-        while (length > 0 && (text[length - 1] == u' ' || isFirstOfPair(text[length - 1])))
-            --length;
-        return text.substr(0, length) + ellipsis;
+        Text part = text.substr(0, length);
+        while (!part.empty() && (part.back() == u' ' || isFirstOfPair(part.back())))
+            part.pop_back();
+        return part + ellipsis;
     };
     if (widthOf(cut(0)) > room)
         return {};

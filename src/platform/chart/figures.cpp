@@ -61,7 +61,7 @@ void Figures::findSeries()
         const int number = static_cast<int>(i);
         const bool projection = number == design_.projection;
         // Counted before anything is left out: hiding a series changes no other one's colour.
-        const std::size_t colour = projection && colours > 0 ? colours - 1 : colours++;
+        const std::size_t colour = projection ? colours - 1 : colours++;
         if (content_.hidden.contains(number) || (projection && nothingIn(content_.series[i])))
             continue;
         Series found{i, nameOf(number, false), palette[colour % palette.size()], false, projection};
@@ -92,13 +92,13 @@ void Figures::findSlots()
     components_ = content_.labels.empty() && longest == 1 && series_.size() > 1;
     slotCount_ = static_cast<int>(components_ ? series_.size() : longest);
     pointCount_ = slotCount_;
-    if (components_ || slotCount_ < 2 || !isBlank(label(slotCount_ - 1)))
+    const int last = slotCount_ - 1;
+    if (content_.labels.empty() || last < 1 || !isBlank(label(last)))
         return;
-    bool empty = true;
     for (std::size_t s = 0; s < series_.size(); ++s)
-        empty = empty && value(s, slotCount_ - 1).value_or(0) == 0;
-    if (empty && !content_.labels.empty())
-        --pointCount_;
+        if (value(s, last).value_or(0) != 0)
+            return;
+    pointCount_ = last;
 }
 
 bool Figures::legendTellsSomething() const

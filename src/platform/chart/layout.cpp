@@ -20,7 +20,7 @@ Box Layout::slotBox(int slot) const
 
 int Layout::slotAt(double x, double y) const
 {
-    if (pointCount == 0 || x < plot.left || x >= plot.right() || y < plot.top - em || y >= paper.height)
+    if (pointCount == 0 || x < plot.left || y < plot.top - em || y >= paper.height)
         return -1;
     const int slot = static_cast<int>((x - plot.left) / slotWidth);
     return slot < pointCount ? slot : -1;

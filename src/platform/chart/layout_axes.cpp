@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <optional>
 
 namespace plotvue::chart {
 
@@ -22,9 +23,9 @@ bool holdsDigit(const Text& text)
 struct Labels {
     std::vector<Text> texts;
     double widest = 0;
-    int firstJanuary = -1; // -1: not a chart of whole years
+    std::optional<int> january; // the slot of one of them; absent: not a chart of whole years
 
-    bool isJanuary(std::size_t slot) const { return firstJanuary >= 0 && holdsDigit(texts[slot]); }
+    bool isJanuary(std::size_t slot) const { return january && holdsDigit(texts[slot]); }
 };
 
 // Over five years only the Januaries carry their year: "J98", "FEB", "MAR".
@@ -32,18 +33,18 @@ Labels readLabels(const LayoutInput& input)
 {
     Labels labels;
     bool without = false;
-    int first = -1;
+    std::optional<int> january;
     for (int slot = 0; slot < input.figures.slotCount(); ++slot) {
         labels.texts.push_back(drawable(input.figures.label(slot)));
         const Text& text = labels.texts.back();
         labels.widest = std::max(labels.widest, input.width(text));
         if (holdsDigit(text))
-            first = first < 0 ? slot : first;
+            january = slot;
         else
             without = without || !text.empty();
     }
     if (without && input.design.labels == ChartDesign::Labels::Months && !input.figures.components())
-        labels.firstJanuary = first;
+        labels.january = january;
     return labels;
 }
 
@@ -53,11 +54,8 @@ int stepBetweenLabels(const Labels& labels, double slotWidth, double em)
     for (const int step : {1, 2, 3, 4, 6})
         if (wanted <= slotWidth * step)
             return step;
-    int step = 12;
-    while (labels.firstJanuary < 0 && wanted > slotWidth * step &&
-           step < static_cast<int>(labels.texts.size()))
-        step += 12;
-    return step;
+    const double years = std::ceil(wanted / (slotWidth * 12));
+    return 12 * (labels.january ? 1 : static_cast<int>(years));
 }
 
 void placeTicks(const LayoutInput& input, Layout& layout, double right)
@@ -75,7 +73,8 @@ void placeLabels(const LayoutInput& input, Layout& layout, Labels labels, int st
                  double longest)
 {
     const double em = layout.em;
-    const int phase = std::max(0, labels.firstJanuary) % step;
+    // Beside Januaries the step divides a year: any of them tells which slots are labelled.
+    const int phase = labels.january.value_or(0) % step;
     for (int slot = 0; slot < layout.slotCount; ++slot) {
         const bool january = labels.isJanuary(static_cast<std::size_t>(slot));
         if (january && slot > 0)
@@ -92,7 +91,7 @@ void placeLabels(const LayoutInput& input, Layout& layout, Labels labels, int st
         const double width = input.width(text);
         const double left = layout.slanted ? end - width : centre - width / 2;
         layout.labels.push_back(
-            {slot, {{left, top, width, em}, std::move(text)}, labels.firstJanuary < 0 || january});
+            {slot, {{left, top, width, em}, std::move(text)}, !labels.january || january});
     }
 }
 

@@ -47,7 +47,7 @@ double placeLegend(const LayoutInput& input, Layout& layout, const Box& inner, d
         if (name.empty())
             continue;
         const double width = input.width(name);
-        if (left > inner.left && left + beforeName + width > inner.right()) {
+        if (left + beforeName + width > inner.right()) { // never the first of a line
             left = inner.left;
             top += em * 1.25;
         }

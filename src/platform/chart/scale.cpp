@@ -42,10 +42,12 @@ Range reachOf(const Figures& figures)
         double up = 0, down = 0;
         for (std::size_t s = 0; s < figures.series().size(); ++s) {
             const double value = figures.value(s, slot).value_or(0);
-            if (figures.stacked())
+            if (figures.stacked()) {
                 (value < 0 ? down : up) += value;
-            else
-                (value < 0 ? down : up) = value < 0 ? std::min(down, value) : std::max(up, value);
+            } else {
+                down = std::min(down, value);
+                up = std::max(up, value);
+            }
         }
         reach.low = std::min(reach.low, down);
         reach.high = std::max(reach.high, up);

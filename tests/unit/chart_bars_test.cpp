@@ -1,0 +1,126 @@
+#include "unit/chart_fixture.h"
+
+#include <gtest/gtest.h>
+
+namespace plotvue::chart {
+
+TEST(ChartBars, StackNegativePartsDownwards)
+{
+    ChartContent content;
+    content.decimals = 0;
+    content.series = {{10, -10}, {30, -20}};
+    content.labels = {u"A", u"B"};
+    const Layout layout = laidOut(content, {}, {448, 260});
+    EXPECT_EQ(describe(layout.plot), "36,24 400x200");
+    EXPECT_EQ(describeBars(layout), "0/0 82,99 108x25 up\n"
+                                    "0/1 82,24 108x75 up end\n"
+                                    "1/0 282,124 108x25 down\n"
+                                    "1/1 282,149 108x50 down end\n");
+    EXPECT_EQ(describeValues(layout), "40 @ 130,10.5 12x12\n"
+                                      "-30 @ 327,200.5 18x12\n");
+    EXPECT_EQ(layout.zero, 124);
+    EXPECT_EQ(layout.labels[0].name.box.top, 239) << "room for figures below the bars";
+}
+
+TEST(ChartBars, OfAGroupStandSideBySide)
+{
+    ChartContent content;
+    content.decimals = 0;
+    content.series = {{10, 20}, {30, 40}};
+    content.labels = {u"A", u"B"};
+    const Layout layout = laidOut(content, {ChartDesign::Bars::Grouped}, plot400x200);
+    EXPECT_EQ(describeBars(layout), "0/0 76,174 53x50 up end\n"
+                                    "0/1 130,74 53x150 up end\n"
+                                    "1/0 276,124 53x100 up end\n"
+                                    "1/1 330,24 53x200 up end\n");
+    EXPECT_EQ(describeValues(layout), "10 @ 96.5,160.5 12x12\n"
+                                      "30 @ 150.5,60.5 12x12\n"
+                                      "20 @ 296.5,110.5 12x12\n"
+                                      "40 @ 350.5,10.5 12x12\n");
+    content.hidden = {0};
+    EXPECT_EQ(describeBars(laidOut(content, {ChartDesign::Bars::Grouped}, plot400x200)),
+              "0/0 76,74 107x150 up end\n"
+              "1/0 276,24 107x200 up end\n");
+}
+
+TEST(ChartBars, StandApartInGroupsWhenWiderThanSeven)
+{
+    ChartContent content;
+    content.series = {{10, 20}, {30, 40}};
+    content.labels = {u"A", u"B"};
+    for (const auto& [slotWidth, gap] : {std::pair(18, 0), std::pair(20, 1)}) { // 82 %: 7 each, 8 each
+        const auto bars = laidOut(content, {ChartDesign::Bars::Grouped}, {42.0 + 2 * slotWidth, 251}).bars;
+        EXPECT_EQ(bars[0].box.width, 7);
+        EXPECT_EQ(bars[1].box.left - bars[0].box.right(), gap);
+    }
+}
+
+TEST(ChartBars, OfUpToThreeSlotsMayBeWider)
+{
+    ChartContent content = fourBars();
+    EXPECT_EQ(laidOut(content, {}, {42 + 4 * 200, 251}).bars[0].box.width, 6 * 12);
+    content.series[0].pop_back();
+    content.labels.pop_back();
+    EXPECT_EQ(laidOut(content, {}, {42 + 3 * 200, 251}).bars[0].box.width, 9 * 12);
+}
+
+TEST(ChartBars, OfZeroInAGroupHaveTheirFigureAboveTheLine)
+{
+    ChartContent content;
+    content.decimals = 0;
+    content.series = {{0, 20}, {30, 40}};
+    content.labels = {u"A", u"B"};
+    const Layout layout = laidOut(content, {ChartDesign::Bars::Grouped}, plot400x200);
+    EXPECT_EQ(describe(layout.values[0].figure), "0 @ 99.5,210.5 6x12");
+}
+
+TEST(ChartBars, OfLossesHangFromTheTop)
+{
+    ChartContent content = fourBars();
+    content.series = {{-10, -20, -30, -40}};
+    const Layout layout = laidOut(content, {}, plot400x200);
+    EXPECT_EQ(layout.zero, layout.plot.top);
+    EXPECT_EQ(layout.bars[0].box.top, layout.plot.top);
+}
+
+TEST(ChartBars, OfTheNewestMonthCarryTheProjection)
+{
+    ChartContent content = fourBars();
+    content.labels.back() = u"";
+    content.series = {{10, 20, 20, 0}, {0, 0, 20, 0}};
+    const Layout layout = laidOut(content, {{}, {}, 1, {}}, plot400x200);
+    EXPECT_EQ(describeBars(layout), "0/0 45,174 70x50 up end\n"
+                                    "1/0 145,124 70x100 up end\n"
+                                    "2/0 245,124 70x100 up\n"
+                                    "2/1 245,24 70x100 up end\n");
+    EXPECT_EQ(describeValues(layout), "10 @ 74,160.5 12x12\n"
+                                      "20 @ 174,110.5 12x12\n"
+                                      "40 @ 274,10.5 12x12\n");
+}
+
+TEST(ChartBars, HaveFiguresOnlyWhereAllFit)
+{
+    ChartContent content = fourBars();
+    content.series = {{10, 20, 30, 123456789}};
+    const double left = 12 + 11 * 6 + 6; // "150,000,000"
+    EXPECT_EQ(laidOut(content, {}, {left + 4 * 70 + 12, 251}).values.size(), 4U);
+    EXPECT_TRUE(laidOut(content, {}, {left + 4 * 69 + 12, 251}).values.empty());
+}
+
+TEST(ChartBars, OfComponentsHaveTheirLegendBelow)
+{
+    ChartContent content;
+    content.decimals = 0;
+    content.series = {{40}, {-40}};
+    content.legends = {{0, u"Volume"}, {1, u"Margin"}};
+    const Layout layout = laidOut(content, {ChartDesign::Bars::Grouped}, {448, 260});
+    EXPECT_EQ(describeBars(layout), "0/0 82,24 108x100 up end\n"
+                                    "1/1 282,124 108x100 down end\n");
+    EXPECT_EQ(describeValues(layout), "40 @ 130,10.5 12x12\n"
+                                      "-40 @ 327,225.5 18x12\n");
+    EXPECT_EQ(describeLabels(layout), "0 Volume\n1 Margin\n");
+    EXPECT_EQ(layout.labels[0].name.box.top, 239);
+    EXPECT_TRUE(layout.legend.empty());
+}
+
+} // namespace plotvue::chart

@@ -1,0 +1,129 @@
+#include "unit/chart_fixture.h"
+
+#include <gtest/gtest.h>
+
+namespace plotvue::chart {
+
+namespace {
+
+ChartContent bars(std::vector<Text> labels)
+{
+    ChartContent content;
+    content.decimals = 0;
+    content.series = {std::vector<double>(labels.size(), 40)};
+    content.labels = std::move(labels);
+    return content;
+}
+
+std::string slotsLabelled(const Layout& layout)
+{
+    std::string all;
+    for (const SlotLabel& label : layout.labels) {
+        if (!all.empty())
+            all += ' ';
+        all += std::to_string(label.slot);
+    }
+    return all;
+}
+
+} // namespace
+
+TEST(ChartLabels, AreThinnedToEverySecondThirdFourthSixthTwelfth)
+{
+    const ChartContent content = bars(std::vector<Text>(12, u"OCT98"));
+    const std::pair<int, const char*> expected[] = {{36, "0 1 2 3 4 5 6 7 8 9 10 11"},
+                                                    {35, "0 2 4 6 8 10"},
+                                                    {18, "0 2 4 6 8 10"},
+                                                    {17, "0 3 6 9"},
+                                                    {12, "0 3 6 9"},
+                                                    {11, "0 4 8"},
+                                                    {9, "0 4 8"},
+                                                    {8, "0 6"},
+                                                    {6, "0 6"},
+                                                    {5, "0"}};
+    for (const auto& [slotWidth, labels] : expected)
+        EXPECT_EQ(slotsLabelled(laidOut(content, {}, {42.0 + 12 * slotWidth, 251})), labels) << slotWidth;
+    EXPECT_FALSE(laidOut(content, {}, {242, 251}).slanted);
+}
+
+TEST(ChartLabels, WithAYearEachAreThinnedBeyondAYear)
+{
+    const ChartContent content = bars(std::vector<Text>(25, u"OCT98"));
+    EXPECT_EQ(slotsLabelled(laidOut(content, {}, {42 + 25 * 3, 251})), "0 12 24");
+    EXPECT_EQ(slotsLabelled(laidOut(content, {}, {42 + 25 * 2, 251})), "0 24");
+}
+
+TEST(ChartLabels, KeepEveryJanuaryAndRuleTheYears)
+{
+    std::vector<Text> labels{u"NOV", u"DEC"};
+    for (const char16_t* january : {u"J99", u"J00"}) {
+        labels.push_back(january);
+        labels.insert(labels.end(), 11, u"FEB");
+    }
+    const Layout layout = laidOut(bars(labels), {}, {42 + 26 * 8, 251});
+    EXPECT_EQ(describeLabels(layout), "2 J99\n5 FEB weak\n8 FEB weak\n11 FEB weak\n"
+                                      "14 J00\n17 FEB weak\n20 FEB weak\n23 FEB weak\n");
+    EXPECT_EQ(layout.yearRules, (std::vector<double>{30 + 2 * 8, 30 + 14 * 8}));
+    EXPECT_EQ(slotsLabelled(laidOut(bars(labels), {}, {42 + 26 * 1, 251})), "2 14");
+}
+
+TEST(ChartLabels, RuleNoYearBeforeTheFirstMonth)
+{
+    const Layout layout = laidOut(bars({u"J98", u"FEB", u"MAR"}), {}, {442, 251});
+    EXPECT_EQ(describeLabels(layout), "0 J98\n1 FEB weak\n2 MAR weak\n");
+    EXPECT_TRUE(layout.yearRules.empty());
+}
+
+TEST(ChartLabels, KeepTheJanuaryThatTheyBeginWith)
+{
+    std::vector<Text> labels{u"J98"};
+    labels.insert(labels.end(), 11, u"FEB");
+    labels.push_back(u"J99");
+    labels.insert(labels.end(), 12, u"FEB");
+    labels.back() = u"J00";
+    const Layout layout = laidOut(bars(labels), {}, {42 + 25 * 4, 251});
+    EXPECT_EQ(describeLabels(layout), "0 J98\n6 FEB weak\n12 J99\n18 FEB weak\n24 J00\n");
+    EXPECT_EQ(layout.yearRules, (std::vector<double>{30 + 12 * 4, 30 + 24 * 4}));
+    EXPECT_EQ(slotsLabelled(laidOut(bars(labels), {}, {42 + 25 * 1, 251})), "0 12 24");
+}
+
+TEST(ChartLabels, RuleNoYearsWhereEveryLabelHasItsYear)
+{
+    EXPECT_TRUE(laidOut(bars({u"D98", u"J99", u""}), {}, {442, 251}).yearRules.empty());
+    const ChartDesign names{ChartDesign::Bars::Stacked, ChartDesign::Labels::Names};
+    EXPECT_TRUE(laidOut(bars({u"SMITH", u"UNIT 7"}), names, {442, 251}).yearRules.empty());
+}
+
+TEST(ChartLabels, OfNamesAreSlantedNotThinned)
+{
+    const ChartDesign names{ChartDesign::Bars::Stacked, ChartDesign::Labels::Names};
+    const ChartContent content = bars({u"ABCDEFGHIJKLMNOP", u"B", u"C", u"D"}); // 96 wide
+    EXPECT_FALSE(laidOut(content, names, {42 + 4 * 102, 251}).slanted);
+
+    const Layout layout = laidOut(content, names, {42 + 4 * 100, 251});
+    EXPECT_TRUE(layout.slanted);
+    EXPECT_EQ(describeLabels(layout), "0 ABCDEFGHIJKL~\n1 B\n2 C\n3 D\n");
+    EXPECT_EQ(layout.labels[0].name.box.right(), 30 + 50 + 3);
+    EXPECT_EQ(layout.labels[0].name.box.top, layout.plot.bottom() + 6);
+}
+
+TEST(ChartLabels, SlantedHaveTheRoomBelowThatTheLongestNeeds)
+{
+    const ChartDesign names{ChartDesign::Bars::Stacked, ChartDesign::Labels::Names};
+    const Size paper{42 + 4 * 50, 251}; // 242 down to the edge
+    // 60 wide, so 42.4 deep, half a line for the height of the type and half a line above.
+    EXPECT_EQ(laidOut(bars({u"ABCDEFGHIJ", u"B", u"C", u"D"}), names, paper).plot.bottom(), 188);
+    // Never deeper than 22 % of the paper, 55.2.
+    EXPECT_EQ(laidOut(bars({u"ABCDEFGHIJKLMNOP", u"B", u"C", u"D"}), names, paper).plot.bottom(), 175);
+}
+
+TEST(ChartLabels, SlantedStopBeforeTheLeftEdge)
+{
+    const ChartDesign names{ChartDesign::Bars::Stacked, ChartDesign::Labels::Names};
+    const Layout layout = laidOut(bars(std::vector<Text>(23, u"ABCDEFGHIJKL")), names, {42 + 23 * 20, 251});
+    // Its end stands at 43, so 40 / sin 45 degrees are left of it: nine characters.
+    EXPECT_EQ(describeLabels(layout).substr(0, 12), "0 ABCDEFGH~\n");
+    EXPECT_EQ(narrow(layout.labels[22].name.text), "ABCDEFGHIJKL");
+}
+
+} // namespace plotvue::chart
