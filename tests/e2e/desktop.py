@@ -101,9 +101,16 @@ class Desktop:
         path = self.home / "capture"
         path.write_bytes(capture)
         self.owner = self.launch("xclip", "-quiet", "-selection", "clipboard", "-in", str(path))
-        soon("the capture is on the clipboard", lambda: subprocess.run(
-            ["xclip", "-selection", "clipboard", "-out"], env=self.env, stdout=subprocess.PIPE,
-            stderr=subprocess.DEVNULL, check=False).stdout == capture)
+        patience = 2 + len(capture) / 5_000_000  # an owner before it that halts is asked in vain
+        soon("the capture is on the clipboard", lambda: self.held(patience) == capture)
+
+    def held(self, patience):
+        """The bytes on the clipboard; none where its owner does not answer in so many seconds."""
+        try:
+            return subprocess.run(["xclip", "-selection", "clipboard", "-out"], env=self.env, stdout=subprocess.PIPE,
+                                  stderr=subprocess.DEVNULL, timeout=patience, check=False).stdout
+        except subprocess.TimeoutExpired:
+            return None
 
     def start(self):
         return self.launch(self.program, stderr=subprocess.PIPE)
