@@ -1,12 +1,15 @@
 """The windows as assistive technology meets them: a real client on a real accessibility bus."""
 
 import os
+from contextlib import contextmanager
 
 import gi
 from desktop import Desktop, soon
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi  # noqa: E402
+from gi.repository import Atspi, GLib  # noqa: E402
+
+GONE = ("No such object", "no longer exists", "was not provided by any", "disconnected from message bus")
 
 
 class SpokenDesktop(Desktop):
@@ -44,6 +47,16 @@ class SpokenDesktop(Desktop):
         return application
 
 
+@contextmanager
+def unless_gone():
+    """Leaves at a question to an object that its program no longer has; any other failure is one."""
+    try:
+        yield
+    except GLib.Error as error:
+        if not any(words in error.message for words in GONE):
+            raise
+
+
 class Node:
     """One accessible object."""
 
@@ -56,11 +69,21 @@ class Node:
         return f"{self.role} {self.name!r}"
 
     def children(self):
-        found = (self.handle.get_child_at_index(i) for i in range(self.handle.get_child_count()))
-        return [Node(child) for child in found if child]
+        """The objects directly below; a window may take some away while they are asked for one by one."""
+        found = []
+        with unless_gone():
+            for i in range(self.handle.get_child_count()):
+                with unless_gone():
+                    child = self.handle.get_child_at_index(i)
+                    if child:
+                        found.append(Node(child))
+        return found
 
     def has(self, state):
-        return self.handle.get_state_set().contains(getattr(Atspi.StateType, state))
+        """An object that is gone has no state."""
+        with unless_gone():
+            return self.handle.get_state_set().contains(getattr(Atspi.StateType, state))
+        return False
 
     def walk(self):
         """The showing objects below, in their order; but not what a table consists of."""
