@@ -1,6 +1,7 @@
 // When windows really come to the screen, the clipboard's line ends, and paper.
 #include "app/application.h"
 #include "desktop/desktop_fixture.h"
+#include "platform/desktop/chart/chart_widget.h"
 #include "platform/desktop/clipboard.h"
 #include "support/capturebuilder.h"
 
@@ -79,6 +80,25 @@ TEST_F(DesktopStageTest, EventLoopBringsTheWindowsAboutByItself)
     EXPECT_TRUE(windowOf(*view).isVisible());
     QCoreApplication::processEvents();
     EXPECT_FALSE(windowOf(*view).isVisible());
+}
+
+TEST_F(DesktopStageTest, WindowThatComesIsPaintedOnce)
+{
+    struct Paintings : QObject {
+        int count = 0;
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            count += event->type() == QEvent::Paint;
+            return false;
+        }
+    };
+    const auto view = build(test::everyControl());
+    Paintings paintings;
+    windowOf(*view).findChild<ChartWidget*>()->installEventFilter(&paintings);
+    view->show();
+    for (int i = 0; i < 10; ++i)
+        QCoreApplication::processEvents();
+    EXPECT_EQ(paintings.count, 1);
 }
 
 TEST_F(DesktopStageTest, WindowComesBackWhereItWas)

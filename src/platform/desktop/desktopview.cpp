@@ -55,6 +55,8 @@ void DesktopView::settle()
     if (wanted_ && !seen) {
         takePlace();
         window().show();
+        // Each widget asks to be painted; said before the display asks for the whole, both are one painting.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater);
     } else if (wanted_ && raise_) {
         window_->raise();
         window_->activateWindow();
