@@ -107,6 +107,20 @@ TEST(ChartLabels, OfNamesAreSlantedNotThinned)
     EXPECT_EQ(layout.labels[0].name.box.top, layout.plot.bottom() + 6);
 }
 
+TEST(ChartLabels, SlantedAreThinnedBeforeTheyOverlap)
+{
+    const ChartDesign names{ChartDesign::Bars::Stacked, ChartDesign::Labels::Names};
+    const ChartContent content = bars(std::vector<Text>(6, u"ABCDEFGHIJKL"));
+    // Three quarters of a line, 9, lie between slanted labels whose slots are 12.7 apart.
+    const std::pair<int, const char*> expected[] = {
+        {13, "0 1 2 3 4 5"}, {12, "0 2 4"}, {7, "0 2 4"}, {6, "0 3"}};
+    for (const auto& [slotWidth, labels] : expected) {
+        const Layout layout = laidOut(content, names, {42.0 + 6 * slotWidth, 2510});
+        EXPECT_TRUE(layout.slanted);
+        EXPECT_EQ(slotsLabelled(layout), labels) << slotWidth;
+    }
+}
+
 TEST(ChartLabels, SlantedHaveTheRoomBelowThatTheLongestNeeds)
 {
     const ChartDesign names{ChartDesign::Bars::Stacked, ChartDesign::Labels::Names};

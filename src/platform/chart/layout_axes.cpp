@@ -58,6 +58,12 @@ int stepBetweenLabels(const Labels& labels, double slotWidth, double em)
     return 12 * (labels.january ? 1 : static_cast<int>(years));
 }
 
+// Slanted lines of type stand closer than their slots; capitals need less than the whole height of a line.
+int stepBetweenNames(bool slanted, double slotWidth, double em)
+{
+    return slanted ? static_cast<int>(std::ceil(em * .75 / (slotWidth * slant))) : 1;
+}
+
 void placeTicks(const LayoutInput& input, Layout& layout, double right)
 {
     for (const double value : layout.scale.ticks) {
@@ -125,7 +131,8 @@ void placeAxes(const LayoutInput& input, Layout& layout, const Box& inner, doubl
     layout.plot.top = layout.snapped(top);
     layout.plot.height = std::max(em, layout.snapped(labelTop - em * .5 - belowBars) - layout.plot.top);
     placeTicks(input, layout, ticksEnd);
-    const int step = names ? 1 : stepBetweenLabels(labels, layout.slotWidth, em);
+    const int step = names ? stepBetweenNames(layout.slanted, layout.slotWidth, em)
+                           : stepBetweenLabels(labels, layout.slotWidth, em);
     placeLabels(input, layout, std::move(labels), step, layout.plot.bottom() + em * .5 + belowBars, longest);
 }
 
