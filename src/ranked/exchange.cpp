@@ -61,10 +61,12 @@ void RecordWriter::writeTo(const char* file) const
     if (descriptor < 0)
         failFor(file, u"cannot be created");
     // A file that is already there keeps the rights it had. What a link leads to may be no file: a device
-    // keeps them.
+    // keeps them. So does what refuses, another person's file or a disk that knows no rights: it can be
+    // written.
     struct stat found {};
-    bool good =
-        fstat(descriptor, &found) == 0 && (!S_ISREG(found.st_mode) || fchmod(descriptor, ownerOnly) == 0);
+    bool good = fstat(descriptor, &found) == 0;
+    if (good && S_ISREG(found.st_mode))
+        static_cast<void>(fchmod(descriptor, ownerOnly));
     for (std::size_t done = 0; good && done < bytes_.size();) {
         const ssize_t written = write(descriptor, bytes_.data() + done, bytes_.size() - done);
         good = written >= 0 || errno == EINTR;

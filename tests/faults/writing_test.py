@@ -53,6 +53,20 @@ class Writing(Files):
                     self.assertEqual((self.directory / name).read_bytes(), kept)
                     self.take(name)
 
+    @unittest.skipIf(os.getuid(), "only who may do everything can give a file away")
+    def test_a_file_of_another_person_that_all_may_write(self):
+        for name in (SCRATCH, CHOSEN, ENTRIES):
+            path = self.directory / name
+            path.write_text("old")
+            os.chown(path, 65534, -1)
+            path.chmod(0o666)
+        replay = self.charted(around=("setpriv", "--bounding-set=-fowner"))
+        self.assertTrue(replay.state(CHARTS)["visible"])
+        for name in (SCRATCH, CHOSEN, ENTRIES):
+            path = self.directory / name
+            self.assertNotEqual(path.read_text(), "old")
+            self.assertEqual(path.stat().st_mode & 0o777, 0o666)
+
     def test_a_disk_that_is_full_at_once(self):
         self.fails(self.copied(around=disk_of(1, self.directory)), "start",
                    rf"^The file {SCRATCH} .* cannot be written \(.+\)\.$")
