@@ -14,7 +14,8 @@ double leadingNumber(TextView field);
 // The same after every comma is dropped: "1,234" reads as 1234.
 double leadingNumberWithoutCommas(TextView field);
 
-// Plain decimal text: at most 15 significant digits, no trailing zeros, no exponent, "0" for zero.
+// Plain decimal text of a finite number: at most 15 significant digits, no trailing zeros, no exponent, "0"
+// for zero.
 Text plainNumber(double value);
 
 // The same with a blank in front when not negative, the room of the sign: " 1998", "-5".

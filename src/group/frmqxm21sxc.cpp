@@ -1,5 +1,6 @@
 #include "group/frmqxm21sxc.h"
 
+#include <algorithm>
 #include <array>
 
 namespace plotvue {
@@ -14,7 +15,7 @@ struct Type {
 // The host prints the volume between sales and profit.
 constexpr std::array types{Type{u"Sales", 0}, Type{u"Profit", 2}, Type{u"Volume", 1}};
 
-constexpr std::size_t seriesAlwaysCharted = 3;
+constexpr int seriesAlwaysCharted = 3;
 
 } // namespace
 
@@ -61,8 +62,9 @@ void frmQXM21SXC::drawChart(TextView capture)
                 salesman.figures[group * figuresAGroup + static_cast<std::size_t>(type->place)];
     }
     ChartArrayData data;
-    for (std::size_t i = 0; i < (screen.groups > 3 ? series.size() : seriesAlwaysCharted); ++i)
-        data.AddArray(series[i]);
+    series.resize(static_cast<std::size_t>(std::clamp(screen.groups, seriesAlwaysCharted, mostGroups)));
+    for (const std::vector<double>& figures : series)
+        data.AddArray(figures);
     data.AddArray(labels);
     ChartFX1.SetChartData(data);
 

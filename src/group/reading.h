@@ -29,7 +29,8 @@ inline constexpr int figuresAGroup = 3;
 
 // Lines that the text no longer has read as empty ones. Of the 12 figures of a salesman, counted from 0, only
 // those that `wanted` says are read; the others are 0.
-// Throws Failure for more than 23 salesmen, or fewer than none. The views point into the capture.
+// Throws Failure for more than 23 salesmen, or fewer than none, for a count outside 16 bits and for a figure
+// too large for a double. The views point into the capture.
 GroupScreen readGroups(TextView capture, const std::vector<bool>& wanted);
 
 } // namespace plotvue

@@ -11,7 +11,7 @@ class ChartArrayData {
 public:
     void AddArray(const std::vector<double>& values);       // the next series
     void AddArray(const std::vector<std::int32_t>& values); // the next series
-    void AddArray(const std::vector<Text>& labels);         // the point labels
+    void AddArray(const std::vector<Text>& labels);         // the point labels, in place of earlier ones
 
     const std::vector<std::vector<double>>& series() const { return series_; }
     const std::vector<Text>& labels() const { return labels_; }
@@ -26,7 +26,7 @@ public:
     virtual ~ChartControl() = default;
 
     void SetChartData(const ChartArrayData& data); // in place of what the chart held
-    void SetTitle(int position, TextView text);
+    void SetTitle(int position, TextView text);    // drawn are 1 (small, above), 2 (large) and 3 (below)
     void SetValueDecimals(int decimals);
     void ShowSeries(int series, bool shown);
     void SetSeriesLegend(int series, TextView text);

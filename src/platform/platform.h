@@ -30,6 +30,8 @@ public:
     // The clipboard's text; empty when it holds none.
     virtual Text clipboardText() = 0;
 
+    // Makes a window, hidden. `close` runs when a person closes it with the title bar; it stays unless that
+    // hides it.
     virtual std::unique_ptr<View> build(const Declaration& declaration, const Handlers& handlers,
                                         std::function<void()> close) = 0;
 

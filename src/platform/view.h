@@ -68,8 +68,9 @@ struct ViewState {
 // What a control does when it is used: the index of an option, the row of a grid, 0 for a button.
 using Handlers = std::map<Name, std::function<void(int)>>;
 
-// A built window begins hidden. Names that the declaration does not hold are a mistake in the program:
-// they throw std::out_of_range.
+// A built window begins hidden. Names, option indices, rows and columns that it does not hold are a mistake
+// in the program: whatever is done with them throws std::out_of_range, but an unknown option is just not
+// chosen.
 class View {
 public:
     virtual ~View() = default;

@@ -47,7 +47,7 @@ void takeAgeing(RankedReading& reading, TextView line)
     for (int j = 1; j < mostBuckets && static_cast<int>(line.size()) >= 15 + 8 * j; ++j)
         sum = finite(sum + bucket(line, j));
     entry.numbers[total] = sum;
-    entry.numbers[pastDue] = sum - current;
+    entry.numbers[pastDue] = finite(sum - current);
 }
 
 // How many amount columns the caption line is long enough for.

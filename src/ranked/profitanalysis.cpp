@@ -1,5 +1,6 @@
 #include "ranked/profitanalysis.h"
 
+#include "capture/failure.h"
 #include "capture/number.h"
 #include "ranked/monthcolumns.h"
 
@@ -19,8 +20,8 @@ Text totalSentence(const RankedReading& reading)
     const double before = std::floor(reading.totals[previous]);
     const bool less = now < before;
     return Text(u"Total profit for the territory ") + (less ? u"decreased " : u"increased ") + u"by " +
-           signedNumber(less ? before - now : now - before) + u" (from " + signedNumber(before) + u" to " +
-           signedNumber(now) + u").";
+           signedNumber(finite(less ? before - now : now - before)) + u" (from " + signedNumber(before) +
+           u" to " + signedNumber(now) + u").";
 }
 
 } // namespace

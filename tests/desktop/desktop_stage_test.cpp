@@ -11,6 +11,8 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QScrollBar>
+#include <QTableView>
 
 namespace plotvue {
 
@@ -115,6 +117,23 @@ TEST_F(DesktopStageTest, WindowComesBackWhereItWas)
     EXPECT_EQ(windowOf(*view).pos(), stood);
 }
 
+TEST_F(DesktopStageTest, MinimisedWindowComesBackWhenItIsShown)
+{
+    const auto view = build(test::everyControl());
+    for (const bool hidden : {false, true}) {
+        view->show();
+        platform.settle();
+        windowOf(*view).showMinimized();
+        if (hidden)
+            view->hide();
+        platform.settle();
+        view->show();
+        platform.settle();
+        EXPECT_TRUE(windowOf(*view).isVisible());
+        EXPECT_FALSE(windowOf(*view).isMinimized());
+    }
+}
+
 TEST_F(DesktopStageTest, WindowBuiltAnewStandsWhereTheLastOfItsNameDid)
 {
     auto view = build(test::everyControl());
@@ -198,6 +217,38 @@ TEST_F(DesktopStageTest, PaperIsWhiteWhateverTheTheme)
         for (int x = 0; x < paper.width(); ++x)
             sum += qGray(paper.pixel(x, y));
     EXPECT_GT(sum / (paper.width() * paper.height()), 235);
+}
+
+TEST_F(DesktopStageTest, PrintedRowsStayWithinTheirGrid)
+{
+    const auto view = build(test::everyControl());
+    view->show();
+    platform.settle();
+    Window& window = windowOf(*view);
+    GridControl& rows = view->grid("Grid1");
+    rows.setRows(60);
+    auto& table = *window.findChild<QTableView*>();
+    const auto printed = [&](const Text& text) {
+        for (int row = 1; row < 60; ++row)
+            rows.setCell(row, 1, text);
+        QImage paper(window.size(), QImage::Format_RGB32);
+        paper.fill(Qt::white);
+        QPainter painter(&paper);
+        drawOnPaper(window, painter, paper.rect());
+        return paper;
+    };
+    const QImage without = printed(u"");
+    table.setColumnWidth(1, 3 * table.width());
+    table.horizontalScrollBar()->setValue(table.width());
+    const QImage with = printed(Text(400, u'#'));
+    const QRect grid(table.mapTo(&window, QPoint(0, 0)), table.size());
+    int inside = 0, outside = 0;
+    for (int y = 0; y < with.height(); ++y)
+        for (int x = 0; x < with.width(); ++x)
+            if (with.pixel(x, y) != without.pixel(x, y))
+                ++(grid.contains(x, y) ? inside : outside);
+    EXPECT_GT(inside, 0);
+    EXPECT_EQ(outside, 0);
 }
 
 // Where anything is drawn.

@@ -1,11 +1,18 @@
 #include "desktop/desktop_fixture.h"
 #include "platform/recording/recordingview.h"
 
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
 #include <QGroupBox>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QShortcut>
+#include <QTableView>
 
 #include <gmock/gmock.h>
 
@@ -136,6 +143,19 @@ TEST_F(DesktopViewTest, ChosenOptionCanBeChosenAgain)
     EXPECT_THAT(ran, ElementsAre("opt 1", "opt 1"));
 }
 
+TEST_F(DesktopViewTest, OptionToggledByAssistiveTechnologyIsClicked)
+{
+    onScreen();
+    EXPECT_THAT(ran, ElementsAre());
+    QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&find<QRadioButton>("24 Month"));
+    told->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    QCoreApplication::processEvents();
+    EXPECT_THAT(ran, ElementsAre("opt 1"));
+    find<QRadioButton>("12 Month").click();
+    QCoreApplication::processEvents();
+    EXPECT_THAT(ran, ElementsAre("opt 1", "opt 0"));
+}
+
 TEST_F(DesktopViewTest, ArrowsMoveAndChooseWithinTheFrame)
 {
     onScreen();
@@ -148,6 +168,53 @@ TEST_F(DesktopViewTest, ArrowsMoveAndChooseWithinTheFrame)
     EXPECT_THAT(ran, ElementsAre("opt 6"));
     EXPECT_TRUE(view->options("opt").isChosen(6));
     EXPECT_FALSE(view->options("opt").isChosen(5));
+}
+
+TEST_F(DesktopViewTest, TabReachesAFrameWhoseChosenOptionIsHidden)
+{
+    onScreen();
+    OptionsControl& options = view->options("opt");
+    find<QRadioButton>("D").setFocus();
+    find<QRadioButton>("D").click();
+    options.setVisible(7, false);
+    find<QRadioButton>("12 Month").setFocus();
+    type(find<QRadioButton>("12 Month"), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &find<QRadioButton>("A && B"));
+}
+
+TEST_F(DesktopViewTest, LinesOfATextStayLines)
+{
+    view->setText("Label1", u"one\rtwo\r\nthree\nfour\r");
+    EXPECT_NE(windowOf(*view).findChild<QLabel*>(), nullptr);
+    EXPECT_EQ(windowOf(*view).findChild<QLabel*>()->text(), "one\ntwo\nthree\nfour");
+    view->setText("txt", u"one\rtwo\r\n");
+    EXPECT_EQ(windowOf(*view).findChild<QLineEdit*>()->text(), "one two");
+}
+
+TEST_F(DesktopViewTest, RowsAreNotCopiedOverTheScreenOnTheClipboard)
+{
+    QGuiApplication::clipboard()->setText("QXM31H");
+    view->grid("Grid1").setRows(2);
+    view->grid("Grid1").setCell(1, 1, u"ACME");
+    auto& grid = *windowOf(*view).findChild<QTableView*>();
+    grid.setCurrentIndex(grid.model()->index(0, 1));
+    auto& list = *windowOf(*view).findChild<QListWidget*>();
+    list.setCurrentRow(0);
+    for (QWidget* each : {static_cast<QWidget*>(&grid), static_cast<QWidget*>(&list)}) {
+        QKeyEvent copy(QEvent::KeyPress, Qt::Key_C, Qt::ControlModifier);
+        QCoreApplication::sendEvent(each, &copy);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), "QXM31H");
+    }
+}
+
+TEST_F(DesktopViewTest, HeldEscapeClosesOneWindow)
+{
+    Declaration closing = test::everyControl();
+    closing.content.items.push_back({Button{.name = "cmdClose", .caption = u"Close", .shortcut = u"Esc"}});
+    view = build(closing);
+    const QList<QShortcut*> shortcuts = windowOf(*view).findChildren<QShortcut*>();
+    for (const QShortcut* shortcut : shortcuts)
+        EXPECT_EQ(shortcut->autoRepeat(), shortcut->key() != Qt::Key_Escape);
 }
 
 TEST_F(DesktopViewTest, UntitledFrameHasAName)

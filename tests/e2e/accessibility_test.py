@@ -4,7 +4,7 @@ import re
 import sys
 import unittest
 
-from accessible import SpokenDesktop
+from accessible import SpokenDesktop, renamed
 from desktop import SAMPLES, ended, soon
 
 GROUPS = ["categoriessalesmen", "salesmencategories"]
@@ -162,7 +162,7 @@ class Accessibility(unittest.TestCase):
         window = self.open("ratios")
         drilldown = self.open_drilldown(window)
         for button, title, text in (
-            ("Formula", "Formula", r"^Formula in QXM: .+Current month data: "),
+            ("Formula", "Formula", r"^Formula in QXM: [^\n]+\n+Current month data: "),
             ("Ratio Notes", "Ratio Notes", "solvency"),
             ("Back", "PlotVue", "^End of list$"),
         ):
@@ -170,6 +170,16 @@ class Accessibility(unittest.TestCase):
                 drilldown.first("push button", button).press()
                 self.acknowledge(title, text)
         soon("the drill-down window closes", lambda: not drilldown.has("SHOWING"))
+        self.close(window)
+
+    def test_a_redraw_tells_of_the_chart_and_of_every_point_once(self):
+        window = self.open("product")
+        with renamed() as names:
+            window.first("radio button", "Profit").press()
+            soon("the newest month is told", lambda: any(name.startswith("OCT99: Profit") for name in names()))
+        told = names()
+        self.assertEqual(sorted(told), sorted(node.name for node in [
+            window.first("chart"), *window.first("chart").children()]))
         self.close(window)
 
     def test_the_end_by_an_error_is_told(self):

@@ -48,6 +48,29 @@ class SpokenDesktop(Desktop):
 
 
 @contextmanager
+def renamed():
+    """Gives the new names of charts and of their points, as they are told of meanwhile."""
+    told = []
+
+    def note(event):
+        with unless_gone():
+            if event.source.get_role_name() in ("chart", "list item"):
+                told.append(event.source.get_name())
+
+    def names():
+        while GLib.MainContext.default().iteration(False):
+            pass
+        return told
+
+    listener = Atspi.EventListener.new(note)
+    listener.register("object:property-change:accessible-name")
+    try:
+        yield names
+    finally:
+        listener.deregister("object:property-change:accessible-name")
+
+
+@contextmanager
 def unless_gone():
     """Leaves at a question to an object that its program no longer has; any other failure is one."""
     try:
@@ -114,7 +137,7 @@ class Node:
     def press(self):
         count = Atspi.Action.get_n_actions(self.handle)
         names = [Atspi.Action.get_action_name(self.handle, i) for i in range(count)]
-        Atspi.Action.do_action(self.handle, names.index("Press"))
+        Atspi.Action.do_action(self.handle, names.index("Toggle" if self.role == "radio button" else "Press"))
 
     def shown(self, title, role="frame"):
         """Waits for the application's window of that title."""

@@ -70,6 +70,7 @@ HARMLESS = {
     },
     r"app/recognition": {
         r"digits|characters = |commonLength = \[6 -> 5|markersWith|found & |possible (==|>>)": ONLY_WHERE,
+        r"i\[ < -> <= \]recognitionOrder": "no candidate has a bit behind the last marker's",
     },
 }
 

@@ -207,6 +207,15 @@ TEST_F(MonthToMonth, LargeProfitsAreWrittenWithoutSeparators)
               u"Total profit for the territory increased by  1234533323 (from  34567 to  1234567890).");
 }
 
+TEST_F(MonthToMonth, ADifferenceOfProfitsBeyondADoubleIsARunTimeError)
+{
+    MonthToMonthScreen screen;
+    screen.put(totalsLine, 9, rightAligned(u"1.7E308", 10))
+        .put(totalsLine, 20, rightAligned(u"-1.7E308", 11));
+    start(screen);
+    EXPECT_EQ(session.events().back(), "error A figure worked out from the screen is too large.");
+}
+
 TEST_F(MonthToMonth, WithoutItsPageLinesTheScreenSaysNothingOfThem)
 {
     CaptureBuilder screen(3);

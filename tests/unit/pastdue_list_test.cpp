@@ -114,6 +114,14 @@ TEST(PastdueList, AnAgeingLineTooShortForABucketIsNotPastDue)
     EXPECT_EQ(pastdueRows(session).at(0).at(6), u"0");
 }
 
+TEST(PastdueList, WhatIsPastDueBeyondADoubleIsARunTimeError)
+{
+    Session session;
+    session.start(hostScreen({pastdueTitle, pastdueMonths, u"RANK:  1     10442",
+                              ageing(u"OCT99", {u"-1.7E308", u"1.7E308", u"1.7E308"})}));
+    EXPECT_EQ(session.events().back(), "error A figure worked out from the screen is too large.");
+}
+
 TEST(PastdueList, WordsAndBlanksWhereAmountsShouldBeCountNothing)
 {
     Session session;

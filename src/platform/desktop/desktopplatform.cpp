@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QThread>
@@ -21,6 +22,8 @@
 namespace plotvue {
 
 namespace {
+
+constexpr int longestLine = 120; // in average characters
 
 void say(TextView sentence)
 {
@@ -58,6 +61,11 @@ void showBox(QMessageBox::Icon icon, TextView title, TextView text)
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(title.empty() ? QStringLiteral("PlotVue") : toQString(title));
     box.setText(shown(text));
+    // A text in lines keeps them as far as they reach: by itself the box breaks at 500 pixels.
+    auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (label && box.text().contains(u'\n'))
+        label->setMinimumWidth(
+            qMin(label->sizeHint().width(), longestLine * label->fontMetrics().averageCharWidth()));
     // A standard button would have the desktop's icon theme loaded for its picture.
     box.setDefaultButton(box.addButton(QMessageBox::tr("OK"), QMessageBox::AcceptRole));
     box.exec();

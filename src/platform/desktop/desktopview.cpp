@@ -52,6 +52,8 @@ void DesktopView::hide()
 void DesktopView::settle()
 {
     const bool seen = window_ && window_->isVisible();
+    if (wanted_ && raise_ && window().isMinimized())
+        window().setWindowState(window().windowState() & ~Qt::WindowMinimized);
     if (wanted_ && !seen) {
         takePlace();
         window().show();

@@ -3,6 +3,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QScrollBar>
 #include <QStyleOption>
@@ -26,13 +27,18 @@ public:
                      const QWidget* widget) const override
     {
         const auto* heading = qstyleoption_cast<const QStyleOptionHeader*>(option);
-        if (element != CE_HeaderLabel || !heading)
+        if (element != CE_Header || !heading)
             return QProxyStyle::drawControl(element, option, painter, widget);
-        QStyleOptionHeader inset = *heading;
-        inset.version = QStyleOptionHeader::Version; // not a later one, of which this is no copy
+        // In its parts: the whole would clip to itself in place of what is in sight, which shows in print.
+        painter->save();
+        painter->setClipRect(heading->rect, Qt::IntersectClip);
+        QProxyStyle::drawControl(CE_HeaderSection, option, painter, widget);
+        QStyleOptionHeader label = *heading;
+        label.version = QStyleOptionHeader::Version; // not a later one, of which this is no copy
         const int more = cellMargin - pixelMetric(PM_HeaderMargin, option, widget);
-        inset.rect.adjust(more, 0, -more, 0);
-        QProxyStyle::drawControl(element, &inset, painter, widget);
+        label.rect = subElementRect(SE_HeaderLabel, option, widget).adjusted(more, 0, -more, 0);
+        QProxyStyle::drawControl(CE_HeaderLabel, &label, painter, widget);
+        painter->restore();
     }
 };
 
@@ -96,7 +102,7 @@ void GridTable::fitRows()
 // What the viewport has to spare goes to the columns of text, in proportion to their widths.
 void GridTable::fitColumns()
 {
-    if (widthsChosen_ && horizontalHeader()->count() == model_->columnCount())
+    if (widthsChosen_)
         return;
     int texts = 0;
     for (int column = 0; column < model_->columnCount(); ++column)
@@ -135,6 +141,8 @@ void GridTable::keyPressEvent(QKeyEvent* event)
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && currentIndex().isValid())
         emit rowChosen(currentIndex().row() + 1);
+    else if (event->matches(QKeySequence::Copy))
+        event->ignore(); // the clipboard holds the screen that the rows are from
     else
         QTableView::keyPressEvent(event);
 }

@@ -1,10 +1,10 @@
 #include "platform/desktop/options.h"
 
 #include "platform/desktop/shown.h"
+#include "platform/desktop/smallwidgets.h"
 #include "platform/desktop/window.h"
 
 #include <QGroupBox>
-#include <QRadioButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -38,7 +38,7 @@ QGroupBox* DesktopOptions::addFrame(const OptionFrame& declared, Window& window)
         frame->setAccessibleName(toQString(declared.spokenName));
     auto* layout = new QVBoxLayout(frame);
     for (const plotvue::Option& option : declared.options) {
-        auto* button = new QRadioButton(frame);
+        auto* button = new OptionButton(frame);
         showCaption(*button, option.caption);
         button->setChecked(option.index == declared.chosen);
         // Tab is to come to the one chosen. Later on the toolkit sees to that; at first it takes the topmost.
@@ -76,7 +76,16 @@ void DesktopOptions::setCaption(int index, TextView caption)
 
 void DesktopOptions::setVisible(int index, bool visible)
 {
-    button(index).setVisible(visible);
+    QRadioButton& changed = button(index);
+    changed.setVisible(visible);
+    // Tab comes to the option chosen, or, while that is hidden, to the first of its frame that is not.
+    QRadioButton* entry = nullptr;
+    for (const Option& option : options_)
+        if (option.button->parentWidget() == changed.parentWidget() && !option.button->isHidden() &&
+            (!entry || option.button->isChecked()))
+            entry = option.button;
+    if (entry)
+        entry->setFocusPolicy(Qt::StrongFocus);
 }
 
 void DesktopOptions::choose(int index)

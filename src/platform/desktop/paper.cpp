@@ -1,6 +1,7 @@
 #include "platform/desktop/chart/chart_widget.h"
 #include "platform/desktop/printing.h"
 
+#include <QAbstractScrollArea>
 #include <QLayout>
 #include <QPainter>
 #include <QPicture>
@@ -34,6 +35,8 @@ QPicture pictureOf(QWidget& widget)
 {
     QPicture picture;
     QPainter painter(&picture);
+    if (qobject_cast<QAbstractScrollArea*>(widget.parentWidget()))
+        painter.setClipRect(widget.rect()); // of what is scrolled only a part is in sight
     widget.render(&painter, {}, {}, {});
     return picture;
 }

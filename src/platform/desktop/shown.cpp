@@ -17,20 +17,17 @@ Text toText(const QString& text)
 
 QString shown(TextView text)
 {
-    QString result;
-    result.reserve(static_cast<qsizetype>(text.size()));
-    for (const char16_t character : text)
-        if (character == u'\n' || QChar(character).category() != QChar::Other_Control)
-            result += QChar(character);
-    return result;
+    QString lines = toQString(text);
+    lines.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+    lines.removeIf([](QChar c) { return c != u'\n' && c.category() == QChar::Other_Control; });
+    while (lines.endsWith(u'\n'))
+        lines.chop(1);
+    return lines;
 }
 
 QString shownOnOneLine(TextView text)
 {
-    QString result = shown(text);
-    while (result.endsWith(u'\n'))
-        result.chop(1);
-    return result.replace(u'\n', u' ');
+    return shown(text).replace(u'\n', u' ');
 }
 
 QString withoutMnemonic(QString text)

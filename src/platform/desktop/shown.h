@@ -11,9 +11,10 @@ namespace plotvue {
 
 Text toText(const QString& text);
 
-// `text` without its control characters, but for line feeds: lines stay lines.
+// `text` without control characters. Line ends of any kind (CR LF, CR, LF) break the line; none stays at the
+// end.
 QString shown(TextView text);
-// On one line: line ends become blanks, none at the end.
+// The same on one line: its line ends are blanks.
 QString shownOnOneLine(TextView text);
 // "&" as itself where a widget would take it for a mnemonic.
 QString withoutMnemonic(QString text);

@@ -2,6 +2,7 @@
 
 #include "platform/desktop/shown.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -22,6 +23,30 @@ void TextLine::show(TextView text)
     keepText(*this, text);
     setText(shownOnOneLine(text));
     setCursorPosition(0);
+}
+
+void TextList::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Copy))
+        event->ignore();
+    else
+        QListWidget::keyPressEvent(event);
+}
+
+void OptionButton::nextCheckState()
+{
+    clicking_ = true;
+    QRadioButton::nextCheckState();
+    clicking_ = false;
+}
+
+void OptionButton::checkStateSet()
+{
+    QRadioButton::checkStateSet();
+    // Later: the option chosen before is still checked.
+    if (!clicking_ && isVisible() && isChecked())
+        QMetaObject::invokeMethod(
+            this, [this] { emit clicked(true); }, Qt::QueuedConnection);
 }
 
 void ArrowButton::paintEvent(QPaintEvent* event)

@@ -4,7 +4,9 @@
 #include "platform/declaration.h"
 
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
+#include <QRadioButton>
 
 namespace plotvue {
 
@@ -15,6 +17,32 @@ class TextLine : public QLineEdit {
 public:
     explicit TextLine(const TextBox& declared, QWidget* parent = nullptr);
     void show(TextView text);
+};
+
+// A list to be read: its rows cannot be copied over the screen that the clipboard holds.
+class TextList : public QListWidget {
+    Q_OBJECT
+
+public:
+    using QListWidget::QListWidget;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+// An option that is clicked when assistive technology toggles it, too.
+class OptionButton : public QRadioButton {
+    Q_OBJECT
+
+public:
+    using QRadioButton::QRadioButton;
+
+protected:
+    void nextCheckState() override;
+    void checkStateSet() override;
+
+private:
+    bool clicking_ = false;
 };
 
 // An arrow to the left in place of a caption.

@@ -8,7 +8,6 @@
 #include <QBoxLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QListWidget>
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
@@ -111,9 +110,11 @@ QWidget* Builder::make(const Button& declared)
         button->setAccessibleName(toQString(declared.spokenName));
     const QList<QKeySequence> keys = shortcuts(declared.shortcut);
     button->setToolTip(tip(declared, keys));
-    for (const QKeySequence& key : keys)
-        QObject::connect(new QShortcut(key, &window_), &QShortcut::activated, button,
-                         [button] { button->click(); });
+    for (const QKeySequence& key : keys) {
+        auto* shortcut = new QShortcut(key, &window_);
+        shortcut->setAutoRepeat(key != Qt::Key_Escape); // held down, it closes one window and not all of them
+        QObject::connect(shortcut, &QShortcut::activated, button, [button] { button->click(); });
+    }
     QObject::connect(button, &QPushButton::clicked, &window_,
                      [window = &window_, name = declared.name] { window->run(name, 0); });
     controls_.buttons[declared.name] = button;
@@ -145,7 +146,7 @@ QWidget* Builder::make(const TextBox& declared)
 
 QWidget* Builder::make(const ListBox& declared)
 {
-    auto* list = new QListWidget(&window_);
+    auto* list = new TextList(&window_);
     list->setAccessibleName(toQString(declared.spokenName));
     list->setSelectionMode(QAbstractItemView::NoSelection);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -127,8 +127,11 @@ void announceContent(ChartWidget& chart)
 {
     if (!QAccessible::isActive())
         return;
-    QAccessibleEvent event(&chart, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&event);
+    for (int point = -1; point < chart.points(); ++point) { // -1 is the chart itself
+        QAccessibleEvent event(&chart, QAccessible::NameChanged);
+        event.setChild(point);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void announceCurrentPoint(ChartWidget& chart)

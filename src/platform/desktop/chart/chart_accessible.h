@@ -7,7 +7,7 @@ class ChartWidget;
 
 // Once for all charts; costs nothing until someone listens.
 void offerChartsToAssistiveTechnology();
-void announceContent(ChartWidget& chart);
+void announceContent(ChartWidget& chart); // its name and every point's may be others
 void announceCurrentPoint(ChartWidget& chart);
 
 } // namespace plotvue

@@ -26,9 +26,18 @@ void ChartWidget::setContent(const ChartContent& content, const ChartDesign& des
     design_ = design;
     layout_.reset();
     if (current_ >= points())
-        current_ = -1;
+        setCurrentPoint(-1);
     update();
-    announceContent(*this);
+    if (announcing_)
+        return;
+    announcing_ = true; // once for all that one redraw changes
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            announcing_ = false;
+            announceContent(*this);
+        },
+        Qt::QueuedConnection);
 }
 
 const ChartFonts& ChartWidget::fonts() const

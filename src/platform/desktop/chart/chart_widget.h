@@ -52,6 +52,7 @@ private:
     int current_ = -1;
     bool hovering_ = false;
     bool byKey_ = false; // the focus came or was used by key: it is shown
+    bool announcing_ = false;
 
     // Kept until size, contents, font or device change.
     mutable std::optional<ChartFonts> fonts_;
