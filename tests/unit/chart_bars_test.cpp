@@ -4,12 +4,22 @@
 
 namespace plotvue::chart {
 
-TEST(ChartBars, StackNegativePartsDownwards)
+namespace {
+
+ChartContent twoSlots(std::vector<std::vector<double>> series)
 {
     ChartContent content;
     content.decimals = 0;
-    content.series = {{10, -10}, {30, -20}};
+    content.series = std::move(series);
     content.labels = {u"A", u"B"};
+    return content;
+}
+
+} // namespace
+
+TEST(ChartBars, StackNegativePartsDownwards)
+{
+    const ChartContent content = twoSlots({{10, -10}, {30, -20}});
     const Layout layout = laidOut(content, {}, {448, 260});
     EXPECT_EQ(describe(layout.plot), "36,24 400x200");
     EXPECT_EQ(describeBars(layout), "0/0 82,99 108x25 up\n"
@@ -24,10 +34,7 @@ TEST(ChartBars, StackNegativePartsDownwards)
 
 TEST(ChartBars, OfAGroupStandSideBySide)
 {
-    ChartContent content;
-    content.decimals = 0;
-    content.series = {{10, 20}, {30, 40}};
-    content.labels = {u"A", u"B"};
+    ChartContent content = twoSlots({{10, 20}, {30, 40}});
     const Layout layout = laidOut(content, {ChartDesign::Bars::Grouped}, plot400x200);
     EXPECT_EQ(describeBars(layout), "0/0 76,174 53x50 up end\n"
                                     "0/1 130,74 53x150 up end\n"
@@ -45,9 +52,7 @@ TEST(ChartBars, OfAGroupStandSideBySide)
 
 TEST(ChartBars, StandApartInGroupsWhenWiderThanSeven)
 {
-    ChartContent content;
-    content.series = {{10, 20}, {30, 40}};
-    content.labels = {u"A", u"B"};
+    const ChartContent content = twoSlots({{10, 20}, {30, 40}});
     for (const auto& [slotWidth, gap] : {std::pair(18, 0), std::pair(20, 1)}) { // 82 %: 7 each, 8 each
         const auto bars = laidOut(content, {ChartDesign::Bars::Grouped}, {42.0 + 2 * slotWidth, 251}).bars;
         EXPECT_EQ(bars[0].box.width, 7);
@@ -66,10 +71,7 @@ TEST(ChartBars, OfUpToThreeSlotsMayBeWider)
 
 TEST(ChartBars, OfZeroInAGroupHaveTheirFigureAboveTheLine)
 {
-    ChartContent content;
-    content.decimals = 0;
-    content.series = {{0, 20}, {30, 40}};
-    content.labels = {u"A", u"B"};
+    const ChartContent content = twoSlots({{0, 20}, {30, 40}});
     const Layout layout = laidOut(content, {ChartDesign::Bars::Grouped}, plot400x200);
     EXPECT_EQ(describe(layout.values[0].figure), "0 @ 99.5,210.5 6x12");
 }

@@ -10,8 +10,6 @@ using chart::TextRole;
 
 namespace {
 
-constexpr int oneLine = Qt::TextSingleLine | Qt::TextDontClip | Qt::AlignVCenter;
-
 class ChartPainter {
 public:
     ChartPainter(QPainter& painter, const chart::Figures& figures, const chart::Layout& layout,

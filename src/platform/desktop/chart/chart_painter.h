@@ -13,6 +13,9 @@ namespace plotvue {
 
 QRectF toQRectF(const chart::Box& box);
 
+// How a line of text stands in its box.
+inline constexpr int oneLine = Qt::TextSingleLine | Qt::TextDontClip | Qt::AlignVCenter;
+
 // `layout` is that of `content` and `design`; `current` the point that is marked, -1: none. Covers the whole
 // paper.
 void paintChart(QPainter& painter, const ChartContent& content, const ChartDesign& design,

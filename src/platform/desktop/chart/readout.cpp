@@ -10,7 +10,6 @@ using chart::TextRole;
 
 namespace {
 
-constexpr int oneLine = Qt::TextSingleLine | Qt::TextDontClip | Qt::AlignVCenter;
 constexpr double rowHeight = 1.25, besideSlot = 8, fromEdge = 4;
 
 struct Row {
