@@ -6,18 +6,22 @@ using namespace plotvue;
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const Text text = fuzz::textOf(data, size);
-    const Text mended = withCarriageReturns(text);
-    char16_t before = 0;
+    const Text mended = mendLineEnds(text);
+    // Only blanks and carriage returns are added, and those only before a line feed.
+    char16_t before = u'\n';
     std::size_t kept = 0;
-    for (const char16_t character : mended) {
+    for (std::size_t i = 0; i < mended.size(); ++i) {
+        const char16_t character = mended[i];
         fuzz::always(character != u'\n' || before == carriageReturn);
-        before = character;
         if (kept < text.size() && character == text[kept])
             ++kept;
+        else if (character == u' ')
+            fuzz::always(before == u'\n' && mended.substr(i, 3) == u" \r\n");
         else
-            fuzz::always(character == carriageReturn);
+            fuzz::always(character == carriageReturn && mended.substr(i, 2) == u"\r\n");
+        before = character;
     }
     fuzz::always(kept == text.size());
-    fuzz::always(withCarriageReturns(mended) == mended);
+    fuzz::always(mendLineEnds(mended) == mended);
     return 0;
 }

@@ -19,7 +19,7 @@ Text readClipboard()
     // One question: an owner that hangs costs the toolkit's time limit for each.
     if (!held || !held->hasFormat(QStringLiteral("text/plain")))
         return {};
-    return withCarriageReturns(toText(held->text()));
+    return mendLineEnds(toText(held->text()));
 }
 
 bool clipboardNeedsFocus()
@@ -40,12 +40,14 @@ void waitForFocus()
     waiting.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-Text withCarriageReturns(TextView text)
+Text mendLineEnds(TextView text)
 {
     Text result;
     result.reserve(text.size() + text.size() / 40);
-    char16_t before = 0;
+    char16_t before = u'\n'; // the text begins a line
     for (const char16_t character : text) {
+        if (character == u'\n' && before == u'\n')
+            result += u' ';
         if (character == u'\n' && before != carriageReturn)
             result += carriageReturn;
         result += character;

@@ -1,0 +1,48 @@
+// Line ends as terminal programs put them on the clipboard.
+#include "platform/desktop/clipboard.h"
+
+#include <gtest/gtest.h>
+
+namespace plotvue {
+
+TEST(LineEnds, ABareLineFeedBecomesThePair)
+{
+    EXPECT_EQ(mendLineEnds(u"a\nb\nc"), u"a\r\nb\r\nc");
+    EXPECT_EQ(mendLineEnds(u"a\n"), u"a\r\n");
+}
+
+TEST(LineEnds, AnEmptyLineThatABareLineFeedEndsBecomesABlank)
+{
+    EXPECT_EQ(mendLineEnds(u"a\n\nb\n"), u"a\r\n \r\nb\r\n");
+    EXPECT_EQ(mendLineEnds(u"a\n\n\n\nb"), u"a\r\n \r\n \r\n \r\nb");
+    EXPECT_EQ(mendLineEnds(u"\na\n"), u" \r\na\r\n") << "the first line";
+    EXPECT_EQ(mendLineEnds(u"\n"), u" \r\n");
+}
+
+TEST(LineEnds, PairsStayAsTheyAreAndSoDoTheirEmptyLines)
+{
+    for (const TextView text : {u"a\r\nb\r\n", u"\r\n", u"\r\na", u"a\r\n\r\n\r\nb\r\n"})
+        EXPECT_EQ(mendLineEnds(text), text);
+}
+
+TEST(LineEnds, CarriageReturnsAloneStayAsTheyAre)
+{
+    for (const TextView text : {u"a\rb\r", u"\r\r", u"a\r\r\nb"})
+        EXPECT_EQ(mendLineEnds(text), text);
+}
+
+TEST(LineEnds, EachLineIsMendedByItsOwnEnd)
+{
+    EXPECT_EQ(mendLineEnds(u"a\r\n\nb\n\r\nc\r\n"), u"a\r\n \r\nb\r\n\r\nc\r\n");
+    EXPECT_EQ(mendLineEnds(u"a\n\r\nb"), u"a\r\n\r\nb");
+    EXPECT_EQ(mendLineEnds(u"a\r\nb\n\nc"), u"a\r\nb\r\n \r\nc");
+}
+
+TEST(LineEnds, LinesOfBlanksAndTextWithoutLineEndsStay)
+{
+    EXPECT_EQ(mendLineEnds(u""), u"");
+    EXPECT_EQ(mendLineEnds(u"a"), u"a");
+    EXPECT_EQ(mendLineEnds(u"a\n \n\t\nb"), u"a\r\n \r\n\t\r\nb");
+}
+
+} // namespace plotvue
