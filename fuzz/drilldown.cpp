@@ -40,7 +40,7 @@ void play(const DrillDownDesign& design)
     DrillDownWindow window(platform, design);
     platform.run([&] { window.Show(); });
     const auto use = [&](auto action) {
-        if (!platform.over && window.loaded())
+        if (!platform.over() && window.loaded())
             action(window.view());
     };
     for (int type = static_cast<int>(design.types.size()) - 1; type >= 0; --type)

@@ -5,7 +5,7 @@
 
 int main(int argc, char* argv[])
 {
-    QApplication desktop(argc, argv);
+    const auto desktop = plotvue::connectDisplay(argc, argv);
     plotvue::DesktopPlatform platform;
     plotvue::Application application(platform);
     application.start();

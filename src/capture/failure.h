@@ -15,7 +15,9 @@ struct Failure {
 };
 
 // The line reader has run out of text: it goes on dropping characters that are not there, without end.
-struct EndlessRead {};
+struct EndlessRead {
+    int lines = 0; // the lines of the text that are not empty
+};
 
 // `value` as a whole number of 16 or 32 bits, a half rounded to the even neighbour.
 // Throws Failure when it does not fit; `what` names it in the sentence: "The rank".

@@ -52,8 +52,10 @@ TextView ScreenLines::operator[](Position number) const
 
 void ScreenLines::requireAll() const
 {
-    if (ranOut_)
-        throw EndlessRead{};
+    if (!ranOut_)
+        return;
+    const auto isEmpty = [](TextView line) { return line.empty() || line == TextView(&carriageReturn, 1); };
+    throw EndlessRead{count_ - static_cast<int>(isEmpty(lines_[1]))}; // the others hold more than that
 }
 
 } // namespace plotvue

@@ -18,14 +18,19 @@ void Platform::print(View& view, Name window)
 
 void Platform::run(const std::function<void()>& handler)
 {
+    if (running_ || over_)
+        return;
+    running_ = true;
     try {
         handler();
     } catch (const EndOfProcess&) {
+        over_ = true;
         listener({.kind = Event::Kind::End});
         finish();
-    } catch (const EndlessRead&) {
+    } catch (const EndlessRead& read) {
+        over_ = true;
         listener({.kind = Event::Kind::Spin});
-        spin();
+        spin(read.lines);
     } catch (const Failure& failure) {
         fail(failure.sentence);
     } catch (const std::bad_alloc&) {
@@ -34,10 +39,12 @@ void Platform::run(const std::function<void()>& handler)
         const std::string_view what = mistake.what();
         fail(u"PlotVue made a mistake of its own: " + Text(what.begin(), what.end()) + u".");
     }
+    running_ = false;
 }
 
 void Platform::fail(TextView sentence)
 {
+    over_ = true;
     listener({.kind = Event::Kind::Error, .text = sentence});
     reportError(sentence);
 }

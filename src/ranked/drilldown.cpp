@@ -76,10 +76,11 @@ void DrillDownWindow::cmdBack_Click()
 
 void DrillDownWindow::cmdNext_Click()
 {
+    const KeyValues chosen = readChosenRow(design_.analysis);
     Record next;
     try {
         ListFile list(design_.analysis);
-        list.find(readChosenRow(design_.analysis), design_.mostRecordsToStep);
+        list.find(chosen, design_.mostRecordsToStep);
         next = list.next();
     } catch (const Failure&) {
         // Reading past the last record is how the end of the list is noticed.

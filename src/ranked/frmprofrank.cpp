@@ -19,10 +19,11 @@ using namespace profit;
 
 namespace {
 
-// Of the record's lines behind the first, the last that holds either mark.
+// Of the record's lines after the first, the last that holds either mark; the second line where none does, as
+// when the screen lacks the rank.
 TextView componentLine(const Record& record)
 {
-    TextView found;
+    TextView found = record[2];
     for (std::size_t field = 2; field < record.size(); ++field)
         if (holds(record[field], u"GAIN:") || holds(record[field], u"P:"))
             found = record[field];

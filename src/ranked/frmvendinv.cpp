@@ -39,11 +39,12 @@ void countHighestRank(RankedReading& reading, TextView)
     reading.counts[0] = std::max(reading.counts[0], reading.current);
 }
 
-// "$1,234": whole dollars, a half away from zero as amounts of money are rounded.
+// "$1,234", "-$1,234": whole dollars, a half away from zero as amounts of money are rounded. The host's format
+// asks for no digit where there is none: 0 is "$".
 Text dollars(double amount)
 {
     const double whole = std::round(amount);
-    Text digits = plainNumber(std::fabs(whole));
+    Text digits = whole == 0 ? Text() : plainNumber(std::fabs(whole));
     for (auto at = static_cast<Position>(digits.size()) - 3; at > 0; at -= 3)
         digits.insert(static_cast<std::size_t>(at), 1, u',');
     return (whole < 0 ? u"-$" : u"$") + digits;

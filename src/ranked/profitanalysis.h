@@ -27,8 +27,8 @@ std::map<Name, Text (*)(const RankedReading&)> summary();
 RankedGrid grid(GridBox box, Count count, RankedGrid::Holds holds, std::optional<PictureBox> picture = {});
 Key key();
 
-// Charts and data types of both drill-down windows. `componentLine` finds the line that holds the components
-// of the change, empty when there is none.
+// Charts and data types of both drill-down windows. `componentLine` is the line that holds the components
+// of the change.
 std::vector<Item> charts();
 void draw(View& view, const Record& record, int type, TextView componentLine);
 

@@ -25,7 +25,7 @@ protected:
         messages.emplace_back(text);
     }
     void reportError(TextView sentence) override { endings.emplace_back(sentence.begin(), sentence.end()); }
-    void spin() override { endings.emplace_back("spin"); }
+    void spin(int) override { endings.emplace_back("spin"); }
     void finish() override { endings.emplace_back("end"); }
 };
 

@@ -12,7 +12,6 @@ namespace {
 class AnsweringDesktop : public DesktopPlatform {
 public:
     PrinterAnswer printer;
-    bool over = false;
 
     double choosePrinter(View&) override
     {
@@ -30,9 +29,9 @@ protected:
             throw Failure{u"The printer does not answer."};
     }
 
-    void reportError(TextView) override { over = true; }
-    void spin() override { over = true; }
-    void finish() override { over = true; }
+    void reportError(TextView) override {}
+    void spin(int) override {}
+    void finish() override {}
 };
 
 class DesktopStage : public Stage {
@@ -45,7 +44,6 @@ public:
 
     Platform& platform() override { return platform_; }
     void setPrinter(PrinterAnswer answer) override { platform_.printer = answer; }
-    bool over() const override { return platform_.over; }
 
     void setClipboard(const Text& text) override
     {

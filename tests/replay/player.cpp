@@ -43,7 +43,7 @@ Player::Player(Stage& stage, std::ostream& out) : stage_(stage), app_(stage.plat
 void Player::play(std::istream& script)
 {
     int number = 0;
-    for (std::string line; !stage_.over() && std::getline(script, line);) {
+    for (std::string line; !stage_.platform().over() && std::getline(script, line);) {
         ++number;
         if (line.empty() || line[0] == '#')
             continue;
@@ -52,7 +52,7 @@ void Player::play(std::istream& script)
         } catch (const BadLine& bad) {
             throw BadLine("line " + std::to_string(number) + ": " + bad.what());
         }
-        if (!stage_.over())
+        if (!stage_.platform().over())
             stage_.settle();
     }
 }

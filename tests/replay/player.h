@@ -21,7 +21,6 @@ public:
     virtual Platform& platform() = 0;
     virtual void setClipboard(const Text& text) = 0; // empty: no text
     virtual void setPrinter(PrinterAnswer answer) = 0;
-    virtual bool over() const = 0; // the process has ended, failed or spins
     virtual void settle() {}       // lets what was shown and hidden take effect
 };
 

@@ -9,7 +9,6 @@ class RecordingStage : public Stage {
 public:
     Platform& platform() override { return platform_; }
     void setClipboard(const Text& text) override { platform_.clipboard = text; }
-    bool over() const override { return platform_.over; }
 
     void setPrinter(PrinterAnswer answer) override
     {

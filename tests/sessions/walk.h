@@ -39,7 +39,7 @@ public:
     void step();   // one thing that a person could do, or a rule that is looked at
     void finish(); // the windows are loaded and visible as the events told
 
-    bool over() const { return stage_.over(); }
+    bool over() const { return stage_.platform().over(); }
     std::string end() const { return end_; } // the last event's kind; "still alive"
     std::string takePrinted();               // since it was last taken
 

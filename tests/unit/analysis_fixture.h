@@ -52,7 +52,7 @@ inline testing::AssertionResult failed(Session& session, std::string_view words)
     const std::string& said = events.back();
     if (said.find(words) == std::string::npos || !said.ends_with('.'))
         return testing::AssertionFailure() << said;
-    return session.platform.over ? testing::AssertionSuccess()
+    return session.platform.over() ? testing::AssertionSuccess()
                                  : testing::AssertionFailure() << "the process goes on";
 }
 

@@ -127,7 +127,7 @@ TEST(FrmActive, NoMonthIsProjectedAndNoNameIsNeeded)
 {
     Session session;
     session.start(active().put(5, 1, u"?????").text());
-    EXPECT_FALSE(session.platform.over);
+    EXPECT_FALSE(session.platform.over());
     EXPECT_EQ(session.chart(window).series.size(), 1u);
     EXPECT_EQ(session.chart(window).labels[12], u"?????");
 }

@@ -74,7 +74,7 @@ TEST(FrmCSTORE, WithoutYearToDateNothingIsRead)
     Session session;
     session.start(store().text());
     expectForeignCaptureLeaves(session, "frmCSTORE", blotted(store().text(), u"YTD"));
-    EXPECT_FALSE(session.platform.over);
+    EXPECT_FALSE(session.platform.over());
 }
 
 TEST(FrmCSTORE, QuantitiesNeedNoHeading)
@@ -92,7 +92,7 @@ TEST(FrmCSTORE, WithoutItsIdentifierTheProcessEnds)
     session.copy(store().put(1, 1, u"PCS05H1A").text());
     session.choose(window, "opt12", 1);
     EXPECT_EQ(session.events(), Events{"end"});
-    EXPECT_TRUE(session.platform.over);
+    EXPECT_TRUE(session.platform.over());
 }
 
 TEST(FrmCSTORE, WithoutBothTheWindowIsLeft)
@@ -100,7 +100,7 @@ TEST(FrmCSTORE, WithoutBothTheWindowIsLeft)
     Session session;
     session.start(store().text());
     expectForeignCaptureLeaves(session, "frmCSTORE", u"");
-    EXPECT_FALSE(session.platform.over);
+    EXPECT_FALSE(session.platform.over());
 }
 
 TEST(FrmCSTORE, TheDayStandsNinePlacesBehindTheIdentifier)

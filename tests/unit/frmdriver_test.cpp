@@ -122,7 +122,7 @@ TEST_P(DeliveryWindow, WithoutItsIdentifierTheHiddenWindowIsCharted)
     session.press(name, "cmdRefresh");
     EXPECT_EQ(session.events(), left());
     EXPECT_FALSE(session.visible(name));
-    EXPECT_FALSE(session.platform.over);
+    EXPECT_FALSE(session.platform.over());
     const ChartContent chart = session.chart(name);
     EXPECT_EQ(valueOf(chart, 13, 1), 111.11);
     EXPECT_NEAR(valueOf(chart, 13, 1, 1), 166.665, 1e-9); // day 12 of 30, from columns 16 and 17

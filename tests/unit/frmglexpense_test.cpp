@@ -135,7 +135,7 @@ TEST(FrmGLexpense, NoMonthIsProjectedAndNoNameIsNeeded)
 {
     Session session;
     session.start(expense().put(7, 1, u"?????").text());
-    EXPECT_FALSE(session.platform.over);
+    EXPECT_FALSE(session.platform.over());
     EXPECT_EQ(session.chart(window).series.size(), 1u);
     EXPECT_EQ(session.chart(window).labels[12], u"?????");
 }

@@ -92,7 +92,7 @@ TEST(FrmLateCharge, NothingIsDividedByATotalOfNought)
     const ChartContent percent = chart(session, PaidPercent);
     for (const int month : {2, 3, 4})
         EXPECT_EQ(valueOf(percent, 13, month), 0);
-    EXPECT_FALSE(session.platform.over);
+    EXPECT_FALSE(session.platform.over());
 }
 
 TEST(FrmLateCharge, TheSecondSeriesIsHiddenAgain)
@@ -177,7 +177,7 @@ TEST(FrmLateCharge, NoMonthNeedsAName)
 {
     Session session;
     session.start(charges().put(4, 1, u"?????").text());
-    EXPECT_FALSE(session.platform.over);
+    EXPECT_FALSE(session.platform.over());
     EXPECT_EQ(session.chart(window).labels[12], u"?????");
 }
 

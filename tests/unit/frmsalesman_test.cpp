@@ -105,7 +105,7 @@ TEST_F(FrmSalesman, ChartsAForeignScreenIntoTheWindowThatItHides)
     EXPECT_EQ(chart.titles.at(2), u"Sales Rep: 442  0020450002 UNLEADED REGULAR");
     EXPECT_EQ(chart.titles.at(3), u"Category: MONTH   GALLONS     SALES    PROFIT"
                                   u"      MONTH   GALLONS     SALES    PROFIT");
-    EXPECT_FALSE(tester.session.platform.over);
+    EXPECT_FALSE(tester.session.platform.over());
 }
 
 TEST_F(FrmSalesman, ChartsAForeignScreenAfterAnOptionToo)

@@ -127,7 +127,7 @@ TEST(FrmSite, WithoutItsIdentifierTheProcessEnds)
     session.copy(site().put(1, 12, u"CRD812X").text());
     session.press(window, "cmdRefresh");
     EXPECT_EQ(session.events(), Events{"end"});
-    EXPECT_TRUE(session.platform.over);
+    EXPECT_TRUE(session.platform.over());
 }
 
 TEST(FrmSite, WithNeitherTheStartUpWindowShowsBeforeTheEnd)
@@ -155,7 +155,7 @@ TEST(FrmSite, ThereMustBeRoomForTheDayInFrontOfTheIdentifier)
     Session fails;
     fails.start(site().replaceLine(1, u"7 CRD812H").text());
     EXPECT_TRUE(fails.events().back().starts_with("error "));
-    EXPECT_TRUE(fails.platform.over);
+    EXPECT_TRUE(fails.platform.over());
 }
 
 } // namespace

@@ -217,7 +217,7 @@ TEST_F(HistoryWindowTest, SaysNothingWhenPrintingFails)
     session.platform.printer = {RecordingPlatform::Printer::Answer::Fail, 3};
     session.press("frmProduct", "cmdPrint");
     EXPECT_THAT(session.events(), IsEmpty());
-    EXPECT_FALSE(session.platform.over);
+    EXPECT_FALSE(session.platform.over());
 }
 
 TEST_F(HistoryWindowTest, ACopyCountBelowOnePrintsNothing)
@@ -235,7 +235,7 @@ TEST_F(HistoryWindowTest, ACopyCountBeyond16BitsFailsSilently)
         session.platform.printer = {RecordingPlatform::Printer::Answer::Accept, copies};
         session.press("frmProduct", "cmdPrint");
         EXPECT_THAT(session.events(), IsEmpty());
-        EXPECT_FALSE(session.platform.over);
+        EXPECT_FALSE(session.platform.over());
     }
 }
 
@@ -260,7 +260,7 @@ TEST_F(HistoryWindowTest, AFailureThatNobodyHandlesEndsTheProcess)
     session.copy(CaptureBuilder().put(1, 1, u"QXM31H").text());
     session.press("frmProduct", "cmdRefresh");
     EXPECT_THAT(session.events(), ElementsAre(StartsWith("error ")));
-    EXPECT_TRUE(session.platform.over);
+    EXPECT_TRUE(session.platform.over());
 }
 
 TEST_F(HistoryWindowTest, ACaptureThatEndsTooEarlyIsReadWithoutEnd)
@@ -268,7 +268,7 @@ TEST_F(HistoryWindowTest, ACaptureThatEndsTooEarlyIsReadWithoutEnd)
     session.copy(CaptureBuilder(10).put(1, 1, u"QXM31H").text());
     session.choose("frmProduct", "optSales", 1);
     EXPECT_THAT(session.events(), ElementsAre("spin"));
-    EXPECT_TRUE(session.platform.over);
+    EXPECT_TRUE(session.platform.over());
 }
 
 TEST(HistoryWindowLoad, IsDrawnOnceItLoadsWithTheDefaults)

@@ -125,7 +125,7 @@ TEST_F(Windows, MayUnloadThemselvesInAHandler)
     window.Show();
     window.view().press("cmdAny");
     EXPECT_FALSE(window.loaded());
-    EXPECT_FALSE(platform.over);
+    EXPECT_FALSE(platform.over());
 }
 
 TEST_F(Windows, CloseByTheirWayOut)
@@ -145,7 +145,7 @@ TEST_F(Windows, EndTheProcess)
     window.Show();
     window.view().press("cmdAny");
     EXPECT_THAT(kinds, ElementsAre(Load, Show, End));
-    EXPECT_TRUE(platform.over);
+    EXPECT_TRUE(platform.over());
     EXPECT_FALSE(after);
 }
 
@@ -156,7 +156,7 @@ TEST_F(Windows, ReportARunTimeErrorWithItsSentence)
     window.view().press("cmdAny");
     EXPECT_EQ(kinds.back(), Error);
     EXPECT_EQ(last, u"It does not fit.");
-    EXPECT_TRUE(platform.over);
+    EXPECT_TRUE(platform.over());
 }
 
 TEST_F(Windows, ReportAMistakeOfTheProgramAndEnd)
@@ -166,7 +166,7 @@ TEST_F(Windows, ReportAMistakeOfTheProgramAndEnd)
     window.view().press("cmdAny");
     EXPECT_EQ(kinds.back(), Error);
     EXPECT_TRUE(holds(last, u"no such control"));
-    EXPECT_TRUE(platform.over);
+    EXPECT_TRUE(platform.over());
 }
 
 TEST_F(Windows, ReportThatMemoryIsShort)
@@ -175,7 +175,7 @@ TEST_F(Windows, ReportThatMemoryIsShort)
     window.Show();
     window.view().press("cmdAny");
     EXPECT_EQ(kinds.back(), Error);
-    EXPECT_TRUE(platform.over);
+    EXPECT_TRUE(platform.over());
 }
 
 TEST_F(Windows, SpinWhereAReaderNeverReturns)
@@ -184,7 +184,7 @@ TEST_F(Windows, SpinWhereAReaderNeverReturns)
     window.Show();
     window.view().press("cmdAny");
     EXPECT_EQ(kinds.back(), Spin);
-    EXPECT_TRUE(platform.over);
+    EXPECT_TRUE(platform.over());
 }
 
 TEST_F(Windows, ALoadThatFailsShowsNothing)

@@ -120,7 +120,7 @@ TEST_F(ProductRows, RowsBelowLine19AreEmpty)
     EXPECT_THAT(content.labels, ElementsAre(u"", u"", u"", u"", u"NOV99", u"NOV99", u"NOV99", u"NOV99",
                                             u"NOV99", u"NOV99", u"NOV99", u"NOV99", u"NOV99", u""));
     EXPECT_THAT(chart(dashedIn(17), Sales, HalfYear).series[0], ElementsAre(0, 0, 0, 0, 19, 18, 0));
-    EXPECT_FALSE(session.platform.over);
+    EXPECT_FALSE(session.platform.over());
 }
 
 TEST_F(ProductRows, ARowBelowLine23IsARunTimeError)

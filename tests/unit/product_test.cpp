@@ -105,7 +105,7 @@ TEST_F(ProductTest, WithoutSalesOrVolumeAPercentageIsZero)
     EXPECT_EQ(value(newest(u"400", u"N/A", u"50"), GrossPercent), 0);
     EXPECT_EQ(value(newest(u"0", u"200", u"50"), UnitProfit), 0);
     EXPECT_EQ(value(newest(u"", u"200", u"50"), UnitProfit), 0);
-    EXPECT_FALSE(session.platform.over);
+    EXPECT_FALSE(session.platform.over());
 }
 
 TEST_F(ProductTest, AFieldIsItsLeadingNumber)

@@ -60,7 +60,7 @@ protected:
         const std::string begin = "error The file " + file + " in the working directory " + what;
         EXPECT_TRUE(events[0].starts_with(begin)) << events[0];
         EXPECT_TRUE(events[0].ends_with(".")) << events[0];
-        EXPECT_TRUE(session.platform.over);
+        EXPECT_TRUE(session.platform.over());
     }
 };
 
@@ -248,6 +248,22 @@ TEST_F(RankedFiles, WithoutTheListTheWayDownIsAtItsEnd)
     fs::remove("plotvue.txt");
     session.press(m2mA, "cmdNext");
     EXPECT_EQ(session.events(), (Events{"message : End of list", "hide frmM2MpftA", "unload frmM2MpftA"}));
+}
+
+TEST_F(RankedFiles, WithoutTheChosenRowTheWayDownIsARunTimeError)
+{
+    openFirst();
+    fs::remove("plotvue1.txt");
+    session.press(m2mA, "cmdNext");
+    expectError("plotvue1.txt", "cannot be opened");
+}
+
+TEST_F(RankedFiles, AChosenRowThatCannotBeReadIsARunTimeErrorOnTheWayDown)
+{
+    openFirst();
+    blockFile("plotvue1.txt");
+    session.press(m2mA, "cmdNext");
+    expectError("plotvue1.txt", "cannot be read");
 }
 
 TEST_F(RankedFiles, AnEntryThatTheListDoesNotHold)

@@ -101,7 +101,7 @@ TEST_F(RankedFrame, AnEntryCutOffIsListedWithWhatIsThere)
     session.clickRow(m2m, gainsGrid, 2);
     EXPECT_EQ(customer(), u"Customer: 10002");
     EXPECT_EQ(session.chart(m2mA).series[0], Numbers(13, 0));
-    EXPECT_FALSE(session.platform.over);
+    EXPECT_FALSE(session.platform.over());
 }
 
 TEST_F(RankedFrame, ACaptureCutAnywhereIsNoError)
@@ -170,7 +170,7 @@ TEST_F(RankedFrame, ARankOutsideTheTableIsARunTimeError)
         EXPECT_EQ(events.back(),
                   "error A rank on the screen is outside 1 to 100, which is all that can be listed.")
             << toUtf8(rank);
-        EXPECT_TRUE(broken.platform.over);
+        EXPECT_TRUE(broken.platform.over());
     }
 }
 

@@ -250,7 +250,7 @@ TEST_P(SalesHistoryTest, EndsTheProcessWhenTheNewestMonthHasNoName)
         Session session;
         session.start(sampleScreen().put(GetParam().newestLine, 1, name).text());
         EXPECT_THAT(session.events(), Contains(StartsWith("error ")));
-        EXPECT_TRUE(session.platform.over);
+        EXPECT_TRUE(session.platform.over());
     }
 }
 

@@ -135,7 +135,7 @@ TEST(Startup, AnEmptyClipboardNeedsDataBeforeTheUserHasDoneAnything)
     EXPECT_THAT(session.events(),
                 ElementsAre("load startup", "show startup", needData, "hide startup", "show startup"));
     EXPECT_TRUE(session.visible("startup"));
-    EXPECT_FALSE(session.platform.over);
+    EXPECT_FALSE(session.platform.over());
 }
 
 TEST(Startup, ATextWithoutMarkerNeedsDataInTheSameWords)
@@ -213,7 +213,7 @@ TEST(Startup, ExitEndsTheProcess)
     session.events();
     session.press("startup", "Command2");
     EXPECT_THAT(session.events(), ElementsAre("end"));
-    EXPECT_TRUE(session.platform.over);
+    EXPECT_TRUE(session.platform.over());
 }
 
 TEST(Startup, ExitTakesTheHiddenWindowsWithIt)
@@ -247,7 +247,7 @@ TEST(Startup, AZeroTooFarDownIsARunTimeError)
     Session session;
     session.start(u"QXM12P2" + Text(32760, u' ') + u"0");
     EXPECT_THAT(session.events(), ElementsAre("load startup", "show startup", StartsWith("error ")));
-    EXPECT_TRUE(session.platform.over);
+    EXPECT_TRUE(session.platform.over());
 }
 
 class ServedBy : public testing::TestWithParam<std::pair<const char16_t*, const char*>> {};
@@ -343,7 +343,7 @@ TEST(ScratchFile, ThatCannotBeCreatedEndsTheProcess)
     std::filesystem::create_directory("pvuscrn.txt");
     session.start(u"FINANCIAL RATIO");
     EXPECT_THAT(session.events(), ElementsAre("load startup", "show startup", StartsWith("error ")));
-    EXPECT_TRUE(session.platform.over);
+    EXPECT_TRUE(session.platform.over());
 }
 
 TEST(ScratchFile, IsWrittenAgainByRefresh)

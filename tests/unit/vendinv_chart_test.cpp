@@ -166,7 +166,11 @@ TEST_P(VendorAges, AreTitledWithTheirSum)
 
 INSTANTIATE_TEST_SUITE_P(
     Sums, VendorAges,
-    testing::Values(Sum{u"F:", u"FIFO: $0"}, Sum{u"F:                              -1", u"FIFO: -$1"},
+    testing::Values(Sum{u"F:", u"FIFO: $"}, Sum{u"F:                             0.4", u"FIFO: $"},
+                    Sum{u"F:                            -0.4", u"FIFO: $"},
+                    Sum{u"F:                             0.5", u"FIFO: $1"},
+                    Sum{u"F:                           -1234", u"FIFO: -$1,234"},
+                    Sum{u"F:                              -1", u"FIFO: -$1"},
                     Sum{u"F:                               7", u"FIFO: $7"},
                     Sum{u"F:                             999", u"FIFO: $999"},
                     Sum{u"F:                             999       1", u"FIFO: $1,000"},
@@ -184,7 +188,7 @@ TEST(VendorChart, APairCutBehindItsRankLineShowsZeros)
     }
     EXPECT_EQ(session.history().labels, oldestFirst);
     EXPECT_EQ(session.ages().series, std::vector<Numbers>{Numbers(5)});
-    EXPECT_FALSE(session.platform.over);
+    EXPECT_FALSE(session.platform.over());
 }
 
 TEST(VendorChart, WithoutMonthLabelsThePointsHaveNone)

@@ -30,6 +30,15 @@ void say(TextView sentence)
     std::fprintf(stderr, "PlotVue: %s\n", toUtf8(sentence).c_str());
 }
 
+// The toolkit's messages while it looks for a display. It ends a process that has none by an abort.
+void sayThatNoDisplayIsThere(QtMsgType type, const QMessageLogContext&, const QString&)
+{
+    if (type != QtFatalMsg)
+        return;
+    say(u"there is no display to show its windows on.");
+    std::_Exit(EXIT_FAILURE);
+}
+
 QWidget* windowInFront()
 {
     if (QWidget* active = QApplication::activeWindow())
@@ -51,7 +60,7 @@ void waitUntilPlaced(const QWidget& window)
     }
 }
 
-void showBox(QMessageBox::Icon icon, TextView title, TextView text)
+void showBox(QMessageBox::Icon icon, TextView title, TextView text, const QString& button)
 {
     QWidget* window = windowInFront();
     if (window)
@@ -67,11 +76,19 @@ void showBox(QMessageBox::Icon icon, TextView title, TextView text)
         label->setMinimumWidth(
             qMin(label->sizeHint().width(), longestLine * label->fontMetrics().averageCharWidth()));
     // A standard button would have the desktop's icon theme loaded for its picture.
-    box.setDefaultButton(box.addButton(QMessageBox::tr("OK"), QMessageBox::AcceptRole));
+    box.setDefaultButton(box.addButton(button, QMessageBox::AcceptRole));
     box.exec();
 }
 
 } // namespace
+
+std::unique_ptr<QApplication> connectDisplay(int& argc, char** argv)
+{
+    const QtMessageHandler usual = qInstallMessageHandler(sayThatNoDisplayIsThere);
+    auto application = std::make_unique<QApplication>(argc, argv);
+    qInstallMessageHandler(usual);
+    return application;
+}
 
 DesktopPlatform::DesktopPlatform()
 {
@@ -121,23 +138,34 @@ void DesktopPlatform::printView(View& view)
 void DesktopPlatform::showMessage(TextView title, TextView text)
 {
     stage_.settle();
-    showBox(QMessageBox::NoIcon, title, text);
+    showBox(QMessageBox::NoIcon, title, text, QMessageBox::tr("OK"));
 }
 
 void DesktopPlatform::reportError(TextView sentence)
 {
     say(sentence);
     stage_.settle();
-    showBox(QMessageBox::Critical, {}, sentence);
+    showBox(QMessageBox::Critical, {}, sentence, QMessageBox::tr("OK"));
     std::_Exit(EXIT_FAILURE);
 }
 
-void DesktopPlatform::spin()
+void DesktopPlatform::spin(int lines)
 {
     say(u"the copied screen has fewer than 20 lines; it is being waited for without end.");
     stage_.settle();
-    // What is on the screen stays painted; nothing that a person does is heard any more.
-    QEventLoop().exec(QEventLoop::ExcludeUserInputEvents);
+    // As a desktop tells of a program that does not answer: the windows behind the box stay painted, and
+    // nothing that a person does to them is heard any more.
+    const QString text =
+        QStringLiteral("PlotVue waits for the rest of the copied screen, which does not come.\n"
+                       "\n"
+                       "The copied text has %1, empty ones left out. "
+                       "A whole screen has 24; at least 20 are needed.\n"
+                       "\n"
+                       "Copy the whole screen, and set the terminal to keep the blanks at the "
+                       "ends of its lines.")
+            .arg(lines == 1 ? QStringLiteral("1 line") : QStringLiteral("%1 lines").arg(lines));
+    showBox(QMessageBox::Warning, {}, toText(text), QStringLiteral("Close PlotVue"));
+    std::_Exit(EXIT_FAILURE);
 }
 
 void DesktopPlatform::finish()

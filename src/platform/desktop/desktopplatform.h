@@ -6,9 +6,16 @@
 #include "platform/desktop/stage.h"
 #include "platform/platform.h"
 
+#include <memory>
 #include <optional>
 
+class QApplication;
+
 namespace plotvue {
+
+// Connects the process with its display, once. Where there is none, that is said on standard error and the
+// process ends with status 1.
+std::unique_ptr<QApplication> connectDisplay(int& argc, char** argv);
 
 class DesktopPlatform : public Platform {
 public:
@@ -27,7 +34,7 @@ protected:
     void showMessage(TextView title, TextView text) override;
     void printView(View& view) override;
     void reportError(TextView sentence) override;
-    void spin() override;
+    void spin(int lines) override;
     void finish() override;
 
 private:

@@ -15,8 +15,6 @@ public:
         double copies = 1;
     } printer;
 
-    bool over = false; // the process has ended, failed or spins; nothing more may be played
-
     Text clipboardText() override { return clipboard; }
     std::unique_ptr<View> build(const Declaration& declaration, const Handlers& handlers,
                                 std::function<void()> close) override;
@@ -25,9 +23,9 @@ public:
 protected:
     void showMessage(TextView, TextView) override {} // acknowledged at once
     void printView(View& view) override;
-    void reportError(TextView) override { over = true; }
-    void spin() override { over = true; }
-    void finish() override { over = true; }
+    void reportError(TextView) override {}
+    void spin(int) override {}
+    void finish() override {}
 };
 
 } // namespace plotvue
