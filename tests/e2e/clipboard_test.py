@@ -63,6 +63,16 @@ class Clipboard(unittest.TestCase):
         self.assertEqual(ended(process), 1)
         self.assertRegex(process.stderr.read().decode(), r"^PlotVue: [A-Z].*\.\n$")
 
+    def test_without_a_display_one_sentence_says_so(self):
+        for display in (None, "", ":9999"):
+            with self.subTest(display=display):
+                self.desktop.env.pop("DISPLAY", None)
+                if display is not None:
+                    self.desktop.env["DISPLAY"] = display
+                process = self.desktop.start()
+                self.assertEqual(ended(process), 1)
+                self.assertEqual(process.stderr.read(), b"PlotVue: there is no display to show its windows on.\n")
+
 
 if __name__ == "__main__":
     program = sys.argv.pop()

@@ -1,0 +1,135 @@
+"""A screen too short to be read: the person is told, whatever window is up, and can end the program."""
+
+import sys
+import time
+import unittest
+
+from accessible import Atspi, SpokenDesktop
+from desktop import SAMPLES, ended, soon
+
+PRODUCT = (SAMPLES / "product.txt").read_bytes()
+SHORT = b"".join(PRODUCT.splitlines(keepends=True)[:11])
+BAR = "#2458B0"
+
+
+class Waiting(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.desktop = SpokenDesktop(program)
+        cls.desktop.__enter__()
+        cls.addClassCleanup(cls.desktop.__exit__)
+
+    def start(self, capture):
+        self.desktop.copy(capture)
+        self.process = self.desktop.start()
+        self.addCleanup(self.process.wait)
+        self.addCleanup(self.process.kill)
+
+    def start_window(self):
+        """The start-up window, and nothing on the clipboard."""
+        self.start(None)
+        self.desktop.window("Need Data")
+        self.desktop.key("Return")
+        self.desktop.window("Plot Vue!")
+
+    def chart(self):
+        """A chart, and a screen that is too short on the clipboard."""
+        self.start(PRODUCT)
+        self.desktop.window("Plotvue!")
+        window = self.desktop.application(self.process).shown("Plotvue!")
+        self.desktop.copy(SHORT)
+        return window
+
+    def box(self, lines="11 lines"):
+        """The box, after a look at what it says."""
+        self.desktop.window("PlotVue")
+        box = self.desktop.application(self.process).shown("PlotVue", role="alert")
+        words = " ".join(node.name for node in box.walk() if node.role == "label")
+        for part in (f" {lines},", " 24;", "at least 20 ", "keep the blanks"):
+            self.assertIn(part, words)
+        self.assertEqual([node.name for node in box.walk() if node.role == "push button"], ["Close PlotVue"])
+        self.assertIsNone(self.process.poll())
+        return box
+
+    def ends(self):
+        self.assertEqual(ended(self.process), 1)
+        self.assertRegex(self.process.stderr.read().decode(), r"^PlotVue: [^\n]*fewer than 20 lines[^\n]*\n$")
+
+    def bars(self, window):
+        """How many pixels of the window have the bars' colour."""
+        picture = self.desktop.output("import", "-silent", "-window", window, "-depth", "8", "txt:-")
+        return picture.count(BAR)
+
+    def click(self, node):
+        place = Atspi.Component.get_extents(node.handle, Atspi.CoordType.SCREEN)
+        self.desktop.output("xdotool", "mousemove", str(place.x + place.width // 2),
+                            str(place.y + place.height // 2), "click", "1")
+
+    def test_at_the_start_the_box_is_alone(self):
+        self.start(SHORT)
+        self.box()
+        self.assertEqual(list(self.desktop.windows()), ["PlotVue"])
+        self.desktop.key("Return")
+        self.ends()
+
+    def test_one_line(self):
+        self.start(b"QXM31H          10\r\n")
+        self.box("1 line")
+        self.desktop.key("space")
+        self.ends()
+
+    def test_empty_lines_do_not_count_and_blank_ones_do(self):
+        self.start(b"QXM31H          10\r\n\r\nPRODUCT:\r\n \r\n\r\n")
+        self.box("3 lines")
+        self.desktop.key("Escape")
+        self.ends()
+
+    def test_at_refresh_in_the_start_up_window(self):
+        self.start_window()
+        self.desktop.copy(SHORT)
+        self.desktop.key("F5")
+        self.box()
+        self.desktop.key("Escape")
+        self.ends()
+
+    def test_by_mouse_at_an_option_with_a_chart_open(self):
+        window = self.chart()
+        self.click(window.first("radio button", "Profit"))
+        self.click(self.box().first("push button", "Close PlotVue"))
+        self.ends()
+
+    def test_by_the_title_bar_of_the_box(self):
+        self.chart()
+        self.desktop.key("F5")
+        self.box()
+        self.desktop.key("alt+F4")
+        self.ends()
+
+    def test_by_assistive_technology_which_runs_nothing_under_the_box(self):
+        window = self.chart()
+        window.first("radio button", "Profit").press()
+        box = self.box()
+        window.first("push button", "Exit").press()
+        window.first("push button", "Refresh").press()
+        time.sleep(0.3)  # nothing is to happen
+        self.assertEqual(sorted(self.desktop.windows()), ["PlotVue", "Plotvue!"])
+        box.first("push button", "Close PlotVue").press()
+        self.ends()
+
+    def test_the_chart_under_the_box_stays_painted(self):
+        self.chart()
+        self.desktop.key("F5")
+        self.box()
+        number = self.desktop.windows()["Plotvue!"]
+        box = self.desktop.windows()["PlotVue"]
+        self.desktop.output("xdotool", "windowmove", box, "0", "0")
+        self.desktop.output("xdotool", "windowsize", number, "820", "600")
+        soon("the chart is painted in its new size",
+             lambda: self.desktop.height(number) == 600 and self.bars(number) > 5000)
+        self.desktop.key("Return")
+        self.ends()
+
+
+if __name__ == "__main__":
+    program = sys.argv.pop()
+    unittest.main(verbosity=2)
