@@ -9,6 +9,8 @@ namespace plotvue {
 
 namespace {
 
+constexpr TextView sansSerif = u"MS Sans Serif";
+
 const std::vector<TextView> supportedScreens{
     u"Sales Journal History",
     u"G/L History",
@@ -38,27 +40,30 @@ Declaration Startup::declare() const
     return {.name = "startup",
             .caption = u"Plot Vue!",
             .content = {Box::Direction::Row,
-                        {column({{Label{.name = "Label1", .text = u"PlotVue!", .points = 48, .italic = true}},
+                        {column({{Label{.name = "Label1",
+                                        .text = u"PlotVue!",
+                                        .font = {.family = u"Arial", .points = 48, .italic = true}}},
                                  {Label{.name = "Label3",
                                         .text = u"Chart your data, instantly!",
-                                        .points = 9.75,
-                                        .bold = true}},
+                                        .font = {.family = sansSerif, .points = 9.75, .bold = true}}},
                                  {Label{.name = "Label4", .text = u"Version " PLOTVUE_VERSION}},
                                  {Space{}, 1},
                                  {Label{.name = "Label5",
                                         .text = u"Copy data to the Windows clipboard, then click Refresh to "
                                                 u"chart your data.",
-                                        .points = 12}},
+                                        .font = {.points = 12}}},
                                  {Space{}, 1},
                                  row({{Button{.name = "Command1", .caption = u"Refresh", .shortcut = u"F5"}},
                                       {Button{.name = "Command2", .caption = u"Exit", .shortcut = u"Esc"}},
                                       {Space{}, 1}})},
                                 1),
-                         column({{Label{.name = "Label2", .text = u"Supported screens:", .points = 12}},
+                         column({{Label{.name = "Label2",
+                                        .text = u"Supported screens:",
+                                        .font = {.family = sansSerif, .points = 12}}},
                                  {ListBox{.name = "List1",
                                           .spokenName = u"Supported screens",
                                           .items = supportedScreens,
-                                          .bold = true},
+                                          .font = {.family = sansSerif, .points = 8.25, .bold = true}},
                                   1}})}},
             .width = 640,
             .height = 430};

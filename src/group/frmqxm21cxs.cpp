@@ -38,8 +38,7 @@ Declaration frmQXM21CXS::declare() const
                                   .format = u"<Sales Rep|>",
                                   .figures = {1}},
                           1},
-                         column(std::move(side))}},
-            .width = 1000};
+                         column(std::move(side))}}};
 }
 
 void frmQXM21CXS::drawChart(TextView capture)

@@ -21,11 +21,17 @@ struct Button {
     enum class Picture { None, Arrow } picture = Picture::None;
 };
 
+struct Font {
+    TextView family{}; // asked for; where the desktop lacks it, and where it is empty: the desktop's own
+    double points = 0; // 0: the desktop's own size
+    bool bold = false, italic = false;
+    bool operator==(const Font&) const = default;
+};
+
 struct Label {
     Name name;
     TextView text{};
-    double points = 0; // 0: the desktop's own size
-    bool bold = false, italic = false;
+    Font font{};
 };
 
 struct TextBox { // shows text, takes none
@@ -37,7 +43,7 @@ struct ListBox { // for display only
     Name name;
     TextView spokenName;
     std::vector<TextView> items;
-    bool bold = false;
+    Font font{};
 };
 
 struct Option {
@@ -93,7 +99,7 @@ struct Declaration {
     Name name; // "frmProduct"
     TextView caption;
     Box content;
-    int width = 900, height = 560; // of the client area when it first opens, in device-independent pixels
+    int width = 1000, height = 600; // of the client area when it first opens, in device-independent pixels
 };
 
 Item row(std::vector<Item> items, int stretch = 0);

@@ -102,7 +102,7 @@ using Shows = GridColumn::Shows;
 const RankedAnalysis frmPastdue{
     .window = "frmPastdue",
     .caption = u"PlotVue",
-    .heading = {{Label{.name = "txtHeader", .bold = true}}},
+    .heading = {{Label{.name = "txtHeader", .font = {.bold = true}}}},
     .title = u"RANKED PAST",
     .mostLines = 1000,
     .markers = {{.text = u"RANK:",

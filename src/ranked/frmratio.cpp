@@ -124,7 +124,7 @@ using Shows = GridColumn::Shows;
 const RankedAnalysis frmRatio{
     .window = "frmRatio",
     .caption = u"PlotVue",
-    .heading = {{Label{.name = "lblCompany", .bold = true}}, {Label{.name = "lblA"}}},
+    .heading = {{Label{.name = "lblCompany", .font = {.bold = true}}}, {Label{.name = "lblA"}}},
     .title = u"FINANCIAL RATIO",
     .markers = {{.text = u"FINANCIAL", .takes = {{To::PageText, title, 1}}},
                 {.text = u"COMP:", .takes = {{To::PageText, company, 6}}},

@@ -39,8 +39,8 @@ void countHighestRank(RankedReading& reading, TextView)
     reading.counts[0] = std::max(reading.counts[0], reading.current);
 }
 
-// "$1,234", "-$1,234": whole dollars, a half away from zero as amounts of money are rounded. The host's format
-// asks for no digit where there is none: 0 is "$".
+// "$1,234", "-$1,234": whole dollars, a half away from zero as amounts of money are rounded. The host's
+// format asks for no digit where there is none: 0 is "$".
 Text dollars(double amount)
 {
     const double whole = std::round(amount);
@@ -130,11 +130,11 @@ const DrillDownDesign frmVendInvA{
     .window = "frmVendInvA",
     .caption = u"PlotVue",
     .analysis = frmVendInv,
-    .charts = {{ChartBox{.name = "ChartFX1"}, 3},
+    .charts = {{ChartBox{.name = "ChartFX1"}, 2},
                {ChartBox{.name = "ChartFX2",
                          .design = {.labels = ChartDesign::Labels::Names},
                          .titles = {{2, u"FIFO Age"}}},
-                2}},
+                1}},
     .types = monthTypeOptions(),
     .draw = draw,
 };

@@ -94,11 +94,11 @@ Key key()
 
 std::vector<Item> charts()
 {
-    return {{ChartBox{.name = "ChartFX1"}, 3},
+    return {{ChartBox{.name = "ChartFX1"}, 2},
             {ChartBox{.name = "ChartFX2",
                       .design = {.bars = ChartDesign::Bars::Grouped, .labels = ChartDesign::Labels::Names},
                       .titles = {{2, u"Volume/Margin components"}}},
-             2}};
+             1}};
 }
 
 void draw(View& view, const Record& record, int type, TextView componentLine)

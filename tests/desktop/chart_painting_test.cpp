@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace plotvue {
@@ -103,6 +104,62 @@ TEST(ChartPainting, TheProjectionIsLighterThanWhatItStandsOn)
     }
     EXPECT_GT(solid, 50);
     EXPECT_GT(light, 50);
+}
+
+// Two components as the profit analyses show them: the first green, the second red.
+struct Components : ShownChart {
+    Components(double volume, double margin)
+    {
+        ChartContent content;
+        content.series = {{volume}, {margin}};
+        content.legends = {{0, u"Volume"}, {1, u"Margin"}};
+        content.colours = {{0, volume > 0 ? green : red}, {1, margin > 0 ? green : red}};
+        content.axisMax = std::max({volume, margin, 0.});
+        content.axisMin = std::min({volume, margin, 0.});
+        setContent(content, {ChartDesign::Bars::Grouped, ChartDesign::Labels::Names});
+    }
+
+    // How many pixels of the bar have just this colour.
+    int pixels(const QImage& image, int component, Colour colour) const
+    {
+        const QRect slot = pointRect(component) & image.rect();
+        const QColor wanted(colour.red, colour.green, colour.blue);
+        int count = 0;
+        for (int y = slot.top(); y <= slot.bottom(); ++y)
+            for (int x = slot.left(); x <= slot.right(); ++x)
+                count += image.pixelColor(x, y) == wanted;
+        return count;
+    }
+
+    static constexpr Colour green{0, 255, 0}, red{255, 0, 0};
+};
+
+TEST(ChartPainting, ColoursThatWereAskedForAreDrawnExactly)
+{
+    Components chart(400, -300);
+    const QImage light = chart.grab().toImage(), paper = printed(chart, 3780);
+    chart.setPalette(darkPalette());
+    const QImage dark = chart.grab().toImage();
+    for (const QImage& image : {light, dark, paper}) {
+        EXPECT_GT(chart.pixels(image, 0, Components::green), 5000);
+        EXPECT_GT(chart.pixels(image, 1, Components::red), 5000);
+        EXPECT_EQ(chart.pixels(image, 1, Components::green), 0);
+        EXPECT_EQ(chart.pixels(image, 0, Components::red), 0);
+    }
+}
+
+TEST(ChartPainting, AComponentOfExactlyZeroDrawsItsBarRed)
+{
+    Components chart(0, 300);
+    const QImage light = chart.grab().toImage(), paper = printed(chart, 3780);
+    chart.setPalette(darkPalette());
+    for (const QImage& image : {light, chart.grab().toImage(), paper}) {
+        EXPECT_GT(chart.pixels(image, 0, Components::red), 20) << "a flat bar";
+        EXPECT_GT(chart.pixels(image, 1, Components::green), 5000);
+    }
+    Components both(0, 0);
+    for (const int component : {0, 1})
+        EXPECT_GT(both.pixels(both.grab().toImage(), component, Components::red), 20);
 }
 
 TEST(ChartPainting, SurvivesEverySizeAndNoContent)

@@ -61,7 +61,7 @@ inline Declaration everyControl()
         .caption = u"Every control",
         .content = {
             Box::Direction::Row,
-            {column({{Label{.name = "Label1", .text = u"R&D\r", .points = 12, .bold = true}},
+            {column({{Label{.name = "Label1", .text = u"R&D\r", .font = {.points = 12, .bold = true}}},
                      {TextBox{.name = "txt", .spokenName = u"Summary"}},
                      {ListBox{.name = "List1", .spokenName = u"Screens", .items = {u"One", u"Two"}}},
                      row({{PictureBox{

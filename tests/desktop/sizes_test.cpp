@@ -1,11 +1,9 @@
 // Every window fits a small screen, and at any size nothing overlaps, sticks out or is cut off.
-#include "app/application.h"
-#include "desktop/desktop_fixture.h"
+#include "desktop/samples_fixture.h"
 #include "platform/desktop/grid.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QFile>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -13,9 +11,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTemporaryDir>
-
-#include <filesystem>
 
 namespace plotvue {
 
@@ -23,15 +18,6 @@ namespace {
 
 constexpr QSize smallScreen{790, 560}; // 800 by 600, less the frame
 constexpr QSize roomy{1000, 620};
-
-std::vector<std::string> samples()
-{
-    std::vector<std::string> names;
-    for (const auto& file : std::filesystem::directory_iterator(PLOTVUE_SAMPLES))
-        names.push_back(file.path().stem().string());
-    std::sort(names.begin(), names.end());
-    return names;
-}
 
 std::vector<QWidget*> visibleChildren(const QWidget& widget)
 {
@@ -87,32 +73,8 @@ void expectInOrder(QWidget& window, QSize size)
     expectInOrder(window);
 }
 
-class SizesTest : public test::DesktopTest, public testing::WithParamInterface<std::string> {
+class SizesTest : public test::SamplesTest, public testing::WithParamInterface<std::string> {
 protected:
-    SizesTest() : before_(std::filesystem::current_path())
-    {
-        std::filesystem::current_path(directory_.path().toStdString());
-    }
-    ~SizesTest() override { std::filesystem::current_path(before_); }
-
-    static void copy(const std::string& sample)
-    {
-        QFile file(QString::fromStdString(PLOTVUE_SAMPLES "/" + sample + ".txt"));
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        QGuiApplication::clipboard()->setText(QString::fromUtf8(file.readAll()));
-    }
-
-    std::vector<Window*> windows()
-    {
-        platform.settle();
-        QCoreApplication::processEvents(); // until all is laid out
-        std::vector<Window*> shown;
-        for (QWidget* widget : QApplication::topLevelWidgets())
-            if (auto* window = qobject_cast<Window*>(widget); window && window->isVisible())
-                shown.push_back(window);
-        return shown;
-    }
-
     // Checks the windows that are shown; returns how many.
     std::size_t expectAllInOrder(QSize screen = smallScreen)
     {
@@ -130,7 +92,7 @@ protected:
 
     void openAll(QSize screen)
     {
-        copy(GetParam());
+        copySample(GetParam());
         app.start();
         EXPECT_EQ(expectAllInOrder(screen), 1U);
         EXPECT_FALSE(app.window("startup")->visible());
@@ -141,12 +103,6 @@ protected:
         emit grid->rowChosen(1);
         EXPECT_EQ(expectAllInOrder(screen), 2U) << "the list and its drill-down window";
     }
-
-    Application app{platform};
-
-private:
-    QTemporaryDir directory_;
-    std::filesystem::path before_;
 };
 
 // While it lives, all letters are larger by half.
@@ -176,7 +132,7 @@ TEST_P(SizesTest, WindowsShowAllOfTheirTextsInLargeLetters)
     openAll(roomy);
 }
 
-INSTANTIATE_TEST_SUITE_P(Samples, SizesTest, testing::ValuesIn(samples()),
+INSTANTIATE_TEST_SUITE_P(Samples, SizesTest, testing::ValuesIn(test::samples()),
                          [](const auto& sample) { return sample.param; });
 
 TEST_F(SizesTest, StartUpWindowShowsAllOfItsTexts)

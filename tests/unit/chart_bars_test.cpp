@@ -125,4 +125,24 @@ TEST(ChartBars, OfComponentsHaveTheirLegendBelow)
     EXPECT_TRUE(layout.legend.empty());
 }
 
+TEST(ChartBars, OfAComponentThatIsZeroAreFlat)
+{
+    ChartContent content;
+    content.decimals = 0;
+    content.series = {{0}, {-20}};
+    content.legends = {{0, u"Volume"}, {1, u"Margin"}};
+    content.axisMax = 0;
+    content.axisMin = -20;
+    const Layout layout =
+        laidOut(content, {ChartDesign::Bars::Grouped, ChartDesign::Labels::Names}, {448, 260});
+    ASSERT_EQ(layout.bars.size(), 2U);
+    EXPECT_EQ(layout.bars[0].box.bottom(), layout.zero);
+    EXPECT_EQ(layout.bars[0].box.height, 2);
+    EXPECT_GT(layout.bars[0].box.width, 20);
+    EXPECT_EQ(layout.bars[1].box.top, layout.zero);
+
+    content.labels = {u"A"}; // two series at one point, no components
+    EXPECT_EQ(laidOut(content, {}, {448, 260}).bars.size(), 1U);
+}
+
 } // namespace plotvue::chart

@@ -1,4 +1,5 @@
-// A chart in a type of which every character is 6 wide and every line 12 high.
+// A chart in a type of which every line is 12 high and every character 6 wide, in tiny type 5, in medium and
+// large titles 7 and 8.
 #pragma once
 
 #include "platform/chart/layout.h"
@@ -10,7 +11,14 @@ namespace plotvue::chart {
 
 class SixByTwelve : public Metrics {
 public:
-    double width(TextView text, TextRole) const override { return 6.0 * static_cast<double>(text.size()); }
+    double width(TextView text, TextRole role) const override
+    {
+        const double each = role == TextRole::Tiny          ? 5
+                            : role == TextRole::LargeTitle  ? 8
+                            : role == TextRole::MediumTitle ? 7
+                                                            : 6;
+        return each * static_cast<double>(text.size());
+    }
     double height(TextRole) const override { return 12; }
 };
 

@@ -28,11 +28,27 @@ std::string slotsLabelled(const Layout& layout)
 
 } // namespace
 
+TEST(ChartLabels, AreSetInTinyTypeBeforeOneIsLeftOut)
+{
+    const ChartContent content = bars(std::vector<Text>(12, u"OCT98")); // 30 wide, in tiny type 25
+    const std::tuple<int, TextRole, std::size_t> expected[] = {{36, TextRole::Small, 12},
+                                                               {35, TextRole::Tiny, 12},
+                                                               {28, TextRole::Tiny, 12},
+                                                               {27, TextRole::Small, 6}};
+    for (const auto& [slotWidth, role, count] : expected) {
+        const Layout layout = laidOut(content, {}, {42.0 + 12 * slotWidth, 251});
+        EXPECT_EQ(layout.labelRole, role) << slotWidth;
+        EXPECT_EQ(layout.labels.size(), count) << slotWidth;
+    }
+    const Layout tiny = laidOut(content, {}, {42.0 + 12 * 28, 251});
+    EXPECT_EQ(describe(tiny.labels[0].name), "OCT98 @ 31.5,230 25x12");
+}
+
 TEST(ChartLabels, AreThinnedToEverySecondThirdFourthSixthTwelfth)
 {
     const ChartContent content = bars(std::vector<Text>(12, u"OCT98"));
-    const std::pair<int, const char*> expected[] = {{36, "0 1 2 3 4 5 6 7 8 9 10 11"},
-                                                    {35, "0 2 4 6 8 10"},
+    const std::pair<int, const char*> expected[] = {{28, "0 1 2 3 4 5 6 7 8 9 10 11"},
+                                                    {27, "0 2 4 6 8 10"},
                                                     {18, "0 2 4 6 8 10"},
                                                     {17, "0 3 6 9"},
                                                     {12, "0 3 6 9"},
@@ -53,18 +69,50 @@ TEST(ChartLabels, WithAYearEachAreThinnedBeyondAYear)
     EXPECT_EQ(slotsLabelled(laidOut(content, {}, {42 + 25 * 2, 251})), "0 24");
 }
 
-TEST(ChartLabels, KeepEveryJanuaryAndRuleTheYears)
+// From a November to a December two years later.
+std::vector<Text> twoYears()
 {
     std::vector<Text> labels{u"NOV", u"DEC"};
     for (const char16_t* january : {u"J99", u"J00"}) {
         labels.push_back(january);
         labels.insert(labels.end(), 11, u"FEB");
     }
-    const Layout layout = laidOut(bars(labels), {}, {42 + 26 * 8, 251});
-    EXPECT_EQ(describeLabels(layout), "2 J99\n5 FEB weak\n8 FEB weak\n11 FEB weak\n"
-                                      "14 J00\n17 FEB weak\n20 FEB weak\n23 FEB weak\n");
-    EXPECT_EQ(layout.yearRules, (std::vector<double>{30 + 2 * 8, 30 + 14 * 8}));
-    EXPECT_EQ(slotsLabelled(laidOut(bars(labels), {}, {42 + 26 * 1, 251})), "2 14");
+    return labels;
+}
+
+TEST(ChartLabels, KeepEveryJanuaryAndRuleTheYears)
+{
+    const Layout layout = laidOut(bars(twoYears()), {}, {42 + 26 * 7, 251});
+    EXPECT_EQ(describeLabels(layout), "2 J99\n6 FEB weak\n10 FEB weak\n14 J00\n18 FEB weak\n22 FEB weak\n");
+    EXPECT_EQ(layout.yearRules, (std::vector<double>{30 + 2 * 7, 30 + 14 * 7}));
+    EXPECT_EQ(slotsLabelled(laidOut(bars(twoYears()), {}, {42 + 26 * 1, 251})), "2 14");
+}
+
+TEST(ChartLabels, BesideJanuariesAreSetAsInitialsBeforeOneIsLeftOut)
+{
+    std::string initials = "0 N weak\n1 D weak\n";
+    for (const auto& [january, year] : {std::pair(2, "99"), std::pair(14, "00")}) {
+        initials += std::to_string(january) + " J\n" + std::to_string(january) + " " + year + "\n";
+        for (int month = january + 1; month < january + 12; ++month)
+            initials += std::to_string(month) + " F weak\n";
+    }
+    // An initial is 6 wide, in tiny type 5, and 2.4 lie between two.
+    for (const auto& [slotWidth, role] : {std::pair(9, TextRole::Small), std::pair(8, TextRole::Tiny)}) {
+        const Layout layout = laidOut(bars(twoYears()), {}, {42.0 + 26 * slotWidth, 251});
+        EXPECT_EQ(describeLabels(layout), initials) << slotWidth;
+        EXPECT_EQ(layout.labelRole, role);
+        EXPECT_EQ(layout.yearRules.size(), 2U);
+    }
+    const Layout layout = laidOut(bars(twoYears()), {}, {42 + 26 * 9, 251});
+    EXPECT_EQ(layout.plot.bottom(), 212) << "a line higher than over one line";
+    EXPECT_EQ(describe(layout.labels[2].name), "J @ 49.5,218 6x12");
+    EXPECT_EQ(describe(layout.labels[3].name), "99 @ 46.5,230 12x12");
+}
+
+TEST(ChartLabels, WithAYearEachAreNeverInitials)
+{
+    const ChartContent content = bars(std::vector<Text>(12, u"O98"));
+    EXPECT_EQ(slotsLabelled(laidOut(content, {}, {42 + 12 * 12, 251})), "0 2 4 6 8 10");
 }
 
 TEST(ChartLabels, RuleNoYearBeforeTheFirstMonth)

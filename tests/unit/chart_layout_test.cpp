@@ -92,21 +92,32 @@ TEST(ChartLayout, TheWholeSlotIsTheTarget)
     EXPECT_EQ(layout.slotAt(200, 251), -1);
 }
 
-TEST(ChartLayout, KeepsAForcedAxisAndClipsWhatReachesBeyond)
+TEST(ChartLayout, KeepsAForcedAxisAsFarAsEveryBarIsWhole)
 {
     ChartContent content = fourBars();
-    content.axisMax = 20;
-    const Layout layout = laidOut(content, {}, plot400x200);
-    EXPECT_EQ(layout.scale.max, 20);
-    EXPECT_EQ(describe(layout.bars[0].box), "45,124 70x100");
-    EXPECT_EQ(describe(layout.bars[3].box), "345,24 70x200");
-    content.axisMax = 0;
-    EXPECT_EQ(laidOut(content, {}, plot400x200).scale.max, 40);
     content.axisMax = 80;
-    content.axisMin = 20;
-    const Layout without = laidOut(content, {}, plot400x200);
-    EXPECT_FALSE(without.zero);
-    EXPECT_EQ(without.bars[3].box.bottom(), 224);
+    const Layout kept = laidOut(content, {}, plot400x200);
+    EXPECT_EQ(kept.scale.max, 80);
+    EXPECT_EQ(describe(kept.bars[3].box), "345,124 70x100");
+    for (const double tooLow : {20, 0}) {
+        content.axisMax = tooLow;
+        const Layout layout = laidOut(content, {}, plot400x200);
+        EXPECT_EQ(layout.scale.max, 40) << tooLow;
+        EXPECT_EQ(describe(layout.bars[3].box), "345,24 70x200") << tooLow;
+    }
+}
+
+TEST(ChartLayout, ACreditHidesNoOtherPartOfItsStack)
+{
+    ChartContent content = fourBars();
+    content.series = {{10600, 0, 0, 0}, {-6000, 0, 0, 0}};
+    content.axisMax = 4600; // what is owed in all
+    const Layout layout = laidOut(content, {}, plot400x200);
+    EXPECT_GE(layout.scale.max, 10600);
+    EXPECT_LE(layout.scale.min, -6000);
+    ASSERT_EQ(layout.bars.size(), 2U);
+    EXPECT_EQ(layout.bars[0].box.top, layout.snapped(layout.y(10600)));
+    EXPECT_EQ(layout.bars[1].box.bottom(), layout.snapped(layout.y(-6000)));
 }
 
 TEST(ChartLayout, WithoutDataThereAreOnlyTitles)

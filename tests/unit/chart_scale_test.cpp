@@ -85,7 +85,20 @@ TEST(ChartScale, KeepsGivenEnds)
     EXPECT_EQ(scale.max, 4.3);
     EXPECT_EQ(ticks(scale), "-2.0 0.0 2.0 4.0");
     EXPECT_EQ(ticks(scaleFor({0, 20}, {{}, 25, 0, 4})), "0 10 20");
-    EXPECT_EQ(scaleFor({0, 20}, {1e9, 1e9 + 5, 0, 5}).ticks.back(), 1e9 + 5);
+    EXPECT_EQ(scaleFor({0, 20}, {0, 20, 0, 5}).max, 20);
+    EXPECT_EQ(scaleFor({0, 1e9}, {{}, 1e9 + 5, 0, 5}).max, 1e9 + 5);
+}
+
+TEST(ChartScale, AnEndThatWouldHideABarIsNotKept)
+{
+    EXPECT_EQ(ticks(scaleFor({-6000, 10600}, {{}, 4600, 0, 5})), "-10,000 -5,000 0 5,000 10,000 15,000");
+    const Scale high = scaleFor({0, 21}, {0, 20, 0, 5});
+    EXPECT_EQ(high.min, 0);
+    EXPECT_EQ(high.max, 25);
+    const Scale low = scaleFor({-6, 20}, {-5, 40, 0, 5});
+    EXPECT_EQ(low.min, -10);
+    EXPECT_EQ(low.max, 40) << "the other end stays";
+    EXPECT_EQ(scaleFor({0, 20}, {5, {}, 0, 5}).min, 0) << "where every bar begins";
 }
 
 TEST(ChartScale, AMaximumNotAboveTheMinimumLeavesTheAxisToItself)

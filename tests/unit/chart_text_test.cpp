@@ -43,7 +43,7 @@ TEST(ChartTitles, StandBelowEachOther)
                                       "Product: 4711 @ 12,22.5 200x12 main\n"
                                       "WH: 1 @ 12,36 200x12\n");
     EXPECT_EQ(layout.titles[0].role, TextRole::Small);
-    EXPECT_EQ(layout.titles[1].role, TextRole::Large);
+    EXPECT_EQ(layout.titles[1].role, TextRole::LargeTitle);
     EXPECT_EQ(layout.titles[2].role, TextRole::Body);
 }
 
@@ -52,6 +52,39 @@ TEST(ChartTitles, LeaveNoGapWhenAbsent)
     ChartContent content;
     content.titles = {{1, u""}, {3, u"WH: 1"}};
     EXPECT_EQ(describeTitles(laidOut(content, {}, {224, 200})), "WH: 1 @ 12,9 200x12\n");
+}
+
+TEST(ChartTitles, TheMainOneIsSetSmallerBeforeItIsElided)
+{
+    ChartContent content;
+    content.titles = {{2, u"Product: 4711"}}; // 104, 91 or 78 wide, between margins of 12
+    const std::tuple<double, TextRole, const char*> expected[] = {
+        {128, TextRole::LargeTitle, "Product: 4711"},  {127, TextRole::MediumTitle, "Product: 4711"},
+        {115, TextRole::MediumTitle, "Product: 4711"}, {114, TextRole::BodyTitle, "Product: 4711"},
+        {102, TextRole::BodyTitle, "Product: 4711"},   {101, TextRole::BodyTitle, "Product: 47~"}};
+    for (const auto& [width, role, text] : expected) {
+        const Layout layout = laidOut(content, {}, {width, 200});
+        EXPECT_EQ(layout.titles.at(0).role, role) << width;
+        EXPECT_EQ(narrow(layout.titles.at(0).text), text) << width;
+    }
+    content.titles = {{1, u"Product: 4711"}, {3, u"Product: 4711"}};
+    const Layout layout = laidOut(content, {}, {101, 200});
+    EXPECT_EQ(layout.titles.at(0).role, TextRole::Small);
+    EXPECT_EQ(layout.titles.at(1).role, TextRole::Body);
+}
+
+TEST(ChartTitles, KeepTheirHeightWhateverTheirSize)
+{
+    struct HighTitles : SixByTwelve {
+        double height(TextRole role) const override { return role == TextRole::LargeTitle ? 20 : 12; }
+    };
+    ChartContent content;
+    content.titles = {{2, u"Product: 4711"}, {3, u"WH: 1"}};
+    for (const double width : {128, 102}) {
+        const Layout layout = layoutChart(content, {}, {width, 200}, HighTitles(), 1);
+        EXPECT_EQ(layout.titles.at(0).box.height, 20);
+        EXPECT_EQ(layout.titles.at(1).box.top, 9 + 20 + 1.5);
+    }
 }
 
 TEST(ChartTitles, AreElidedNeverWrapped)

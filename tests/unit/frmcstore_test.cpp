@@ -111,6 +111,14 @@ TEST(FrmCSTORE, TheDayStandsNinePlacesBehindTheIdentifier)
     EXPECT_NEAR(valueOf(session.chart(window), 13, 1, 1), 0, 1e-9);
 }
 
+TEST(FrmCSTORE, ADayOfZeroProjectsNothing)
+{
+    Session session;
+    session.start(store().put(1, 10, u"00").text());
+    EXPECT_EQ(valueOf(session.chart(window), 13, 1, 0), 128060.18);
+    EXPECT_EQ(valueOf(session.chart(window), 13, 1, 1), 0);
+}
+
 TEST(FrmCSTORE, SixMonthsAreTheSixNewestLines)
 {
     Session session;

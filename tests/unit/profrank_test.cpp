@@ -181,7 +181,8 @@ TEST_F(RankedProfit, TheLaterComponentLineIsKeptOfTheEntryToo)
 
 TEST_F(RankedProfit, WithoutAComponentLineTheSecondLineIsShown)
 {
-    // Rank 1 is not on the screen: its row has neither number nor group, and leads to the screen's first line.
+    // Rank 1 is not on the screen: its row has neither number nor group, and leads to the screen's first
+    // line.
     RankedProfitScreen screen;
     screen.add(2, u"50", u"8", u"-3").put(2, 27, u"7").put(2, 39, u"-2").put(2, 50, u" ");
     start(screen);

@@ -92,7 +92,7 @@ TEST(Startup, HasNoOtherControls)
                                    "List1"));
 }
 
-TEST(Startup, ItsLettersHaveTheirSizes)
+TEST(Startup, ItsLettersHaveTheirFamiliesAndSizes)
 {
     struct Open : Startup {
         using Startup::declare;
@@ -100,22 +100,18 @@ TEST(Startup, ItsLettersHaveTheirSizes)
     };
     RecordingPlatform platform;
     const Declaration declaration = Open(platform).declare();
-    std::map<Name, Label> labels;
-    bool listIsBold = false;
+    std::map<Name, Font> fonts;
     forEachControl(declaration.content, [&](const auto& control) {
-        if constexpr (std::is_same_v<std::decay_t<decltype(control)>, Label>)
-            labels[control.name] = control;
-        if constexpr (std::is_same_v<std::decay_t<decltype(control)>, ListBox>)
-            listIsBold = control.bold;
+        if constexpr (requires { control.font; })
+            fonts[control.name] = control.font;
     });
-    EXPECT_EQ(labels["Label1"].points, 48);
-    EXPECT_TRUE(labels["Label1"].italic);
-    EXPECT_FALSE(labels["Label1"].bold);
-    EXPECT_EQ(labels["Label3"].points, 9.75);
-    EXPECT_TRUE(labels["Label3"].bold);
-    EXPECT_EQ(labels["Label5"].points, 12);
-    EXPECT_EQ(labels["Label2"].points, 12);
-    EXPECT_TRUE(listIsBold);
+    const TextView sans = u"MS Sans Serif";
+    EXPECT_EQ(fonts["Label1"], (Font{.family = u"Arial", .points = 48, .italic = true}));
+    EXPECT_EQ(fonts["Label3"], (Font{.family = sans, .points = 9.75, .bold = true}));
+    EXPECT_EQ(fonts["Label4"], Font{});
+    EXPECT_EQ(fonts["Label5"], Font{.points = 12});
+    EXPECT_EQ(fonts["Label2"], (Font{.family = sans, .points = 12}));
+    EXPECT_EQ(fonts["List1"], (Font{.family = sans, .points = 8.25, .bold = true}));
 }
 
 TEST(Startup, ACaptureOnTheClipboardOpensItsWindowAtOnce)

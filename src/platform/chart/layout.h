@@ -5,7 +5,8 @@
 
 namespace plotvue::chart {
 
-enum class TextRole { Small, Body, Large };
+// A title that does not fit is set smaller, down to the size of the body; so are labels, down to Tiny.
+enum class TextRole { Tiny, Small, Body, BodyTitle, MediumTitle, LargeTitle };
 
 // How much room text takes in the fonts it is going to be drawn with.
 class Metrics {
@@ -47,6 +48,7 @@ struct Tick {
     Line figure;
 };
 // Of a slanted label the box is where it would lie unturned; it is turned by -45 degrees about its right end.
+// A January whose months are set as initials has two labels: "J" and, below it, its year.
 struct SlotLabel {
     int slot = 0;
     Line name;
@@ -78,16 +80,17 @@ struct Layout {
     Scale scale;
     double slotWidth = 0;
     std::vector<Tick> ticks;
-    std::optional<double> zero; // y of the zero line; absent when the axis leaves zero out
+    double zero = 0; // y of the zero line
     std::vector<SlotLabel> labels;
+    TextRole labelRole = TextRole::Small;
     bool slanted = false;          // the labels
     std::vector<double> yearRules; // x, between December and January
-    std::vector<Bar> bars;         // only of figures other than zero
+    std::vector<Bar> bars;         // of figures other than zero, and flat ones of components that are zero
     std::vector<SlotValue> values; // above or below the bars; empty unless all of them fit
 
     Box slotBox(int slot) const;
     int slotAt(double x, double y) const; // the point whose slot, label included, is there; -1: none
-    double y(double value) const;         // what lies off the axis stands at its end
+    double y(double value) const;         // what lies off the axis is at its end
     double snapped(double length) const;
 };
 

@@ -22,7 +22,6 @@ bool holdsDigit(const Text& text)
 
 struct Labels {
     std::vector<Text> texts;
-    double widest = 0;
     std::optional<int> january; // the slot of one of them; absent: not a chart of whole years
 
     bool isJanuary(std::size_t slot) const { return january && holdsDigit(texts[slot]); }
@@ -37,7 +36,6 @@ Labels readLabels(const LayoutInput& input)
     for (int slot = 0; slot < input.figures.slotCount(); ++slot) {
         labels.texts.push_back(drawable(input.figures.label(slot)));
         const Text& text = labels.texts.back();
-        labels.widest = std::max(labels.widest, input.width(text));
         if (holdsDigit(text))
             january = slot;
         else
@@ -48,17 +46,48 @@ Labels readLabels(const LayoutInput& input)
     return labels;
 }
 
-int stepBetweenLabels(const Labels& labels, double slotWidth, double em)
+// How the labels are set.
+struct Setting {
+    TextRole role = TextRole::Small;
+    bool initials = false; // "J" over "98", "F", "M"
+    int step = 1;          // slots from one label to the next
+};
+
+double widest(const LayoutInput& input, const Labels& labels, const Setting& setting)
 {
-    const double wanted = labels.widest + em * .5;
-    for (const int step : {1, 2, 3, 4, 6})
-        if (wanted <= slotWidth * step)
-            return step;
-    const double years = std::ceil(wanted / (slotWidth * 12));
-    return 12 * (labels.january ? 1 : static_cast<int>(years));
+    double width = 0;
+    for (const Text& text : labels.texts)
+        width =
+            std::max(width, input.metrics.width(setting.initials ? text.substr(0, 1) : text, setting.role));
+    return width;
 }
 
-// Slanted lines of type stand closer than their slots; capitals need less than the whole height of a line.
+// Thinned only where every label fits in no other way.
+Setting settingOfMonths(const LayoutInput& input, const Labels& labels, double slotWidth, double em)
+{
+    const Setting whole[] = {{TextRole::Small}, {TextRole::Tiny}},
+                  initials[] = {{TextRole::Small, true}, {TextRole::Tiny, true}};
+    const auto fits = [&](const Setting& setting) {
+        const double gap = em * (setting.role == TextRole::Small && !setting.initials ? .5 : .2);
+        return widest(input, labels, setting) + gap <= slotWidth;
+    };
+    for (const Setting& setting : whole)
+        if (fits(setting))
+            return setting;
+    if (labels.january)
+        for (const Setting& setting : initials)
+            if (fits(setting))
+                return setting;
+    const double wanted = widest(input, labels, {}) + em * .5;
+    for (const int step : {2, 3, 4, 6})
+        if (wanted <= slotWidth * step)
+            return {.step = step};
+    const double years = std::ceil(wanted / (slotWidth * 12));
+    return {.step = 12 * (labels.january ? 1 : static_cast<int>(years))};
+}
+
+// Slanted lines of type are closer together than their slots; capitals need less than the whole height of a
+// line.
 int stepBetweenNames(bool slanted, double slotWidth, double em)
 {
     return slanted ? static_cast<int>(std::ceil(em * .75 / (slotWidth * slant))) : 1;
@@ -71,33 +100,50 @@ void placeTicks(const LayoutInput& input, Layout& layout, double right)
         const double y = layout.snapped(layout.y(value)), width = input.width(text);
         layout.ticks.push_back({y, {{right - width, y - layout.em / 2, width, layout.em}, std::move(text)}});
     }
-    if (layout.scale.min <= 0 && layout.scale.max >= 0)
-        layout.zero = layout.snapped(layout.y(0));
+    layout.zero = layout.snapped(layout.y(0));
 }
 
-void placeLabels(const LayoutInput& input, Layout& layout, Labels labels, int step, double top,
-                 double longest)
+// The label in one line, or its initial and the figures of its year in two.
+void placeUpright(const LayoutInput& input, Layout& layout, int slot, const Text& text, double top,
+                  bool strong, const Setting& setting)
 {
-    const double em = layout.em;
+    const double centre = layout.slotBox(slot).centreX();
+    const auto placeLine = [&](Text line, double lineTop) {
+        const double width = input.metrics.width(line, setting.role);
+        layout.labels.push_back(
+            {slot, {{centre - width / 2, lineTop, width, layout.em}, std::move(line)}, strong});
+    };
+    placeLine(setting.initials ? text.substr(0, 1) : text, top);
+    if (setting.initials && holdsDigit(text))
+        placeLine(text.substr(1), top + layout.em);
+}
+
+void placeSlanted(const LayoutInput& input, Layout& layout, int slot, Text text, double top, double longest)
+{
+    const double end = layout.slotBox(slot).centreX() + layout.em * .25;
+    text = input.fitted(std::move(text), std::min(longest, (end - layout.em / 4) / slant), TextRole::Small);
+    const double width = input.width(text);
+    if (!text.empty())
+        layout.labels.push_back({slot, {{end - width, top, width, layout.em}, std::move(text)}, true});
+}
+
+void placeLabels(const LayoutInput& input, Layout& layout, const Labels& labels, const Setting& setting,
+                 double top, double longest)
+{
+    layout.labelRole = setting.role;
     // Beside Januaries the step divides a year: any of them tells which slots are labelled.
-    const int phase = labels.january.value_or(0) % step;
+    const int phase = labels.january.value_or(0) % setting.step;
     for (int slot = 0; slot < layout.slotCount; ++slot) {
         const bool january = labels.isJanuary(static_cast<std::size_t>(slot));
         if (january && slot > 0)
             layout.yearRules.push_back(layout.snapped(layout.slotBox(slot).left));
-        if (slot % step != phase)
+        const Text& text = labels.texts[static_cast<std::size_t>(slot)];
+        if (slot % setting.step != phase || text.empty())
             continue;
-        const double centre = layout.slotBox(slot).centreX();
-        const double end = centre + em * .25;
-        Text text = std::move(labels.texts[static_cast<std::size_t>(slot)]);
         if (layout.slanted)
-            text = input.fitted(std::move(text), std::min(longest, (end - em / 4) / slant), TextRole::Small);
-        if (text.empty())
-            continue;
-        const double width = input.width(text);
-        const double left = layout.slanted ? end - width : centre - width / 2;
-        layout.labels.push_back(
-            {slot, {{left, top, width, em}, std::move(text)}, !labels.january || january});
+            placeSlanted(input, layout, slot, text, top, longest);
+        else
+            placeUpright(input, layout, slot, text, top, !labels.january || january, setting);
     }
 }
 
@@ -120,20 +166,22 @@ void placeAxes(const LayoutInput& input, Layout& layout, const Box& inner, doubl
     layout.plot.width = std::max(em, layout.snapped(inner.right()) - layout.plot.left);
     layout.slotWidth = layout.plot.width / layout.slotCount;
 
-    Labels labels = readLabels(input);
+    const Labels labels = readLabels(input);
+    const double longestName = widest(input, labels, {});
     const bool names = input.design.labels == ChartDesign::Labels::Names || input.figures.components();
-    layout.slanted = names && labels.widest + em * .5 > layout.slotWidth;
+    layout.slanted = names && longestName + em * .5 > layout.slotWidth;
+    const Setting setting = names ? Setting{.step = stepBetweenNames(layout.slanted, layout.slotWidth, em)}
+                                  : settingOfMonths(input, labels, layout.slotWidth, em);
     const double longest = layout.paper.height * .22 / slant;
-    const double labelHeight = layout.slanted ? std::min(labels.widest, longest) * slant + em * .5 : em;
+    const double labelHeight =
+        layout.slanted ? std::min(longestName, longest) * slant + em * .5 : em * (setting.initials ? 2 : 1);
     const double belowBars = reach.low < 0 && valuesFit(input, layout) ? em * .75 : 0;
     const double labelTop = inner.bottom() - labelHeight;
 
     layout.plot.top = layout.snapped(top);
     layout.plot.height = std::max(em, layout.snapped(labelTop - em * .5 - belowBars) - layout.plot.top);
     placeTicks(input, layout, ticksEnd);
-    const int step = names ? stepBetweenNames(layout.slanted, layout.slotWidth, em)
-                           : stepBetweenLabels(labels, layout.slotWidth, em);
-    placeLabels(input, layout, std::move(labels), step, layout.plot.bottom() + em * .5 + belowBars, longest);
+    placeLabels(input, layout, labels, setting, layout.plot.bottom() + em * .5 + belowBars, longest);
 }
 
 } // namespace plotvue::chart

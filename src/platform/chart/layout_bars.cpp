@@ -10,6 +10,7 @@ namespace {
 constexpr double widestBar = 6, widestLoneBar = 9; // in em
 constexpr int fewSlots = 3;
 constexpr double leastGap = 4; // between two figures
+constexpr double flatBar = 2;  // hairlines: a component of 0 shows its colour
 
 struct BarRow { // the bars of a slot, from left to right
     double each = 0, gap = 0, all = 0;
@@ -77,18 +78,20 @@ void placeSlot(const LayoutInput& input, Layout& layout, const BarRow& row, int 
     Bar* last[2] = {nullptr, nullptr};
     layout.bars.reserve(layout.bars.size() + input.figures.series().size());
     for (std::size_t s = 0; s < input.figures.series().size(); ++s) {
-        const double value = input.figures.value(s, slot).value_or(0);
-        if (value == 0)
+        const std::optional<double> figure = input.figures.value(s, slot);
+        const double value = figure.value_or(0);
+        if (!figure || (value == 0 && !input.figures.components()))
             continue;
-        const bool up = value > 0;
+        const bool up = value >= 0;
         const double from = stacked ? reach[up] : 0, to = from + value;
         reach[up] = to;
         if (stacked && last[up])
             last[up]->end = false;
         const double a = layout.snapped(layout.y(from)), b = layout.snapped(layout.y(to));
         const double left = row.left(layout, slot, stacked ? 0 : s);
+        const double height = value == 0 ? flatBar * layout.hairline : std::abs(a - b);
         layout.bars.push_back(
-            {s, slot, {left, std::min(a, b), row.each - row.gap, std::abs(a - b)}, up, true});
+            {s, slot, {left, up ? a - height : a, row.each - row.gap, height}, up, true});
         last[up] = &layout.bars.back();
     }
 }

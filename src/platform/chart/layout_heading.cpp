@@ -1,6 +1,7 @@
 #include "platform/chart/drawable.h"
 #include "platform/chart/layout_steps.h"
 
+#include <algorithm>
 #include <array>
 
 namespace plotvue::chart {
@@ -9,11 +10,20 @@ namespace {
 
 struct TitlePlace {
     int position;
-    TextRole role;
+    std::vector<TextRole> roles; // the first in which it fits, or else the last
     bool main;
 };
-constexpr std::array<TitlePlace, 3> titlePlaces{
-    {{1, TextRole::Small, false}, {2, TextRole::Large, true}, {3, TextRole::Body, false}}};
+const std::array<TitlePlace, 3> titlePlaces{
+    {{1, {TextRole::Small}, false},
+     {2, {TextRole::LargeTitle, TextRole::MediumTitle, TextRole::BodyTitle}, true},
+     {3, {TextRole::Body}, false}}};
+
+TextRole roleThatFits(const TitlePlace& place, TextView text, double room, const Metrics& metrics)
+{
+    const auto fits = [&](TextRole role) { return metrics.width(text, role) <= room; };
+    const auto found = std::find_if(place.roles.begin(), place.roles.end(), fits);
+    return found == place.roles.end() ? place.roles.back() : *found;
+}
 
 } // namespace
 
@@ -23,12 +33,15 @@ double placeTitles(const LayoutInput& input, Layout& layout, const Box& inner, d
         const auto title = input.content.titles.find(place.position);
         if (title == input.content.titles.end())
             continue;
-        Text text = input.fitted(drawable(title->second), inner.width, place.role);
+        Text text = drawable(title->second);
+        const TextRole role = roleThatFits(place, text, inner.width, input.metrics);
+        text = input.fitted(std::move(text), inner.width, role);
         if (text.empty())
             continue;
-        const double height = input.metrics.height(place.role);
+        // As high as in its first size: whoever steps from chart to chart sees the bars in one place.
+        const double height = input.metrics.height(place.roles.front());
         layout.titles.push_back(
-            {{{inner.left, top, inner.width, height}, std::move(text)}, place.role, place.main});
+            {{{inner.left, top, inner.width, height}, std::move(text)}, role, place.main});
         top += height + layout.em * .125;
     }
     return top;

@@ -58,6 +58,10 @@ Range reachOf(const Figures& figures)
 Scale scaleFor(Range reach, const ScaleWishes& wishes)
 {
     std::optional<double> min = finite(wishes.min), max = finite(wishes.max);
+    if (min && *min > reach.low)
+        min.reset();
+    if (max && *max < reach.high)
+        max.reset();
     if (max.value_or(reach.high) <= min.value_or(reach.low))
         min = max = std::nullopt;
     const double unit =

@@ -20,8 +20,8 @@ struct Scale {
 };
 
 // Steps of 1, 2, 2.5 or 5 times a power of ten that `decimals` can write exactly, at most about `mostSteps`
-// of them. A given end is kept even where no tick stands; a maximum not above the minimum leaves the axis to
-// itself.
+// of them. A given end is kept even where no tick is, unless bars reach beyond it: they are drawn whole. A
+// maximum not above the minimum leaves the axis to itself.
 struct ScaleWishes {
     std::optional<double> min, max;
     std::optional<int> decimals; // absent: as many as the steps need

@@ -121,18 +121,25 @@ QWidget* Builder::make(const Button& declared)
     return button;
 }
 
+void setFont(QWidget& widget, const Font& asked)
+{
+    QFont font = widget.font();
+    if (!asked.family.empty())
+        font.setFamilies({toQString(asked.family), font.family()});
+    if (asked.points > 0)
+        font.setPointSizeF(asked.points);
+    font.setBold(asked.bold);
+    font.setItalic(asked.italic);
+    if (font != widget.font())
+        widget.setFont(font);
+}
+
 QWidget* Builder::make(const Label& declared)
 {
     auto* label = new QLabel(&window_);
     label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(declared.points < headlinePoints);
-    QFont font = label->font();
-    if (declared.points > 0)
-        font.setPointSizeF(declared.points);
-    font.setBold(declared.bold);
-    font.setItalic(declared.italic);
-    if (font != label->font())
-        label->setFont(font);
+    label->setWordWrap(declared.font.points < headlinePoints);
+    setFont(*label, declared.font);
     keepText(*label, declared.text);
     label->setText(shown(declared.text));
     controls_.labels[declared.name] = label;
@@ -150,9 +157,7 @@ QWidget* Builder::make(const ListBox& declared)
     list->setAccessibleName(toQString(declared.spokenName));
     list->setSelectionMode(QAbstractItemView::NoSelection);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    QFont font = list->font();
-    font.setBold(declared.bold);
-    list->setFont(font);
+    setFont(*list, declared.font);
     const int rowHeight = list->fontMetrics().height() + listRowPadding;
     for (const TextView text : declared.items) {
         auto* item = new QListWidgetItem(toQString(text), list);

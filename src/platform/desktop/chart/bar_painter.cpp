@@ -64,7 +64,7 @@ void paintBar(QPainter& painter, const QRectF& box, const BarLook& look, BarEnd 
         return;
     if (look.projection)
         return paintProjection(painter, box, look);
-    const bool edged = look.colours.outline.isValid() && box.width() > 3;
+    const bool edged = look.colours.outline.isValid() && box.width() > 3 && box.height() > 3;
     if (end == BarEnd::Square || box.width() < leastRounded) {
         painter.fillRect(box, edged ? look.colours.outline : look.colours.fill);
         if (edged)
@@ -73,7 +73,7 @@ void paintBar(QPainter& painter, const QRectF& box, const BarLook& look, BarEnd 
     }
     painter.setRenderHint(QPainter::Antialiasing);
     fillRounded(painter, box, end, edged ? look.colours.outline : look.colours.fill);
-    if (edged && box.height() > 3)
+    if (edged)
         fillRounded(painter, box.adjusted(1, 1, -1, -1), end, look.colours.fill);
     painter.setRenderHint(QPainter::Antialiasing, false);
 }

@@ -7,7 +7,6 @@ namespace plotvue {
 namespace {
 
 constexpr double enoughContrast = 3;
-constexpr float calmSaturation = .74F, calmBrightness = .78F;
 
 double linear(double channel)
 {
@@ -32,14 +31,6 @@ QColor readable(QColor colour, const QColor& paper, const QColor& ink)
     return colour;
 }
 
-// Pure red and green are signal lamps, no printing inks.
-QColor calmed(const QColor& colour)
-{
-    float hue = 0, saturation = 0, value = 0;
-    colour.getHsvF(&hue, &saturation, &value);
-    return QColor::fromHsvF(qMax(0.F, hue), qMin(saturation, calmSaturation), qMin(value, calmBrightness));
-}
-
 } // namespace
 
 QColor mixed(const QColor& from, const QColor& to, double share)
@@ -61,8 +52,8 @@ ChartInks::ChartInks(const QPalette& palette)
 BarColours barColours(const chart::Figures::Series& series, const ChartInks& inks)
 {
     const QColor asked(series.colour.red, series.colour.green, series.colour.blue);
-    if (series.ownColour)
-        return {readable(calmed(asked), inks.paper, inks.ink), {}};
+    if (series.ownColour) // exactly as asked; an edge sets it off
+        return {asked, mixed(asked, Qt::black, .35)};
     if (contrast(asked, inks.paper) >= enoughContrast)
         return {asked, {}};
     // On dark paper the deep colours are lightened; on light paper the light ones keep their hue and get an

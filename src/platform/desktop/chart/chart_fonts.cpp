@@ -6,7 +6,9 @@ namespace plotvue {
 
 namespace {
 
-constexpr double smallSize = .92, largeSize = 1.5;
+// As parts of the window's own size.
+constexpr double tinySize = .75, smallSize = .92, mediumTitleSize = 1.25, largeTitleSize = 1.5;
+constexpr double leastPoints = 7.5; // what is smaller is hard to read; a window's own size may be
 
 QFont resized(const QFont& base, double factor, QFont::Weight weight = QFont::Normal)
 {
@@ -25,15 +27,27 @@ double unitsPerPoint(const QFont& base, int baseDpi, const QPaintDevice& device)
     return base.pointSizeF() > 0 ? double(baseDpi) / qMax(1, device.logicalDpiY()) : 1;
 }
 
-std::array<QFont, 3> fontsFor(const QFont& base, double factor)
+double pointsOf(const QFont& base, int baseDpi)
 {
-    return {resized(base, smallSize * factor), resized(base, factor),
-            resized(base, largeSize * factor, QFont::DemiBold)};
+    return base.pointSizeF() > 0 ? base.pointSizeF() : base.pixelSize() * 72. / qMax(1, baseDpi);
 }
 
-QFontMetricsF metricsOf(const QFont& font, const QPaintDevice& device)
+// By role.
+std::array<QFont, 6> fontsFor(const QFont& base, int baseDpi, double factor)
 {
-    return QFontMetricsF(font, &device);
+    const double least = qMin(1., leastPoints / pointsOf(base, baseDpi));
+    return {resized(base, qMax(tinySize, least) * factor),
+            resized(base, qMax(smallSize, least) * factor),
+            resized(base, factor),
+            resized(base, factor, QFont::DemiBold),
+            resized(base, mediumTitleSize * factor, QFont::DemiBold),
+            resized(base, largeTitleSize * factor, QFont::DemiBold)};
+}
+
+std::array<QFontMetricsF, 6> metricsFor(const std::array<QFont, 6>& fonts, const QPaintDevice& device)
+{
+    const auto of = [&](std::size_t role) { return QFontMetricsF(fonts[role], &device); };
+    return {of(0), of(1), of(2), of(3), of(4), of(5)};
 }
 
 } // namespace
@@ -44,8 +58,8 @@ QString toQString(TextView text)
 }
 
 ChartFonts::ChartFonts(const QFont& base, int baseDpi, const QPaintDevice& device)
-    : fonts_(fontsFor(base, unitsPerPoint(base, baseDpi, device))),
-      metrics_{metricsOf(fonts_[0], device), metricsOf(fonts_[1], device), metricsOf(fonts_[2], device)}
+    : fonts_(fontsFor(base, baseDpi, unitsPerPoint(base, baseDpi, device))),
+      metrics_(metricsFor(fonts_, device))
 {}
 
 double ChartFonts::width(TextView text, chart::TextRole role) const

@@ -1,4 +1,4 @@
-// The fonts of a chart: three sizes of the window's own, and how much room text takes in them.
+// The fonts of a chart: sizes of the window's own, and how much room text takes in them.
 #pragma once
 
 #include "platform/chart/layout.h"
@@ -23,8 +23,10 @@ public:
     double height(chart::TextRole role) const override;
 
 private:
-    std::array<QFont, 3> fonts_; // by role
-    std::array<QFontMetricsF, 3> metrics_;
+    static constexpr std::size_t roles = 6;
+
+    std::array<QFont, roles> fonts_; // by role
+    std::array<QFontMetricsF, roles> metrics_;
 };
 
 } // namespace plotvue

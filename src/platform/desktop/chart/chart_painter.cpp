@@ -88,6 +88,7 @@ void ChartPainter::paintSlanted(const chart::Line& line)
 
 void ChartPainter::paintLabels()
 {
+    painter_.setFont(fonts_.font(layout_.labelRole));
     for (const chart::SlotLabel& label : layout_.labels) {
         painter_.setPen(label.strong ? inks_.ink : inks_.soft);
         if (layout_.slanted)
@@ -95,6 +96,7 @@ void ChartPainter::paintLabels()
         else
             paintLine(label.name);
     }
+    painter_.setFont(fonts_.font(TextRole::Small));
 }
 
 void ChartPainter::paintBars()
@@ -108,8 +110,8 @@ void ChartPainter::paintBars()
             paintRule({box.left(), y, box.width(), layout_.hairline}, inks_.paper);
         }
     }
-    if (layout_.zero)
-        paintRule({layout_.plot.left, *layout_.zero, layout_.plot.width, layout_.hairline}, inks_.axis);
+    if (layout_.slotCount > 0)
+        paintRule({layout_.plot.left, layout_.zero, layout_.plot.width, layout_.hairline}, inks_.axis);
 }
 
 void ChartPainter::paintValues(int current)

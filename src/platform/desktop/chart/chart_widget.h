@@ -25,6 +25,8 @@ public:
     int pointAt(QPoint position) const;           // -1: none
     QRect pointRect(int point) const;             // its whole slot, in widget coordinates
 
+    const chart::Layout& chartLayout() const; // where everything is at the widget's size
+
     // As on paper: vectors on white, whatever the desktop's colours, without anything that follows the
     // pointer. Takes the widget's size in the painter's units from its origin.
     void paint(QPainter& painter) const;
@@ -44,7 +46,6 @@ protected:
 
 private:
     const ChartFonts& fonts() const;
-    const chart::Layout& chartLayout() const;
     std::optional<int> pointForKey(const QKeyEvent& event) const;
 
     ChartContent content_;

@@ -1,0 +1,62 @@
+// The windows that the samples open, in a directory of their own.
+#pragma once
+
+#include "app/application.h"
+#include "desktop/desktop_fixture.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace plotvue::test {
+
+inline std::vector<std::string> samples()
+{
+    std::vector<std::string> names;
+    for (const auto& file : std::filesystem::directory_iterator(PLOTVUE_SAMPLES))
+        names.push_back(file.path().stem().string());
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+class SamplesTest : public DesktopTest {
+protected:
+    SamplesTest() : before_(std::filesystem::current_path())
+    {
+        std::filesystem::current_path(directory_.path().toStdString());
+    }
+    ~SamplesTest() override { std::filesystem::current_path(before_); }
+
+    static QString sample(const std::string& name)
+    {
+        QFile file(QString::fromStdString(PLOTVUE_SAMPLES "/" + name + ".txt"));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return QString::fromUtf8(file.readAll());
+    }
+
+    static void copySample(const std::string& name) { QGuiApplication::clipboard()->setText(sample(name)); }
+
+    // Those that are shown, laid out.
+    std::vector<Window*> windows()
+    {
+        platform.settle();
+        QCoreApplication::processEvents();
+        std::vector<Window*> shown;
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (auto* window = qobject_cast<Window*>(widget); window && window->isVisible())
+                shown.push_back(window);
+        return shown;
+    }
+
+    Application app{platform};
+
+private:
+    QTemporaryDir directory_;
+    std::filesystem::path before_;
+};
+
+} // namespace plotvue::test
