@@ -1,0 +1,139 @@
+// What terminals make of a screen when it is copied: the blanks at the ends of lines left out, or every cell
+// filled with them. Whatever the terminal does, the windows look the same.
+#include "desktop/samples_fixture.h"
+#include "platform/desktop/chart/chart_widget.h"
+#include "platform/desktop/grid.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace plotvue {
+
+namespace {
+
+constexpr int columns = 80;
+
+enum class Blanks { LeftOut, Painted };
+
+QString copied(const QString& screen, Blanks blanks)
+{
+    QStringList lines = screen.split(QStringLiteral("\r\n"));
+    for (QString& line : lines) {
+        while (line.endsWith(u' '))
+            line.chop(1);
+        if (blanks == Blanks::Painted)
+            line = line.leftJustified(columns);
+    }
+    return lines.join(u'\n');
+}
+
+class Copies : public test::SamplesTest, public testing::WithParamInterface<std::string> {
+protected:
+    // What a person sees in the windows that the capture opens, whatever is chosen in them, row after row.
+    std::vector<std::string> tour(const QString& capture)
+    {
+        seen_.clear();
+        QGuiApplication::clipboard()->setText(capture);
+        pressed("startup", "Command1");
+        Window& window = *windows().front();
+        lookAtEveryChoice(window);
+        for (auto* grid : window.findChildren<GridTable*>()) {
+            emit grid->rowChosen(1);
+            for (Window* other : windows())
+                if (other != &window)
+                    stepThrough(*other);
+        }
+        pressed(window, "Exit");
+        return seen_;
+    }
+
+    void SetUp() override
+    {
+        QGuiApplication::clipboard()->clear();
+        app.start();
+        windows();
+    }
+
+private:
+    void pressed(Name form, Name button)
+    {
+        app.window(form)->view().press(button);
+        platform.settle();
+    }
+
+    void pressed(const Window& window, const char* caption)
+    {
+        for (auto* button : window.findChildren<QPushButton*>())
+            if (button->text().remove(u'&') == QLatin1String(caption))
+                button->click();
+        platform.settle();
+    }
+
+    void note(const QString& text) { seen_.push_back(text.trimmed().toStdString()); }
+
+    void look(const Window& window)
+    {
+        for (const auto* label : window.findChildren<QLabel*>())
+            note(label->text());
+        for (const auto* line : window.findChildren<QLineEdit*>())
+            note(line->text());
+        for (const auto* grid : window.findChildren<GridTable*>())
+            for (int row = 0; row < grid->model()->rowCount(); ++row)
+                for (int column = 0; column < grid->model()->columnCount(); ++column)
+                    note(grid->model()->index(row, column).data().toString());
+        for (const auto* chart : window.findChildren<ChartWidget*>()) {
+            const chart::Figures figures(chart->content(), chart->design());
+            note(toQString(chart::titlesInOneLine(chart->content())));
+            for (int point = 0; point < figures.pointCount(); ++point)
+                note(toQString(figures.sentence(point)));
+            for (const chart::LegendEntry& entry : chart->chartLayout().legend)
+                note(toQString(entry.name.text));
+        }
+    }
+
+    // With one option chosen in each frame, from `frame` on in every way.
+    void lookAtEveryChoice(const Window& window, qsizetype frame = 0)
+    {
+        const auto frames = window.findChildren<QGroupBox*>();
+        if (frame == frames.size())
+            return look(window);
+        for (auto* option : frames[frame]->findChildren<QRadioButton*>()) {
+            option->click();
+            lookAtEveryChoice(window, frame + 1);
+        }
+    }
+
+    void stepThrough(const Window& charts)
+    {
+        const std::size_t messages = platform.messages.size();
+        while (platform.messages.size() == messages) { // "End of list"
+            lookAtEveryChoice(charts);
+            pressed(charts, "Down");
+        }
+    }
+
+    std::vector<std::string> seen_;
+};
+
+TEST_P(Copies, LookTheSameWhateverTheTerminalDoesWithBlanks)
+{
+    const QString screen = sample(GetParam());
+    const std::vector<std::string> intact = tour(screen);
+    EXPECT_GT(intact.size(), 20U);
+    for (const Blanks blanks : {Blanks::LeftOut, Blanks::Painted}) {
+        const std::vector<std::string> other = tour(copied(screen, blanks));
+        ASSERT_EQ(other.size(), intact.size());
+        for (std::size_t i = 0; i < intact.size(); ++i)
+            ASSERT_EQ(other[i], intact[i]);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Samples, Copies, testing::ValuesIn(test::samples()),
+                         [](const auto& sample) { return sample.param; });
+
+} // namespace
+
+} // namespace plotvue
