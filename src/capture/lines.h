@@ -28,8 +28,8 @@ public:
     // Lines cut before the text ran out: 19 for a whole capture.
     int count() const { return count_; }
 
-    // Throws EndlessRead when the text ran out, at the latest after line 19: the reader's dropping step has no
-    // end-of-text test, and callers rely on being told so instead of spinning.
+    // Throws EndlessRead when the text ran out, at the latest after line 19: the reader's dropping step has
+    // no end-of-text test, and callers rely on being told so instead of spinning.
     void requireAll() const;
 
 private:

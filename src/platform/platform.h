@@ -48,9 +48,9 @@ public:
     [[noreturn]] void end() { throw EndOfProcess{}; }
 
     // Runs an event's handler. Whatever it throws ends the process the way the platform does it: an end, a
-    // run-time error with the error report, a reader that never returns. Handlers run one at a time: while one
-    // runs or waits for a box, and once the process is over, another is not run. Assistive technology reaches
-    // the windows under a box too.
+    // run-time error with the error report, a reader that never returns. Handlers run one at a time: while
+    // one runs or waits for a box, and once the process is over, another is not run. Assistive technology
+    // reaches the windows under a box too.
     void run(const std::function<void()>& handler);
 
     bool over() const { return over_; } // the process has ended or failed, or its reader never returns

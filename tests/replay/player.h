@@ -21,7 +21,7 @@ public:
     virtual Platform& platform() = 0;
     virtual void setClipboard(const Text& text) = 0; // empty: no text
     virtual void setPrinter(PrinterAnswer answer) = 0;
-    virtual void settle() {}       // lets what was shown and hidden take effect
+    virtual void settle() {} // lets what was shown and hidden take effect
 };
 
 std::unique_ptr<Stage> recordingStage();

@@ -53,7 +53,7 @@ inline testing::AssertionResult failed(Session& session, std::string_view words)
     if (said.find(words) == std::string::npos || !said.ends_with('.'))
         return testing::AssertionFailure() << said;
     return session.platform.over() ? testing::AssertionSuccess()
-                                 : testing::AssertionFailure() << "the process goes on";
+                                   : testing::AssertionFailure() << "the process goes on";
 }
 
 // Nobody can write or read a file where a directory stands.

@@ -90,8 +90,7 @@ void placeSlot(const LayoutInput& input, Layout& layout, const BarRow& row, int 
         const double a = layout.snapped(layout.y(from)), b = layout.snapped(layout.y(to));
         const double left = row.left(layout, slot, stacked ? 0 : s);
         const double height = value == 0 ? flatBar * layout.hairline : std::abs(a - b);
-        layout.bars.push_back(
-            {s, slot, {left, up ? a - height : a, row.each - row.gap, height}, up, true});
+        layout.bars.push_back({s, slot, {left, up ? a - height : a, row.each - row.gap, height}, up, true});
         last[up] = &layout.bars.back();
     }
 }

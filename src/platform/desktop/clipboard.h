@@ -14,9 +14,9 @@ bool clipboardNeedsFocus();
 void waitForFocus();
 
 // A line feed without a carriage return before it becomes the pair: many desktops and toolkits hand over bare
-// line feeds. An empty line that ends with a bare line feed becomes a line of one blank: the terminal has left
-// out the trailing blanks of a line that is blank on the host's screen, and the readers skip empty lines. Text
-// with CR LF stays as it is.
+// line feeds. An empty line that ends with a bare line feed becomes a line of one blank: the terminal has
+// left out the trailing blanks of a line that is blank on the host's screen, and the readers skip empty
+// lines. Text with CR LF stays as it is.
 Text mendLineEnds(TextView text);
 
 } // namespace plotvue
