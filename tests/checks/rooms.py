@@ -23,7 +23,7 @@ MAY_INCLUDE = {
     "": APP | {"platform/desktop"},  # main.cpp
 }
 
-TOOLKIT = re.compile(r"(Qt?[A-Z]\w*(/.*)?|qt?[a-z0-9_]+\.h|cups/.*|xcb/.*|X11/.*)$")
+TOOLKIT = re.compile(r"(Qt?[A-Z]\w*(/.*)?|qt?[a-z0-9_]+\.h|cups/.*|fontconfig/.*|xcb/.*|X11/.*)$")
 TOOLKIT_ROOMS = ("src/platform/desktop/", "src/main.cpp", "tests/desktop/", "tests/replay/desktop",
                  "tests/faults/owner.cpp", "bench/")
 

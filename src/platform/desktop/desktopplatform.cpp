@@ -4,6 +4,7 @@
 #include "platform/desktop/assistive.h"
 #include "platform/desktop/clipboard.h"
 #include "platform/desktop/desktopview.h"
+#include "platform/desktop/fontsahead.h"
 #include "platform/desktop/shown.h"
 #include "platform/desktop/window.h"
 
@@ -84,9 +85,11 @@ void showBox(QMessageBox::Icon icon, TextView title, TextView text, const QStrin
 
 std::unique_ptr<QApplication> connectDisplay(int& argc, char** argv)
 {
+    static FontsAhead fonts; // begins at once, while there is nothing to do but wait for the display
     const QtMessageHandler usual = qInstallMessageHandler(sayThatNoDisplayIsThere);
     auto application = std::make_unique<QApplication>(argc, argv);
     qInstallMessageHandler(usual);
+    fonts.list();
     return application;
 }
 
