@@ -5,7 +5,7 @@
 
 int main(int argc, char* argv[])
 {
-    const auto desktop = plotvue::connectDisplay(argc, argv);
+    const auto desktop = plotvue::makeApplication(argc, argv);
     plotvue::DesktopPlatform platform;
     plotvue::Application application(platform);
     application.start();

@@ -46,7 +46,7 @@ TextView ScreenLines::operator[](Position number) const
 {
     if (number < 1 || number > capacity)
         throw Failure{
-            u"The column headings stand so low on the screen that the months under them are missing."};
+            u"The column headings are so low on the screen that the months under them are missing."};
     return lines_[static_cast<std::size_t>(number)];
 }
 
@@ -54,8 +54,14 @@ void ScreenLines::requireAll() const
 {
     if (!ranOut_)
         return;
-    const auto isEmpty = [](TextView line) { return line.empty() || line == TextView(&carriageReturn, 1); };
-    throw EndlessRead{count_ - static_cast<int>(isEmpty(lines_[1]))}; // the others hold more than that
+    int lines = 0;
+    bool ended = true; // what comes after the last line end is one line, however often it was cut
+    for (int i = 1; i <= count_ && ended; ++i) {
+        const TextView line = lines_[static_cast<std::size_t>(i)];
+        ended = line.ends_with(carriageReturn);
+        lines += line.size() > (ended ? 1 : 0) ? 1 : 0;
+    }
+    throw EndlessRead{lines};
 }
 
 } // namespace plotvue

@@ -22,7 +22,7 @@ TextView mid(TextView text, Position start, Position length)
     if (start < 1)
         throw Failure{u"The screen is cut off: a text would begin before its first character."};
     if (length < 0)
-        throw Failure{u"The screen is cut off: a line is too short for the text that stands in it."};
+        throw Failure{u"The screen is cut off: a line is too short for the text in it."};
     const auto from = std::min(static_cast<std::size_t>(start) - 1, text.size());
     return text.substr(from, static_cast<std::size_t>(length));
 }

@@ -99,7 +99,9 @@ struct Declaration {
     Name name; // "frmProduct"
     TextView caption;
     Box content;
-    int width = 1000, height = 600; // of the client area when it first opens, in device-independent pixels
+    // Of the client area when it first opens, in device-independent pixels, in letters of 10 points; in
+    // larger ones it is larger in proportion.
+    int width = 1000, height = 600;
 };
 
 Item row(std::vector<Item> items, int stretch = 0);

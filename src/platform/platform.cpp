@@ -18,9 +18,8 @@ void Platform::print(View& view, Name window)
 
 void Platform::run(const std::function<void()>& handler)
 {
-    if (running_ || over_)
+    if (over_)
         return;
-    running_ = true;
     try {
         handler();
     } catch (const EndOfProcess&) {
@@ -39,7 +38,6 @@ void Platform::run(const std::function<void()>& handler)
         const std::string_view what = mistake.what();
         fail(u"PlotVue made a mistake of its own: " + Text(what.begin(), what.end()) + u".");
     }
-    running_ = false;
 }
 
 void Platform::fail(TextView sentence)

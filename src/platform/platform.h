@@ -48,9 +48,8 @@ public:
     [[noreturn]] void end() { throw EndOfProcess{}; }
 
     // Runs an event's handler. Whatever it throws ends the process the way the platform does it: an end, a
-    // run-time error with the error report, a reader that never returns. Handlers run one at a time: while
-    // one runs or waits for a box, and once the process is over, another is not run. Assistive technology
-    // reaches the windows under a box too.
+    // run-time error with the error report, a reader that never returns. Nothing runs once it is over:
+    // assistive technology reaches the windows under the last box too.
     void run(const std::function<void()>& handler);
 
     bool over() const { return over_; } // the process has ended or failed, or its reader never returns
@@ -59,13 +58,13 @@ protected:
     virtual void showMessage(TextView title, TextView text) = 0;
     virtual void printView(View& view) = 0;
     virtual void reportError(TextView sentence) = 0; // then the process ends with status 1
-    virtual void spin(int lines) = 0; // a reader waits for ever: the text has only so many lines with text
+    virtual void spin(int lines) = 0; // waits for ever; the text has that many lines that are not empty
     virtual void finish() = 0;        // the process ends with status 0
 
 private:
     void fail(TextView sentence);
 
-    bool running_ = false, over_ = false;
+    bool over_ = false;
 };
 
 } // namespace plotvue

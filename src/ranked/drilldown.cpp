@@ -35,7 +35,7 @@ Declaration DrillDownWindow::declare() const
     return {.name = design_.window,
             .caption = design_.caption,
             .content = {Box::Direction::Row, std::move(content)},
-            .width = design_.charts.size() > 1 ? 1100 : 1000};
+            .width = design_.width};
 }
 
 Handlers DrillDownWindow::handlers()

@@ -18,6 +18,7 @@ struct DrillDownDesign {
     const RankedAnalysis& analysis;
     int mostRecordsToDraw = 100, mostRecordsToStep = 100;
 
+    int width = 1000;              // of the window, as Declaration::width
     std::vector<Item> charts;      // side by side
     std::vector<TextView> types{}; // captions of the data types by index; empty: no choice
     // Draws the record; `type` is the index of the chosen data type, 0 where there is no choice.

@@ -58,6 +58,7 @@ const DrillDownDesign frmM2MpftA{
     .window = "frmM2MpftA",
     .caption = u"PlotVue!",
     .analysis = frmM2Mpft,
+    .width = 1100,
     .charts = charts(),
     .types = monthTypeOptions(),
     .draw = [](View& view, const Record& record, int type) { draw(view, record, type, record[2]); },

@@ -66,6 +66,7 @@ const DrillDownDesign frmProfRankA{
     .window = "frmProfRankA",
     .caption = u"PlotVue",
     .analysis = frmProfRank,
+    .width = 1100,
     .charts = charts(),
     .types = monthTypeOptions(),
     .draw = [](View& view, const Record& record,

@@ -130,6 +130,7 @@ const DrillDownDesign frmVendInvA{
     .window = "frmVendInvA",
     .caption = u"PlotVue",
     .analysis = frmVendInv,
+    .width = 1100,
     .charts = {{ChartBox{.name = "ChartFX1"}, 2},
                {ChartBox{.name = "ChartFX2",
                          .design = {.labels = ChartDesign::Labels::Names},

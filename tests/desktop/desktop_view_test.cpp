@@ -216,6 +216,27 @@ TEST_F(DesktopViewTest, HeldEscapeClosesOneWindow)
         EXPECT_EQ(shortcut->autoRepeat(), shortcut->key() != Qt::Key_Escape);
 }
 
+TEST_F(DesktopViewTest, LettersAreOfTheFamilyAndSizeThatTheyAskForOrTheDesktopsOwn)
+{
+    const Font asked{.family = u"Arial", .points = 8.25, .bold = true, .italic = true};
+    const auto letters =
+        build({.name = "letters",
+               .caption = {},
+               .content = {Box::Direction::Column,
+                           {{Label{.name = "asked", .text = u"A", .font = asked}},
+                            {ListBox{.name = "list", .spokenName = {}, .items = {}, .font = asked}},
+                            {Label{.name = "own", .text = u"B"}}}}});
+    const QWidget& window = windowOf(*letters);
+    const QStringList families{QStringLiteral("Arial"), window.font().family()};
+    const QWidget* const withFont[] = {window.findChild<QLabel*>(), window.findChild<QListWidget*>()};
+    for (const QWidget* widget : withFont) {
+        EXPECT_EQ(widget->font().families(), families);
+        EXPECT_EQ(widget->font().pointSizeF(), 8.25);
+        EXPECT_TRUE(widget->font().bold() && widget->font().italic());
+    }
+    EXPECT_EQ(window.findChildren<QLabel*>().last()->font(), window.font());
+}
+
 TEST_F(DesktopViewTest, UntitledFrameHasAName)
 {
     const QList<QGroupBox*> frames = windowOf(*view).findChildren<QGroupBox*>();

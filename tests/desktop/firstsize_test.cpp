@@ -3,7 +3,6 @@
 #include "platform/desktop/chart/chart_widget.h"
 #include "platform/desktop/grid.h"
 
-#include <QRadioButton>
 #include <QRegularExpression>
 #include <QScreen>
 
@@ -11,15 +10,27 @@ namespace plotvue {
 
 namespace {
 
-constexpr double leastPoints = 7.5;
+constexpr double minPoints = 7.5;
 
 class FirstSize : public test::SamplesTest, public testing::WithParamInterface<std::string> {
 protected:
+    ~FirstSize() override { QApplication::setFont(usual_); }
+
     void SetUp() override
     {
-        const QSize room = QGuiApplication::primaryScreen()->availableSize();
-        ASSERT_GE(room.width(), 1280) << "a screen on which every window opens in its own size";
-        ASSERT_GE(room.height(), 720);
+        const QScreen& screen = *QGuiApplication::primaryScreen();
+        ASSERT_GE(screen.availableSize().width(), 1280)
+            << "a screen on which every window opens in its own size";
+        ASSERT_GE(screen.availableSize().height(), 720);
+        const double asked = qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1")).toDouble();
+        ASSERT_EQ(screen.devicePixelRatio(), asked);
+    }
+
+    void setLetters(double points)
+    {
+        QFont font = usual_;
+        font.setPointSizeF(points);
+        QApplication::setFont(font);
     }
 
     // The window that the capture opens, or the charts of its first row.
@@ -38,14 +49,14 @@ protected:
         return nullptr;
     }
 
-    static void expectEveryPointLabelled(const ChartWidget& chart)
+    static void expectEveryPointLabelled(const ChartWidget& chart, const chart::Layout& layout)
     {
-        const chart::Layout& layout = chart.chartLayout();
         std::set<int> labelled;
         std::map<double, double> ends; // of the labels so far, by the top of their line
         for (const chart::SlotLabel& label : layout.labels) {
             const chart::Box& box = label.name.box;
             EXPECT_FALSE(label.name.text.empty());
+            EXPECT_TRUE(isWhole(label.name.text));
             EXPECT_LE(box.bottom(), chart.height());
             labelled.insert(label.slot);
             if (layout.slanted)
@@ -54,15 +65,31 @@ protected:
             EXPECT_GT(box.left, ends[box.top]) << "label of point " << label.slot;
             ends[box.top] = box.right();
         }
+        EXPECT_GT(chart.points(), 0);
         EXPECT_EQ(labelled.size(), static_cast<std::size_t>(chart.points()));
         const QFont font = ChartFonts(chart.font(), chart.logicalDpiY(), chart).font(layout.labelRole);
-        EXPECT_GE(font.pointSizeF(), leastPoints);
+        EXPECT_GE(font.pointSizeF(), minPoints - 1e-9);
     }
 
-    static void expectWholeTitles(const ChartWidget& chart)
+    static std::size_t labelled(const Window& window)
     {
-        for (const chart::Title& title : chart.chartLayout().titles)
-            EXPECT_EQ(title.text.find(u'\u2026'), Text::npos) << toQString(title.text).toStdString();
+        std::set<int> labelledSlots;
+        for (const chart::SlotLabel& label : window.findChild<ChartWidget*>()->chartLayout().labels)
+            labelledSlots.insert(label.slot);
+        return labelledSlots.size();
+    }
+
+    static bool isWhole(TextView text) { return text.find(u'\u2026') == TextView::npos; }
+
+    // The same chart on paper of 300 dots an inch.
+    static chart::Layout onPaper(const ChartWidget& chart)
+    {
+        QImage paper(1, 1, QImage::Format_RGB32);
+        paper.setDotsPerMeterX(11811);
+        paper.setDotsPerMeterY(11811);
+        return chart::layoutChart(chart.content(), chart.design(),
+                                  {double(chart.width()), double(chart.height())},
+                                  ChartFonts(chart.font(), chart.logicalDpiY(), paper), 0);
     }
 
     static void expectWhole(const Window& window)
@@ -70,33 +97,77 @@ protected:
         const auto charts = window.findChildren<ChartWidget*>();
         EXPECT_FALSE(charts.isEmpty());
         for (const ChartWidget* chart : charts) {
-            expectEveryPointLabelled(*chart);
-            expectWholeTitles(*chart);
+            expectEveryPointLabelled(*chart, chart->chartLayout());
+            expectEveryPointLabelled(*chart, onPaper(*chart));
+            for (const chart::Title& title : chart->chartLayout().titles)
+                EXPECT_TRUE(isWhole(title.text)) << toQString(title.text).toStdString();
         }
     }
+
+    static void expectWholeWhateverIsChosen(const Window& window)
+    {
+        forEveryChoice(window, [&] { expectWhole(window); });
+    }
+
+private:
+    QFont usual_ = QApplication::font();
 };
 
 TEST_P(FirstSize, EveryPointHasItsLabelWhateverIsChosen)
 {
     const Window* window = opened(sample(GetParam()));
     ASSERT_NE(window, nullptr);
-    expectWhole(*window);
-    const auto options = window->findChildren<QRadioButton*>();
-    for (QRadioButton* period : options)
-        for (QRadioButton* type : options) {
-            SCOPED_TRACE(period->text().toStdString() + ", " + type->text().toStdString());
-            period->click();
-            type->click();
-            expectWhole(*window);
-        }
+    expectWholeWhateverIsChosen(*window);
+}
+
+TEST_P(FirstSize, InLettersOf11PointsToo)
+{
+    setLetters(11);
+    const Window* window = opened(sample(GetParam()));
+    ASSERT_NE(window, nullptr);
+    expectWholeWhateverIsChosen(*window);
+}
+
+TEST_P(FirstSize, InLettersOf12PointsToo)
+{
+    setLetters(12);
+    const Window* window = opened(sample(GetParam()));
+    ASSERT_NE(window, nullptr);
+    expectWholeWhateverIsChosen(*window);
+}
+
+TEST_P(FirstSize, OnAScreenOf960By540Too) // 1920 by 1080 at 200 %
+{
+    Window* window = opened(sample(GetParam()));
+    ASSERT_NE(window, nullptr);
+    window->resize(window->size().boundedTo({960, 540}));
+    QCoreApplication::processEvents();
+    expectWholeWhateverIsChosen(*window);
 }
 
 INSTANTIATE_TEST_SUITE_P(Samples, FirstSize, testing::ValuesIn(test::samples()),
                          [](const auto& sample) { return sample.param; });
 
-using FirstSizeOf = FirstSize;
+TEST_F(FirstSize, TwentyFourMonthsAreTwentyFiveLabels)
+{
+    const Window* window = opened(sample("product"));
+    app.window("frmProduct")->view().choose("opt12", 1);
+    EXPECT_EQ(labelled(*window), 25U);
+}
 
-TEST_F(FirstSizeOf, ThirtyCharactersOfACustomersNameAreWhole)
+TEST_F(FirstSize, FiveYearsAreSixtyLabels)
+{
+    const Window* window = opened(sample("glhistory"));
+    app.window("frmGLarch")->view().choose("opt12", 4);
+    EXPECT_EQ(labelled(*window), 60U);
+}
+
+TEST_F(FirstSize, ARowsMonthsAreThirteenLabels)
+{
+    EXPECT_EQ(labelled(*opened(sample("profitrank"))), 13U);
+}
+
+TEST_F(FirstSize, ThirtyCharactersOfACustomersNameAreWhole)
 {
     QString capture = sample("monthtomonth");
     static const QRegularExpression name(QStringLiteral("(RANK:  1.{11}).{30}"));

@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFile>
+#include <QGroupBox>
+#include <QRadioButton>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -50,6 +52,20 @@ protected:
             if (auto* window = qobject_cast<Window*>(widget); window && window->isVisible())
                 shown.push_back(window);
         return shown;
+    }
+
+    // Calls `look` with one option chosen in each frame of the window, in every way; from `frame` on.
+    template <typename Look>
+    static void forEveryChoice(const Window& window, const Look& look, qsizetype frame = 0)
+    {
+        const auto frames = window.findChildren<QGroupBox*>();
+        if (frame == frames.size())
+            return look();
+        for (auto* option : frames[frame]->template findChildren<QRadioButton*>()) {
+            SCOPED_TRACE(option->text().toStdString());
+            option->click();
+            forEveryChoice(window, look, frame + 1);
+        }
     }
 
     Application app{platform};

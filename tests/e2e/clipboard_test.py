@@ -71,7 +71,13 @@ class Clipboard(unittest.TestCase):
                     self.desktop.env["DISPLAY"] = display
                 process = self.desktop.start()
                 self.assertEqual(ended(process), 1)
-                self.assertEqual(process.stderr.read(), b"PlotVue: there is no display to show its windows on.\n")
+                self.assertEqual(process.stderr.read(), b"PlotVue: there is no display to show windows on.\n")
+
+    def test_what_else_keeps_windows_from_being_shown_is_said_too(self):
+        self.desktop.env["QT_QPA_PLATFORM"] = "no such"
+        process = self.desktop.start()
+        self.assertEqual(ended(process), 1)
+        self.assertRegex(process.stderr.read().decode(), r"PlotVue: no window can be shown: [^\n]+\n$")
 
 
 if __name__ == "__main__":

@@ -28,35 +28,48 @@ std::string slotsLabelled(const Layout& layout)
 
 } // namespace
 
-TEST(ChartLabels, AreSetInTinyTypeBeforeOneIsLeftOut)
+TEST(ChartLabels, AreSetInTinyTypeOrTwoLinesBeforeOneIsLeftOut)
 {
-    const ChartContent content = bars(std::vector<Text>(12, u"OCT98")); // 30 wide, in tiny type 25
-    const std::tuple<int, TextRole, std::size_t> expected[] = {{36, TextRole::Small, 12},
-                                                               {35, TextRole::Tiny, 12},
-                                                               {28, TextRole::Tiny, 12},
-                                                               {27, TextRole::Small, 6}};
-    for (const auto& [slotWidth, role, count] : expected) {
+    // 30 wide, in tiny type 25; the name of the month alone 18 and 15.
+    const ChartContent content = bars(std::vector<Text>(12, u"OCT98"));
+    struct Expected {
+        int slotWidth;
+        TextRole role;
+        std::size_t lines;
+    };
+    for (const auto& [slotWidth, role, lines] : {Expected{36, TextRole::Small, 12},
+                                                 {35, TextRole::Tiny, 12},
+                                                 {28, TextRole::Tiny, 12},
+                                                 {27, TextRole::Small, 24},
+                                                 {21, TextRole::Small, 24},
+                                                 {20, TextRole::Tiny, 24},
+                                                 {18, TextRole::Tiny, 24},
+                                                 {17, TextRole::Small, 4}}) {
         const Layout layout = laidOut(content, {}, {42.0 + 12 * slotWidth, 251});
         EXPECT_EQ(layout.labelRole, role) << slotWidth;
-        EXPECT_EQ(layout.labels.size(), count) << slotWidth;
+        EXPECT_EQ(layout.labels.size(), lines) << slotWidth;
     }
     const Layout tiny = laidOut(content, {}, {42.0 + 12 * 28, 251});
     EXPECT_EQ(describe(tiny.labels[0].name), "OCT98 @ 31.5,230 25x12");
+    const Layout broken = laidOut(content, {}, {42.0 + 12 * 22, 251});
+    EXPECT_EQ(describe(broken.labels[0].name), "OCT @ 32,218 18x12");
+    EXPECT_EQ(describe(broken.labels[1].name), "98 @ 35,230 12x12");
+    EXPECT_EQ(broken.plot.bottom(), 212) << "a line higher than over one line";
 }
 
 TEST(ChartLabels, AreThinnedToEverySecondThirdFourthSixthTwelfth)
 {
-    const ChartContent content = bars(std::vector<Text>(12, u"OCT98"));
-    const std::pair<int, const char*> expected[] = {{28, "0 1 2 3 4 5 6 7 8 9 10 11"},
-                                                    {27, "0 2 4 6 8 10"},
-                                                    {18, "0 2 4 6 8 10"},
-                                                    {17, "0 3 6 9"},
-                                                    {12, "0 3 6 9"},
+    const ChartContent content = bars(std::vector<Text>(12, u"OCTOBR")); // 36 wide, and cannot be broken
+    const std::pair<int, const char*> expected[] = {{33, "0 1 2 3 4 5 6 7 8 9 10 11"},
+                                                    {32, "0 2 4 6 8 10"},
+                                                    {21, "0 2 4 6 8 10"},
+                                                    {20, "0 3 6 9"},
+                                                    {14, "0 3 6 9"},
+                                                    {13, "0 4 8"},
                                                     {11, "0 4 8"},
-                                                    {9, "0 4 8"},
-                                                    {8, "0 6"},
-                                                    {6, "0 6"},
-                                                    {5, "0"}};
+                                                    {10, "0 6"},
+                                                    {7, "0 6"},
+                                                    {6, "0"}};
     for (const auto& [slotWidth, labels] : expected)
         EXPECT_EQ(slotsLabelled(laidOut(content, {}, {42.0 + 12 * slotWidth, 251})), labels) << slotWidth;
     EXPECT_FALSE(laidOut(content, {}, {242, 251}).slanted);
@@ -82,9 +95,9 @@ std::vector<Text> twoYears()
 
 TEST(ChartLabels, KeepEveryJanuaryAndRuleTheYears)
 {
-    const Layout layout = laidOut(bars(twoYears()), {}, {42 + 26 * 7, 251});
+    const Layout layout = laidOut(bars(twoYears()), {}, {42 + 26 * 6, 251});
     EXPECT_EQ(describeLabels(layout), "2 J99\n6 FEB weak\n10 FEB weak\n14 J00\n18 FEB weak\n22 FEB weak\n");
-    EXPECT_EQ(layout.yearRules, (std::vector<double>{30 + 2 * 7, 30 + 14 * 7}));
+    EXPECT_EQ(layout.yearRules, (std::vector<double>{30 + 2 * 6, 30 + 14 * 6}));
     EXPECT_EQ(slotsLabelled(laidOut(bars(twoYears()), {}, {42 + 26 * 1, 251})), "2 14");
 }
 
@@ -96,8 +109,8 @@ TEST(ChartLabels, BesideJanuariesAreSetAsInitialsBeforeOneIsLeftOut)
         for (int month = january + 1; month < january + 12; ++month)
             initials += std::to_string(month) + " F weak\n";
     }
-    // An initial is 6 wide, in tiny type 5, and 2.4 lie between two.
-    for (const auto& [slotWidth, role] : {std::pair(9, TextRole::Small), std::pair(8, TextRole::Tiny)}) {
+    // An initial is 6 wide, in tiny type 5, and 1.2 are between two.
+    for (const auto& [slotWidth, role] : {std::pair(8, TextRole::Small), std::pair(7, TextRole::Tiny)}) {
         const Layout layout = laidOut(bars(twoYears()), {}, {42.0 + 26 * slotWidth, 251});
         EXPECT_EQ(describeLabels(layout), initials) << slotWidth;
         EXPECT_EQ(layout.labelRole, role);
@@ -109,10 +122,13 @@ TEST(ChartLabels, BesideJanuariesAreSetAsInitialsBeforeOneIsLeftOut)
     EXPECT_EQ(describe(layout.labels[3].name), "99 @ 46.5,230 12x12");
 }
 
-TEST(ChartLabels, WithAYearEachAreNeverInitials)
+TEST(ChartLabels, WithAYearEachAreNoCalendarThoughOneLacksIts)
 {
-    const ChartContent content = bars(std::vector<Text>(12, u"O98"));
-    EXPECT_EQ(slotsLabelled(laidOut(content, {}, {42 + 12 * 12, 251})), "0 2 4 6 8 10");
+    std::vector<Text> labels(12, u"O98");
+    labels[3] = u"XXX";
+    const Layout layout = laidOut(bars(labels), {}, {42 + 12 * 12, 251});
+    EXPECT_TRUE(layout.yearRules.empty());
+    EXPECT_EQ(layout.labels.size(), 6U) << "two figures are as wide as the slot: every second";
 }
 
 TEST(ChartLabels, RuleNoYearBeforeTheFirstMonth)

@@ -181,6 +181,28 @@ TEST(ScreenLines, ALastLineWithoutItsEndIsNotEnoughEither)
     EXPECT_THROW(ScreenLines(text).requireAll(), EndlessRead);
 }
 
+int linesBeforeTheEnd(const Text& text)
+{
+    try {
+        ScreenLines(text).requireAll();
+    } catch (const EndlessRead& read) {
+        return read.lines;
+    }
+    return -1;
+}
+
+TEST(ScreenLines, ThatNeverEndSayHowManyLinesAreNotEmpty)
+{
+    EXPECT_EQ(linesBeforeTheEnd(numbered(1).text()), 1);
+    EXPECT_EQ(linesBeforeTheEnd(numbered(18).text()), 18);
+    EXPECT_EQ(linesBeforeTheEnd(numbered(19).text()), 19);
+    EXPECT_EQ(linesBeforeTheEnd(u""), 0);
+    EXPECT_EQ(linesBeforeTheEnd(u"\r\n\r\n"), 0);
+    EXPECT_EQ(linesBeforeTheEnd(u"\r\nA\r\n\r\n \r\nB"), 3) << "a line of blanks is not empty";
+    EXPECT_EQ(linesBeforeTheEnd(Text(1000, u'A')), 1) << "cut into pieces of 81 characters";
+    EXPECT_EQ(linesBeforeTheEnd(u"A\r\n" + Text(1000, u'A')), 2);
+}
+
 TEST(DashLine, IsTheLineThatHoldsFiveDashes)
 {
     EXPECT_EQ(dashLineOf(numbered().put(6, 1, u"----- ---------")), 6);

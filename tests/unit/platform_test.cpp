@@ -187,6 +187,23 @@ TEST_F(Windows, SpinWhereAReaderNeverReturns)
     EXPECT_TRUE(platform.over());
 }
 
+TEST_F(Windows, RunNothingOnceItIsOver)
+{
+    const std::function<void()> endings[] = {[] { throw EndOfProcess{}; }, [] { throw EndlessRead{}; },
+                                             [] { throw Failure{u"It does not fit."}; }};
+    for (const auto& ending : endings) {
+        RecordingPlatform other;
+        int ran = 0;
+        other.run([&] { ++ran; });
+        other.run([&] { ++ran; });
+        EXPECT_EQ(ran, 2);
+        other.run(ending);
+        EXPECT_TRUE(other.over());
+        other.run([&] { ++ran; });
+        EXPECT_EQ(ran, 2);
+    }
+}
+
 TEST_F(Windows, ALoadThatFailsShowsNothing)
 {
     window.onLoad = [] { throw Failure{u"It does not fit."}; };

@@ -37,7 +37,7 @@ TEST(Sentences, OfAScreenThatIsCutOff)
     EXPECT_EQ(said([] { mid(u"A", 0, 1); }),
               u"The screen is cut off: a text would begin before its first character.");
     EXPECT_EQ(said([] { mid(u"A", 1, -1); }),
-              u"The screen is cut off: a line is too short for the text that stands in it.");
+              u"The screen is cut off: a line is too short for the text in it.");
 }
 
 TEST(Sentences, OfAMonthWithoutAName)

@@ -7,6 +7,7 @@ namespace plotvue::chart {
 
 // A title that does not fit is set smaller, down to the size of the body; so are labels, down to Tiny.
 enum class TextRole { Tiny, Small, Body, BodyTitle, MediumTitle, LargeTitle };
+inline constexpr std::size_t textRoles = 6;
 
 // How much room text takes in the fonts it is going to be drawn with.
 class Metrics {

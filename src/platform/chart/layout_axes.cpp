@@ -3,6 +3,7 @@
 #include "platform/chart/layout_steps.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 #include <optional>
@@ -27,58 +28,75 @@ struct Labels {
     bool isJanuary(std::size_t slot) const { return january && holdsDigit(texts[slot]); }
 };
 
-// Over five years only the Januaries carry their year: "J98", "FEB", "MAR".
+// Over whole years only the Januaries carry their year: "J98", "FEB", "MAR".
 Labels readLabels(const LayoutInput& input)
 {
     Labels labels;
-    bool without = false;
+    int withYear = 0, without = 0;
     std::optional<int> january;
     for (int slot = 0; slot < input.figures.slotCount(); ++slot) {
         labels.texts.push_back(drawable(input.figures.label(slot)));
         const Text& text = labels.texts.back();
-        if (holdsDigit(text))
+        if (holdsDigit(text)) {
             january = slot;
-        else
-            without = without || !text.empty();
+            ++withYear;
+        } else if (!text.empty()) {
+            ++without;
+        }
     }
-    if (without && input.design.labels == ChartDesign::Labels::Months && !input.figures.components())
+    if (withYear < without && input.design.labels == ChartDesign::Labels::Months &&
+        !input.figures.components())
         labels.january = january;
     return labels;
 }
 
-// How the labels are set.
-struct Setting {
+struct LabelStyle {
+    enum class Form {
+        Whole,   // "OCT98"
+        Broken,  // "OCT" over "98"
+        Initials // the same of whole years: "J" over "98", "F", "M"
+    };
+    Form form = Form::Whole;
     TextRole role = TextRole::Small;
-    bool initials = false; // "J" over "98", "F", "M"
-    int step = 1;          // slots from one label to the next
+    double gap = .5; // the least between two labels, in em
+    int step = 1;    // slots from one label to the next
+
+    int lines() const { return form == Form::Whole ? 1 : 2; }
 };
 
-double widest(const LayoutInput& input, const Labels& labels, const Setting& setting)
+// The lines of a label; the second is empty where there is none.
+std::array<Text, 2> linesOf(const Text& label, LabelStyle::Form form)
+{
+    if (form == LabelStyle::Form::Whole)
+        return {label, {}};
+    const std::size_t digits = std::min(label.find_first_of(u"0123456789"), label.size());
+    return {label.substr(0, form == LabelStyle::Form::Initials ? 1 : digits), label.substr(digits)};
+}
+
+double widest(const LayoutInput& input, const Labels& labels, const LabelStyle& style)
 {
     double width = 0;
-    for (const Text& text : labels.texts)
-        width =
-            std::max(width, input.metrics.width(setting.initials ? text.substr(0, 1) : text, setting.role));
+    for (const Text& label : labels.texts) {
+        const auto [first, second] = linesOf(label, style.form);
+        width = std::max(width, input.metrics.width(first, style.role));
+        if (style.form == LabelStyle::Form::Broken) // a year below initials has the room of twelve
+            width = std::max(width, input.metrics.width(second, style.role));
+    }
     return width;
 }
 
-// Thinned only where every label fits in no other way.
-Setting settingOfMonths(const LayoutInput& input, const Labels& labels, double slotWidth, double em)
+// The first style in which every label fits; where none does, labels are left out.
+LabelStyle styleOfMonths(const LayoutInput& input, const Labels& labels, double slotWidth, double em)
 {
-    const Setting whole[] = {{TextRole::Small}, {TextRole::Tiny}},
-                  initials[] = {{TextRole::Small, true}, {TextRole::Tiny, true}};
-    const auto fits = [&](const Setting& setting) {
-        const double gap = em * (setting.role == TextRole::Small && !setting.initials ? .5 : .2);
-        return widest(input, labels, setting) + gap <= slotWidth;
-    };
-    for (const Setting& setting : whole)
-        if (fits(setting))
-            return setting;
-    if (labels.january)
-        for (const Setting& setting : initials)
-            if (fits(setting))
-                return setting;
-    const double wanted = widest(input, labels, {}) + em * .5;
+    using Form = LabelStyle::Form;
+    const Form tighter = labels.january ? Form::Initials : Form::Broken;
+    const double gap = labels.january ? .1 : .25;
+    for (const LabelStyle& style :
+         {LabelStyle{}, LabelStyle{Form::Whole, TextRole::Tiny, .25},
+          LabelStyle{tighter, TextRole::Small, gap}, LabelStyle{tighter, TextRole::Tiny, gap}})
+        if (widest(input, labels, style) + em * style.gap <= slotWidth)
+            return style;
+    const double wanted = widest(input, labels, {}) + em * LabelStyle{}.gap;
     for (const int step : {2, 3, 4, 6})
         if (wanted <= slotWidth * step)
             return {.step = step};
@@ -103,19 +121,16 @@ void placeTicks(const LayoutInput& input, Layout& layout, double right)
     layout.zero = layout.snapped(layout.y(0));
 }
 
-// The label in one line, or its initial and the figures of its year in two.
-void placeUpright(const LayoutInput& input, Layout& layout, int slot, const Text& text, double top,
-                  bool strong, const Setting& setting)
+void placeUpright(const LayoutInput& input, Layout& layout, int slot, const Text& label, double top,
+                  bool strong, const LabelStyle& style)
 {
     const double centre = layout.slotBox(slot).centreX();
-    const auto placeLine = [&](Text line, double lineTop) {
-        const double width = input.metrics.width(line, setting.role);
-        layout.labels.push_back(
-            {slot, {{centre - width / 2, lineTop, width, layout.em}, std::move(line)}, strong});
-    };
-    placeLine(setting.initials ? text.substr(0, 1) : text, top);
-    if (setting.initials && holdsDigit(text))
-        placeLine(text.substr(1), top + layout.em);
+    for (const Text& line : linesOf(label, style.form)) {
+        const double width = input.metrics.width(line, style.role);
+        if (!line.empty())
+            layout.labels.push_back({slot, {{centre - width / 2, top, width, layout.em}, line}, strong});
+        top += layout.em;
+    }
 }
 
 void placeSlanted(const LayoutInput& input, Layout& layout, int slot, Text text, double top, double longest)
@@ -127,23 +142,23 @@ void placeSlanted(const LayoutInput& input, Layout& layout, int slot, Text text,
         layout.labels.push_back({slot, {{end - width, top, width, layout.em}, std::move(text)}, true});
 }
 
-void placeLabels(const LayoutInput& input, Layout& layout, const Labels& labels, const Setting& setting,
+void placeLabels(const LayoutInput& input, Layout& layout, const Labels& labels, const LabelStyle& style,
                  double top, double longest)
 {
-    layout.labelRole = setting.role;
+    layout.labelRole = style.role;
     // Beside Januaries the step divides a year: any of them tells which slots are labelled.
-    const int phase = labels.january.value_or(0) % setting.step;
+    const int phase = labels.january.value_or(0) % style.step;
     for (int slot = 0; slot < layout.slotCount; ++slot) {
         const bool january = labels.isJanuary(static_cast<std::size_t>(slot));
         if (january && slot > 0)
             layout.yearRules.push_back(layout.snapped(layout.slotBox(slot).left));
         const Text& text = labels.texts[static_cast<std::size_t>(slot)];
-        if (slot % setting.step != phase || text.empty())
+        if (slot % style.step != phase || text.empty())
             continue;
         if (layout.slanted)
             placeSlanted(input, layout, slot, text, top, longest);
         else
-            placeUpright(input, layout, slot, text, top, !labels.january || january, setting);
+            placeUpright(input, layout, slot, text, top, !labels.january || january, style);
     }
 }
 
@@ -170,18 +185,19 @@ void placeAxes(const LayoutInput& input, Layout& layout, const Box& inner, doubl
     const double longestName = widest(input, labels, {});
     const bool names = input.design.labels == ChartDesign::Labels::Names || input.figures.components();
     layout.slanted = names && longestName + em * .5 > layout.slotWidth;
-    const Setting setting = names ? Setting{.step = stepBetweenNames(layout.slanted, layout.slotWidth, em)}
-                                  : settingOfMonths(input, labels, layout.slotWidth, em);
+    const LabelStyle style = names
+                                 ? LabelStyle{.step = stepBetweenNames(layout.slanted, layout.slotWidth, em)}
+                                 : styleOfMonths(input, labels, layout.slotWidth, em);
     const double longest = layout.paper.height * .22 / slant;
     const double labelHeight =
-        layout.slanted ? std::min(longestName, longest) * slant + em * .5 : em * (setting.initials ? 2 : 1);
+        layout.slanted ? std::min(longestName, longest) * slant + em * .5 : em * style.lines();
     const double belowBars = reach.low < 0 && valuesFit(input, layout) ? em * .75 : 0;
     const double labelTop = inner.bottom() - labelHeight;
 
     layout.plot.top = layout.snapped(top);
     layout.plot.height = std::max(em, layout.snapped(labelTop - em * .5 - belowBars) - layout.plot.top);
     placeTicks(input, layout, ticksEnd);
-    placeLabels(input, layout, labels, setting, layout.plot.bottom() + em * .5 + belowBars, longest);
+    placeLabels(input, layout, labels, style, layout.plot.bottom() + em * .5 + belowBars, longest);
 }
 
 } // namespace plotvue::chart

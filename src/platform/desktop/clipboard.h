@@ -13,10 +13,8 @@ bool clipboardNeedsFocus();
 // Returns when a window of ours has the focus, after a second at most.
 void waitForFocus();
 
-// A line feed without a carriage return before it becomes the pair: many desktops and toolkits hand over bare
-// line feeds. An empty line that ends with a bare line feed becomes a line of one blank: the terminal has
-// left out the trailing blanks of a line that is blank on the host's screen, and the readers skip empty
-// lines. Text with CR LF stays as it is.
+// `text` with CR LF in place of each bare line feed. An empty line that such a line feed ends becomes a
+// blank: many terminals leave out a line's trailing blanks, and the readers skip empty lines.
 Text mendLineEnds(TextView text);
 
 } // namespace plotvue

@@ -31,13 +31,23 @@ void say(TextView sentence)
     std::fprintf(stderr, "PlotVue: %s\n", toUtf8(sentence).c_str());
 }
 
-// The toolkit's messages while it looks for a display. It ends a process that has none by an abort.
-void sayThatNoDisplayIsThere(QtMsgType type, const QMessageLogContext&, const QString&)
+QtMessageHandler usualMessages = nullptr;
+bool displayIsMissing = false;
+
+// The toolkit's messages while it looks for a display; it ends a process that finds none by an abort.
+void noteMissingDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    if (type != QtFatalMsg)
-        return;
-    say(u"there is no display to show its windows on.");
-    std::_Exit(EXIT_FAILURE);
+    if (type == QtFatalMsg) {
+        say(displayIsMissing ? Text(u"there is no display to show windows on.")
+                             : u"no window can be shown: " + toText(message.section(u'\n', 0, 0).trimmed()));
+        std::_Exit(EXIT_FAILURE);
+    }
+    // The plug-ins for X11 and for Wayland say so before that.
+    const bool missing = message.contains(QLatin1String("could not connect to display")) ||
+                         message.contains(QLatin1String("Failed to create wl_display"));
+    displayIsMissing = displayIsMissing || missing;
+    if (!missing && type != QtInfoMsg)
+        usualMessages(type, context, message);
 }
 
 QWidget* windowInFront()
@@ -83,12 +93,12 @@ void showBox(QMessageBox::Icon icon, TextView title, TextView text, const QStrin
 
 } // namespace
 
-std::unique_ptr<QApplication> connectDisplay(int& argc, char** argv)
+std::unique_ptr<QApplication> makeApplication(int& argc, char** argv)
 {
     static FontsAhead fonts; // begins at once, while there is nothing to do but wait for the display
-    const QtMessageHandler usual = qInstallMessageHandler(sayThatNoDisplayIsThere);
+    usualMessages = qInstallMessageHandler(noteMissingDisplay);
     auto application = std::make_unique<QApplication>(argc, argv);
-    qInstallMessageHandler(usual);
+    qInstallMessageHandler(usualMessages);
     fonts.list();
     return application;
 }
@@ -154,18 +164,18 @@ void DesktopPlatform::reportError(TextView sentence)
 
 void DesktopPlatform::spin(int lines)
 {
-    say(u"the copied screen has fewer than 20 lines; it is being waited for without end.");
+    say(u"the copied screen has fewer than 20 lines; PlotVue waits for the rest.");
     stage_.settle();
-    // As a desktop tells of a program that does not answer: the windows behind the box stay painted, and
+    // As a desktop tells of a program that does not answer: the windows under the box stay painted, and
     // nothing that a person does to them is heard any more.
     const QString text =
-        QStringLiteral("PlotVue waits for the rest of the copied screen, which does not come.\n"
-                       "\n"
-                       "The copied text has %1, empty ones left out. "
-                       "A whole screen has 24; at least 20 are needed.\n"
-                       "\n"
-                       "Copy the whole screen, and set the terminal to keep the blanks at the "
-                       "ends of its lines.")
+        QStringLiteral(
+            "PlotVue is waiting for the rest of the copied screen.\n"
+            "\n"
+            "The copied text has %1, not counting empty ones. "
+            "A whole screen has 24; at least 20 are needed.\n"
+            "\n"
+            "Copy the whole screen, and set the terminal to keep the blanks at the ends of its lines.")
             .arg(lines == 1 ? QStringLiteral("1 line") : QStringLiteral("%1 lines").arg(lines));
     showBox(QMessageBox::Warning, {}, toText(text), QStringLiteral("Close PlotVue"));
     std::_Exit(EXIT_FAILURE);

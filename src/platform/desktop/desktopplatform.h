@@ -13,9 +13,9 @@ class QApplication;
 
 namespace plotvue {
 
-// Connects the process with its display, once. Where there is none, that is said on standard error and the
-// process ends with status 1.
-std::unique_ptr<QApplication> connectDisplay(int& argc, char** argv);
+// The application, connected with its display. Where no window can be shown, a sentence says so on standard
+// error and the process ends with status 1.
+std::unique_ptr<QApplication> makeApplication(int& argc, char** argv);
 
 class DesktopPlatform : public Platform {
 public:

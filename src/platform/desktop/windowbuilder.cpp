@@ -6,6 +6,7 @@
 #include "platform/desktop/window.h"
 
 #include <QBoxLayout>
+#include <QFontInfo>
 #include <QGroupBox>
 #include <QLabel>
 #include <QScreen>
@@ -19,6 +20,7 @@ namespace {
 constexpr int margin = 12, gap = 8, columnGap = 14, listRowPadding = 5;
 constexpr int sideColumn = 24;        // width in average characters
 constexpr double headlinePoints = 20; // from here on a label is a name, not a sentence
+constexpr double declaredPoints = 10; // of the letters for which windows are declared
 
 class Builder {
 public:
@@ -221,7 +223,10 @@ Controls buildControls(const Declaration& declaration, Window& window)
     // The layout by itself has a sentence shrink to less than its lines.
     if (layout->hasHeightForWidth())
         window.setMinimumHeight(layout->totalMinimumHeightForWidth(layout->totalMinimumSize().width()));
-    window.resize(QSize(declaration.width, declaration.height).boundedTo(window.screen()->availableSize()));
+    const double larger = qMax(1., window.fontInfo().pointSizeF() / declaredPoints);
+    window.resize((QSizeF(declaration.width, declaration.height) * larger)
+                      .toSize()
+                      .boundedTo(window.screen()->availableSize()));
     if (QWidget* first = firstInUse(controls, window))
         first->setFocus();
     return controls;

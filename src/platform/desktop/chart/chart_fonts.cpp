@@ -7,8 +7,8 @@ namespace plotvue {
 namespace {
 
 // As parts of the window's own size.
-constexpr double tinySize = .75, smallSize = .92, mediumTitleSize = 1.25, largeTitleSize = 1.5;
-constexpr double leastPoints = 7.5; // what is smaller is hard to read; a window's own size may be
+constexpr double smallSize = .92, mediumTitleSize = 1.25, largeTitleSize = 1.5;
+constexpr double minPoints = 7.5; // smaller type is hard to read
 
 QFont resized(const QFont& base, double factor, QFont::Weight weight = QFont::Normal)
 {
@@ -33,18 +33,19 @@ double pointsOf(const QFont& base, int baseDpi)
 }
 
 // By role.
-std::array<QFont, 6> fontsFor(const QFont& base, int baseDpi, double factor)
+std::array<QFont, chart::textRoles> fontsFor(const QFont& base, int baseDpi, double factor)
 {
-    const double least = qMin(1., leastPoints / pointsOf(base, baseDpi));
-    return {resized(base, qMax(tinySize, least) * factor),
-            resized(base, qMax(smallSize, least) * factor),
+    const double tinySize = minPoints / pointsOf(base, baseDpi);
+    return {resized(base, tinySize * factor),
+            resized(base, qMax(smallSize, tinySize) * factor),
             resized(base, factor),
             resized(base, factor, QFont::DemiBold),
             resized(base, mediumTitleSize * factor, QFont::DemiBold),
             resized(base, largeTitleSize * factor, QFont::DemiBold)};
 }
 
-std::array<QFontMetricsF, 6> metricsFor(const std::array<QFont, 6>& fonts, const QPaintDevice& device)
+std::array<QFontMetricsF, chart::textRoles> metricsFor(const std::array<QFont, chart::textRoles>& fonts,
+                                                       const QPaintDevice& device)
 {
     const auto of = [&](std::size_t role) { return QFontMetricsF(fonts[role], &device); };
     return {of(0), of(1), of(2), of(3), of(4), of(5)};

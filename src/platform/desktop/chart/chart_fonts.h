@@ -23,10 +23,8 @@ public:
     double height(chart::TextRole role) const override;
 
 private:
-    static constexpr std::size_t roles = 6;
-
-    std::array<QFont, roles> fonts_; // by role
-    std::array<QFontMetricsF, roles> metrics_;
+    std::array<QFont, chart::textRoles> fonts_; // by role
+    std::array<QFontMetricsF, chart::textRoles> metrics_;
 };
 
 } // namespace plotvue
