@@ -1,6 +1,10 @@
 #include "capture/failure.h"
 
+#include "capture/number.h"
+
+#include <algorithm>
 #include <cmath>
+#include <functional>
 
 namespace plotvue {
 
@@ -18,6 +22,16 @@ Whole toWhole(double value, TextView what)
 }
 
 } // namespace
+
+Text lineName(TextView capture, TextView part)
+{
+    const std::less_equal<const char16_t*> notAfter; // of any two pointers
+    const char16_t* const first = capture.data();
+    if (part.empty() || !notAfter(first, part.data()) || !notAfter(part.data(), first + capture.size()))
+        return {};
+    const auto line = 1 + std::count(first, part.data(), carriageReturn);
+    return u"Line " + plainNumber(static_cast<double>(line)) + u" of the copied text: ";
+}
 
 std::int16_t toInt16(double value, TextView what)
 {

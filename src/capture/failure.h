@@ -12,7 +12,37 @@ namespace plotvue {
 // event that led to it, shown as the platform's error report.
 struct Failure {
     Text sentence; // one sentence for the person at the screen, with its full stop
+    TextView
+        where{}; // the part of the capture that was being read; empty: none. Valid as long as the capture
 };
+
+// Reads a line, or another part of the capture: a failure that does not say where it happens happens there.
+template <typename Read>
+decltype(auto) readLine(TextView part, Read read)
+{
+    try {
+        return read();
+    } catch (Failure& failure) {
+        if (failure.where.empty())
+            failure.where = part;
+        throw;
+    }
+}
+
+// "Line 7 of the copied text: "; empty where `part` is no part of the capture.
+Text lineName(TextView capture, TextView part);
+
+// Reads a capture: the sentence of a failure in it begins with the number of the line, counted from 1, empty
+// lines included, where it is known: "Line 7 of the copied text: ...".
+template <typename Read>
+decltype(auto) readCapture(TextView capture, Read read)
+{
+    try {
+        return read();
+    } catch (const Failure& failure) {
+        throw Failure{lineName(capture, failure.where) + failure.sentence};
+    }
+}
 
 // The line reader has run out of text: it goes on dropping characters that are not there, without end.
 struct EndlessRead {

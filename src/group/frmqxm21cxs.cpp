@@ -43,18 +43,16 @@ Declaration frmQXM21CXS::declare() const
 
 void frmQXM21CXS::drawChart(TextView capture)
 {
+    const int type = chosenType(), group = chosenGroup();
     std::vector<bool> wanted;
     for (int i = 0; i < mostGroups * figuresAGroup; ++i)
-        wanted.push_back(isChosen(i % figuresAGroup) &&
-                         (isChosen(firstGroup + i / figuresAGroup) || isChosen(total)));
-    const GroupScreen screen = readGroups(capture, wanted);
+        wanted.push_back(i % figuresAGroup == type &&
+                         (group == total || group == firstGroup + i / figuresAGroup));
+    const GroupScreen screen = readCapture(capture, [&] { return readGroups(capture, wanted); });
 
     ChartControl& ChartFX1 = view().chart("ChartFX1");
     ChartFX1.SetTitle(2, screen.subject);
-    Text title;
-    for (std::size_t i = 0; i < types.size(); ++i)
-        if (isChosen(static_cast<int>(i)))
-            title = types[i];
+    Text title(types.at(static_cast<std::size_t>(type)));
     title += u" - ";
     title += nameGroups(screen);
 
@@ -78,16 +76,17 @@ void frmQXM21CXS::drawChart(TextView capture)
 TextView frmQXM21CXS::nameGroups(const GroupScreen& screen)
 {
     OptionsControl& optSales = view().options("optSales");
+    const int group = chosenGroup();
     TextView chosen;
     for (int i = 0; i < mostGroups; ++i) {
         const bool there = i < screen.groups;
         const TextView caption = there ? screen.names[static_cast<std::size_t>(i)] : TextView{};
         optSales.setCaption(firstGroup + i, caption);
         optSales.setVisible(firstGroup + i, there);
-        if (optSales.isChosen(firstGroup + i))
+        if (group == firstGroup + i)
             chosen = caption;
     }
-    return optSales.isChosen(total) ? totalName : chosen;
+    return group == total ? totalName : chosen;
 }
 
 void frmQXM21CXS::fillGrid(const std::vector<Text>& labels, const std::vector<double>& values, TextView title)

@@ -16,6 +16,7 @@ protected:
     void drawChart(TextView capture) override;
 
 private:
+    int chosenGroup() const { return view().options("optSales").chosen(1); }
     // Captions of the group options, and the name of the chosen group.
     TextView nameGroups(const GroupScreen& screen);
     void fillGrid(const std::vector<Text>& labels, const std::vector<double>& values, TextView title);

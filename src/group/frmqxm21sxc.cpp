@@ -1,5 +1,7 @@
 #include "group/frmqxm21sxc.h"
 
+#include "capture/failure.h"
+
 #include <algorithm>
 #include <array>
 
@@ -36,19 +38,17 @@ Declaration frmQXM21SXC::declare() const
 
 void frmQXM21SXC::drawChart(TextView capture)
 {
-    const Type* type = types.data();
-    while (!isChosen(static_cast<int>(type - types.data())))
-        ++type;
+    const Type& type = types.at(static_cast<std::size_t>(chosenType()));
     std::vector<bool> wanted;
     for (int i = 0; i < mostGroups * figuresAGroup; ++i)
-        wanted.push_back(i % figuresAGroup == type->place);
-    const GroupScreen screen = readGroups(capture, wanted);
+        wanted.push_back(i % figuresAGroup == type.place);
+    const GroupScreen screen = readCapture(capture, [&] { return readGroups(capture, wanted); });
 
     ChartControl& ChartFX1 = view().chart("ChartFX1");
     ChartFX1.ClearLegends();
     ChartFX1.SetTitle(2, screen.subject);
     if (screen.groups > 0 && !screen.salesmen.empty())
-        ChartFX1.SetTitle(3, type->title);
+        ChartFX1.SetTitle(3, type.title);
 
     const std::size_t slots = screen.salesmen.size() + 1;
     std::vector<std::vector<double>> series(mostGroups, std::vector<double>(slots));
@@ -58,8 +58,7 @@ void frmQXM21SXC::drawChart(TextView capture)
         labels[s] = salesman.label;
         const std::size_t groups = salesman.figures.size() / figuresAGroup;
         for (std::size_t group = 0; group < groups; ++group)
-            series[group][s] =
-                salesman.figures[group * figuresAGroup + static_cast<std::size_t>(type->place)];
+            series[group][s] = salesman.figures[group * figuresAGroup + static_cast<std::size_t>(type.place)];
     }
     ChartArrayData data;
     series.resize(static_cast<std::size_t>(std::clamp(screen.groups, seriesAlwaysCharted, mostGroups)));

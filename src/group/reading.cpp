@@ -19,7 +19,7 @@ TextView nextLine(TextView& rest)
     return line;
 }
 
-int countBehind(TextView line, TextView mark, Position length)
+int countAfter(TextView line, TextView mark, Position length)
 {
     const Position start = find(line, mark) + static_cast<Position>(mark.size());
     return toInt16(leadingNumber(mid(line, start, length)), u"A count on the screen");
@@ -62,15 +62,20 @@ GroupScreen readGroups(TextView capture, const std::vector<bool>& wanted)
     const TextView groupLine = nextLine(rest);
     GroupScreen screen;
     screen.subject = mid(nextLine(rest), 7, 9);
-    screen.groups = countBehind(groupLine, u"GROUPS:", 2);
-    const int salesmen = countBehind(groupLine, u"SCOUNT:", 9);
-    if (salesmen < 0 || salesmen > mostSalesmen)
-        throw Failure{
-            u"The count of salesmen on the screen is outside 0 to 23, which is all that can be charted."};
+    const int salesmen = readLine(groupLine, [&] {
+        screen.groups = countAfter(groupLine, u"GROUPS:", 2);
+        const int count = countAfter(groupLine, u"SCOUNT:", 9);
+        if (count < 0 || count > mostSalesmen)
+            throw Failure{
+                u"The count of salesmen on the screen is outside 0 to 23, which is all that can be charted."};
+        return count;
+    });
     screen.names = namesIn(groupLine, screen.groups);
     const auto figures = static_cast<std::size_t>(std::clamp(screen.groups, 0, mostGroups) * figuresAGroup);
-    for (int i = 0; i < salesmen; ++i)
-        screen.salesmen.push_back(readSalesman(nextLine(rest), figures, wanted));
+    for (int i = 0; i < salesmen; ++i) {
+        const TextView line = nextLine(rest);
+        screen.salesmen.push_back(readLine(line, [&] { return readSalesman(line, figures, wanted); }));
+    }
     return screen;
 }
 

@@ -20,7 +20,7 @@ protected:
     virtual void drawChart(TextView capture) = 0;
     virtual TextView identifier() const = 0;
 
-    bool isChosen(int option) const { return view().options("optSales").isChosen(option); }
+    int chosenType() const { return view().options("optSales").chosen(); }
 
 private:
     void optSales_Click() { RefreshChart(); }

@@ -69,15 +69,21 @@ Text labelOf(const MonthRow& row, int months, int baseYear)
     return Text(mid(row.line, column, 1)) + Text(mid(row.line, column + 3, 2));
 }
 
-void roundAndTurn(std::vector<double>& values)
+double dayOf(TextView capture, Position at)
+{
+    const TextView field = mid(capture, at, 2);
+    return readLine(field, [&] { return leadingNumber(field); });
+}
+
+// Turns an account that is mostly negative.
+void turn(std::vector<double>& values)
 {
     int tally = 0;
-    for (double& value : values) {
-        value = toInt32(value, u"An amount on the screen");
+    for (const double value : values)
         tally += value < 0 ? -1 : value > 0 ? 1 : 0;
-    }
-    for (double& value : values)
-        value = toInt32(tally < 0 ? 0 - value : value, u"An amount on the screen");
+    if (tally < 0)
+        for (double& value : values)
+            value = toInt32(0 - value, u"An amount on the screen");
 }
 
 } // namespace
@@ -105,14 +111,16 @@ Acceptance accept(const MonthlyScreen& screen, TextView capture)
 MonthlyFigures readMonths(const MonthlyScreen& screen, TextView capture, Position identifier, int months,
                           const DataType& type)
 {
-    const double day = screen.day ? leadingNumber(mid(capture, identifier + *screen.day, 2)) : 0;
+    const double day = screen.day ? dayOf(capture, identifier + *screen.day) : 0;
 
     const ScreenLines lines(capture);
     // The year is read as soon as its line is cut, before the reader can run out of text further down.
     int baseYear = 0;
     if (screen.baseYear && lines.count() >= baseYearLine)
-        baseYear = toInt16(leadingNumber(cut(*screen.baseYear, lines, ShortPositions::None)),
+        baseYear = readLine(lines[baseYearLine], [&] {
+            return toInt16(leadingNumber(cut(*screen.baseYear, lines, ShortPositions::None)),
                            u"The first year on the screen");
+        });
     lines.requireAll();
 
     MonthlyFigures figures;
@@ -126,20 +134,23 @@ MonthlyFigures readMonths(const MonthlyScreen& screen, TextView capture, Positio
     for (int month = 1; month <= months; ++month) {
         const auto slot = static_cast<std::size_t>(months - month);
         const MonthRow row = rowOf(screen, lines, month + screen.skippedMonths);
-        figures.labels[slot] = labelOf(row, months, baseYear);
-        if (screen.day && month == 1)
-            part = elapsedPart(daysOfMonth(mid(row.line, row.block.column, 3)), day);
-        for (const Field field : screen.readAlways)
-            row.read(field);
-        const double value = row.value(type.value);
-        figures.values[slot] = value;
-        if (screen.second == SecondSeries::OwnValue)
-            figures.second[slot] = row.value(type.second);
-        else if (screen.second == SecondSeries::Projection && type.projected && month == 1)
-            figures.second[slot] = finite(finite(value / part) - value);
+        readLine(row.line, [&] {
+            figures.labels[slot] = labelOf(row, months, baseYear);
+            if (screen.day && month == 1)
+                part = elapsedPart(daysOfMonth(mid(row.line, row.block.column, 3)), day);
+            for (const Field field : screen.readAlways)
+                row.read(field);
+            const double value = row.value(type.value);
+            figures.values[slot] =
+                screen.amounts == Amounts::WholeTurned ? toInt32(value, u"An amount on the screen") : value;
+            if (screen.second == SecondSeries::OwnValue)
+                figures.second[slot] = row.value(type.second);
+            else if (screen.second == SecondSeries::Projection && type.projected && month == 1)
+                figures.second[slot] = finite(finite(value / part) - value);
+        });
     }
     if (screen.amounts == Amounts::WholeTurned)
-        roundAndTurn(figures.values);
+        turn(figures.values);
 
     figures.subject = compose(screen.subject, lines, screen.shortPositions);
     figures.subject += type.suffix;

@@ -32,7 +32,7 @@ Text compose(const std::vector<Piece>& pieces, const ScreenLines& lines, ShortPo
 {
     Text title;
     for (const Piece& piece : pieces)
-        title += cut(piece, lines, positions);
+        readLine(piece.line ? lines[piece.line] : TextView(), [&] { title += cut(piece, lines, positions); });
     return title;
 }
 

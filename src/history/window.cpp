@@ -1,5 +1,6 @@
 #include "history/window.h"
 
+#include "capture/failure.h"
 #include "history/reading.h"
 
 namespace plotvue {
@@ -37,7 +38,8 @@ void HistoryWindow::RefreshChart()
         return;
 
     const DataType& type = chosenType();
-    const MonthlyFigures figures = readMonths(screen_, capture, acceptance.identifier, chosenMonths(), type);
+    const MonthlyFigures figures = readCapture(
+        capture, [&] { return readMonths(screen_, capture, acceptance.identifier, chosenMonths(), type); });
 
     ChartControl& ChartFX1 = view().chart("ChartFX1");
     if (screen_.second == SecondSeries::OwnValue)
@@ -59,18 +61,13 @@ void HistoryWindow::RefreshChart()
 
 int HistoryWindow::chosenMonths() const
 {
-    int index = 0;
-    while (!view().options("opt12").isChosen(index))
-        ++index;
-    return screen_.periods.at(static_cast<std::size_t>(index)).months;
+    return screen_.periods.at(static_cast<std::size_t>(view().options("opt12").chosen())).months;
 }
 
 const DataType& HistoryWindow::chosenType() const
 {
-    std::size_t index = 0;
-    while (!screen_.typeOrder.empty() && !view().options("optSales").isChosen(static_cast<int>(index)))
-        ++index;
-    return screen_.types.at(index);
+    const int index = screen_.typeOrder.empty() ? 0 : view().options("optSales").chosen();
+    return screen_.types.at(static_cast<std::size_t>(index));
 }
 
 } // namespace plotvue

@@ -13,7 +13,8 @@ namespace plotvue {
 class OptionsControl {
 public:
     virtual ~OptionsControl() = default;
-    virtual bool isChosen(int index) const = 0;
+    // The option chosen in a frame of the group; frames count from 0, in their order on the window.
+    virtual int chosen(int frame = 0) const = 0;
     virtual void setCaption(int index, TextView caption) = 0;
     virtual void setVisible(int index, bool visible) = 0;
 };
@@ -69,8 +70,7 @@ struct ViewState {
 using Handlers = std::map<Name, std::function<void(int)>>;
 
 // A built window begins hidden. Names, option indices, rows and columns that it does not hold are a mistake
-// in the program: whatever is done with them throws std::out_of_range, but an unknown option is just not
-// chosen.
+// in the program: whatever is done with them throws std::out_of_range.
 class View {
 public:
     virtual ~View() = default;

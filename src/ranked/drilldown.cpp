@@ -52,9 +52,7 @@ Handlers DrillDownWindow::handlers()
 
 void DrillDownWindow::drawChart()
 {
-    int type = 0;
-    while (!design_.types.empty() && !view().options("optSales").isChosen(type))
-        ++type;
+    const int type = design_.types.empty() ? 0 : view().options("optSales").chosen();
     ListFile list(design_.analysis);
     drawn_ = list.find(readChosenRow(design_.analysis), design_.mostRecordsToDraw);
     design_.draw(view(), drawn_, type);

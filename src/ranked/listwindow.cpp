@@ -41,7 +41,7 @@ Handlers RankedListWindow::handlers()
 void RankedListWindow::Form_Load()
 {
     capture_ = RecordReader(scratchFile).text();
-    reading_ = readRanked(analysis_, capture_);
+    reading_ = readCapture(capture_, [this] { return readRanked(analysis_, capture_); });
     if (!reading_.accepted)
         return cmdExit_Click();
     for (const auto& [control, text] : analysis_.summary)

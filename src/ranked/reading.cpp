@@ -4,8 +4,6 @@
 #include "capture/lines.h"
 #include "capture/number.h"
 
-#include <utility>
-
 namespace plotvue {
 
 namespace {
@@ -60,6 +58,13 @@ void scan(const Marker& marker, TextView line, RankedReading& reading)
         marker.then(reading, line);
 }
 
+std::size_t slotOf(int rank)
+{
+    if (rank < 1 || rank > mostRanks)
+        throw Failure{u"A rank on the screen is outside 1 to 100, which is all that can be listed."};
+    return static_cast<std::size_t>(rank) - 1;
+}
+
 bool belongs(const Entry& entry, RankedGrid::Holds holds)
 {
     return holds == RankedGrid::Holds::All ||
@@ -83,14 +88,12 @@ bool stands(const Entry& entry, const Key& key, TextView line)
 
 Entry& RankedReading::entry(int rank)
 {
-    return const_cast<Entry&>(std::as_const(*this).entry(rank));
+    return entries_[slotOf(rank)];
 }
 
 const Entry& RankedReading::entry(int rank) const
 {
-    if (rank < 1 || rank > mostRanks)
-        throw Failure{u"A rank on the screen is outside 1 to 100, which is all that can be listed."};
-    return entries_[static_cast<std::size_t>(rank) - 1];
+    return entries_[slotOf(rank)];
 }
 
 TextView RankedReading::line(int number) const
@@ -108,8 +111,10 @@ RankedReading readRanked(const RankedAnalysis& analysis, TextView capture)
     reading.page[0] = analysis.pageAtStart;
     reading.lines = cutLines(capture, analysis.mostLines);
     for (const TextView line : reading.lines)
-        for (const Marker& marker : analysis.markers)
-            scan(marker, line, reading);
+        readLine(line, [&] {
+            for (const Marker& marker : analysis.markers)
+                scan(marker, line, reading);
+        });
     return reading;
 }
 

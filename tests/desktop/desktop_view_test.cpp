@@ -166,8 +166,9 @@ TEST_F(DesktopViewTest, ArrowsMoveAndChooseWithinTheFrame)
     find<QRadioButton>("A && B").setFocus();
     type(find<QRadioButton>("A && B"), Qt::Key_Down);
     EXPECT_THAT(ran, ElementsAre("opt 6"));
-    EXPECT_TRUE(view->options("opt").isChosen(6));
-    EXPECT_FALSE(view->options("opt").isChosen(5));
+    EXPECT_EQ(view->options("opt").chosen(1), 6);
+    EXPECT_EQ(view->options("opt").chosen(), 0);
+    EXPECT_THROW(view->options("opt").chosen(2), std::out_of_range);
 }
 
 TEST_F(DesktopViewTest, TabReachesAFrameWhoseChosenOptionIsHidden)

@@ -65,7 +65,6 @@ HARMLESS = {
         r"return value\[ > -> >= \]0\.5": "a half is no whole number",
         r"std::round\(value\)\)\[ < -> <= \]1e-6|least \* \(1 - tolerance|high - low\[ < -> <= \]unit \* tolerance": TOLERANCE,
         r"\(value.*\[ < -> <= \]0 \? down : up\) \+= value": ZERO,
-        r"const bool up = value\[ > -> >= \]0": "a figure of zero was left out before",
         r"int slot = 0; slot\[ < -> <= \](input\.figures\.slotCount\(\)|layout\.pointCount|figures\.pointCount)": NOTHING_THERE,
     },
     r"app/recognition": {

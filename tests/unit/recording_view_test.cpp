@@ -64,8 +64,9 @@ TEST(RecordingViews, HaveOneChosenOptionAFrame)
     EXPECT_THAT(chosen(), ElementsAre(0, 2));
     view.choose("optA", 1);
     EXPECT_THAT(chosen(), ElementsAre(1, 2));
-    EXPECT_TRUE(view.options("optA").isChosen(1));
-    EXPECT_FALSE(view.options("optA").isChosen(0));
+    EXPECT_EQ(view.options("optA").chosen(), 1);
+    EXPECT_EQ(view.options("optA").chosen(1), 2);
+    EXPECT_THROW(view.options("optA").chosen(2), std::out_of_range);
 }
 
 TEST(RecordingViews, KeepOptionsInTheirPlaces)

@@ -5,6 +5,7 @@
 #include "history/reading.h"
 #include "history/screens.h"
 #include "support/capturebuilder.h"
+#include "support/session.h"
 
 #include <gtest/gtest.h>
 
@@ -60,6 +61,73 @@ TEST(Sentences, OfTextThatIsTooLong)
               u"The copied text is too large to be worked with.");
     EXPECT_EQ(said([] { recognise(u"QXM12P2" + farDown + u"0"); }),
               u"The copied text is too large to be worked with.");
+}
+
+// The error report after the start with this capture.
+std::string reported(TextView capture)
+{
+    test::Session session;
+    session.start(capture);
+    const std::vector<std::string> events = session.events();
+    return events.empty() ? "" : events.back();
+}
+
+// The sample with a line, counted from 1, in the place of its own.
+Text sampleWith(std::string_view name, std::size_t line, TextView text)
+{
+    Text capture = test::sample(name);
+    std::size_t from = 0;
+    for (std::size_t i = 1; i < line; ++i)
+        from = capture.find(u'\n', from) + 1;
+    return capture.replace(from, capture.find(u'\r', from) - from, text);
+}
+
+TEST(Sentences, NameTheLineOfTheCopiedText)
+{
+    EXPECT_EQ(reported(sampleWith("product", 9, u"JUL99         1 9E999")),
+              "error Line 9 of the copied text: A figure on the screen is too large to be worked with.");
+    EXPECT_EQ(
+        reported(sampleWith("glhistory", 4, u"ACTIVITY FROM 01/99999")),
+        "error Line 4 of the copied text: The first year on the screen is too large to be worked with.");
+    EXPECT_EQ(
+        reported(sampleWith("monthtomonth", 6, u"RANK:101")),
+        "error Line 6 of the copied text: A rank on the screen is outside 1 to 100, which is all that can be "
+        "listed.");
+    EXPECT_EQ(reported(sampleWith("salesmencategories", 2, u"GROUPS:01 SCOUNT:24")),
+              "error Line 2 of the copied text: The count of salesmen on the screen is outside 0 to 23, "
+              "which is all "
+              "that can be charted.");
+    EXPECT_EQ(reported(sampleWith("salesmencategories", 5, u"0115 9E999;")),
+              "error Line 5 of the copied text: A figure on the screen is too large to be worked with.");
+}
+
+TEST(Sentences, CountEmptyLinesToo)
+{
+    EXPECT_EQ(reported(u"QXM21SXC\r\n\r\n\r\nGROUPS:01 SCOUNT:24\r\n"),
+              "error Line 4 of the copied text: The count of salesmen on the screen is outside 0 to 23, "
+              "which is all "
+              "that can be charted.");
+}
+
+TEST(Sentences, NameNoLineWhereNoneIsToBlame)
+{
+    const Text capture = u"A\r\nB\r\n";
+    EXPECT_EQ(lineName(capture, TextView(capture).substr(3)), u"Line 2 of the copied text: ");
+    EXPECT_EQ(lineName(capture, u"B"), u"") << "no part of it";
+    EXPECT_EQ(lineName(capture, {}), u"");
+    EXPECT_EQ(said([&] { readCapture(capture, [] { throw Failure{u"It is so."}; }); }), u"It is so.");
+}
+
+TEST(Sentences, NameTheInnermostLine)
+{
+    const Text capture = u"A\r\nB\r\n";
+    const TextView text = capture;
+    EXPECT_EQ(said([&] {
+                  readCapture(text, [&] {
+                      readLine(text, [&] { readLine(text.substr(3), [] { throw Failure{u"It is so."}; }); });
+                  });
+              }),
+              u"Line 2 of the copied text: It is so.");
 }
 
 } // namespace

@@ -36,6 +36,7 @@ QGroupBox* DesktopOptions::addFrame(const OptionFrame& declared, Window& window)
     auto* frame = new QGroupBox(withoutMnemonic(shownOnOneLine(declared.caption)), &window);
     if (declared.caption.empty())
         frame->setAccessibleName(toQString(declared.spokenName));
+    frames_.push_back(frame);
     auto* layout = new QVBoxLayout(frame);
     for (const plotvue::Option& option : declared.options) {
         auto* button = new OptionButton(frame);
@@ -62,11 +63,13 @@ QRadioButton& DesktopOptions::button(int index) const
     return *at->button;
 }
 
-bool DesktopOptions::isChosen(int index) const
+int DesktopOptions::chosen(int frame) const
 {
-    return std::any_of(options_.begin(), options_.end(), [&](const Option& option) {
-        return option.index == index && option.button->isChecked();
-    });
+    const QWidget* const wanted = frames_.at(static_cast<std::size_t>(frame));
+    for (const Option& option : options_)
+        if (option.button->parentWidget() == wanted && option.button->isChecked())
+            return option.index;
+    throw std::out_of_range("no option is chosen");
 }
 
 void DesktopOptions::setCaption(int index, TextView caption)

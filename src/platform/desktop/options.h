@@ -17,7 +17,7 @@ class DesktopOptions : public OptionsControl {
 public:
     QGroupBox* addFrame(const OptionFrame& declared, Window& window);
 
-    bool isChosen(int index) const override;
+    int chosen(int frame) const override;
     void setCaption(int index, TextView caption) override;
     void setVisible(int index, bool visible) override;
 
@@ -32,7 +32,8 @@ private:
 
     QRadioButton& button(int index) const;
 
-    std::vector<Option> options_; // as they stand on the window
+    std::vector<QGroupBox*> frames_;
+    std::vector<Option> options_; // in their order on the window
 };
 
 } // namespace plotvue

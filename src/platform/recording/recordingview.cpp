@@ -22,9 +22,12 @@ void RecordingOptions::choose(int index)
     state_.chosen.insert(std::upper_bound(state_.chosen.begin(), state_.chosen.end(), index), index);
 }
 
-bool RecordingOptions::isChosen(int index) const
+int RecordingOptions::chosen(int frame) const
 {
-    return std::find(state_.chosen.begin(), state_.chosen.end(), index) != state_.chosen.end();
+    for (const int index : state_.chosen)
+        if (frameOf_.at(index) == frame)
+            return index;
+    throw std::out_of_range("no such frame");
 }
 
 OptionState& RecordingOptions::option(int index)

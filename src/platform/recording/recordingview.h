@@ -12,7 +12,7 @@ public:
     void addFrame(const OptionFrame& frame);
     void choose(int index); // the other options of its frame are no longer chosen
 
-    bool isChosen(int index) const override;
+    int chosen(int frame) const override;
     void setCaption(int index, TextView caption) override;
     void setVisible(int index, bool visible) override;
 

@@ -8,11 +8,14 @@ namespace {
 
 constexpr double enoughContrast = 3;
 
+// sRGB's transfer function, IEC 61966-2-1.
 double linear(double channel)
 {
     return channel <= .04045 ? channel / 12.92 : std::pow((channel + .055) / 1.055, 2.4);
 }
 
+// Relative luminance and contrast ratio (1 to 21) as the Web Content Accessibility Guidelines 2.1 define
+// them; they ask for 3 of graphics.
 double luminance(const QColor& colour)
 {
     return .2126 * linear(colour.redF()) + .7152 * linear(colour.greenF()) + .0722 * linear(colour.blueF());
