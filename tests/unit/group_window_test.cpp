@@ -85,9 +85,9 @@ TEST_P(GroupWindows, TwentyThreeSalesmenAreTheMost)
     EXPECT_EQ(session.chart(window).labels[22], u"02_23");
     session.copy(screen(4, 24).text());
     session.press(window, "cmdRefresh");
-    EXPECT_EQ(session.events(),
-              Events{"error The count of salesmen on the screen is outside 0 to 23, which is "
-                     "all that can be charted."});
+    EXPECT_EQ(session.events(), Events{"error Line 2 of the copied text: The count of salesmen on the screen "
+                                       "is outside 0 to 23, which is "
+                                       "all that can be charted."});
 }
 
 TEST_P(GroupWindows, ACountBelowZeroOrBeyondTheTypeIsARunTimeError)

@@ -119,7 +119,8 @@ TEST(PastdueList, WhatIsPastDueBeyondADoubleIsARunTimeError)
     Session session;
     session.start(hostScreen({pastdueTitle, pastdueMonths, u"RANK:  1     10442",
                               ageing(u"OCT99", {u"-1.7E308", u"1.7E308", u"1.7E308"})}));
-    EXPECT_EQ(session.events().back(), "error A figure worked out from the screen is too large.");
+    EXPECT_EQ(session.events().back(),
+              "error Line 4 of the copied text: A figure worked out from the screen is too large.");
 }
 
 TEST(PastdueList, WordsAndBlanksWhereAmountsShouldBeCountNothing)

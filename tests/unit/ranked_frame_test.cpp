@@ -167,8 +167,9 @@ TEST_F(RankedFrame, ARankOutsideTheTableIsARunTimeError)
         MonthToMonthScreen screen = gains(2);
         broken.start(screen.put(ProfitScreen::lineOf(2), 6, rank).text());
         const Events events = broken.events();
-        EXPECT_EQ(events.back(),
-                  "error A rank on the screen is outside 1 to 100, which is all that can be listed.")
+        EXPECT_EQ(events.back(), "error Line 10 of the copied text: A rank on the screen is outside 1 to "
+                                 "100, which is all that can "
+                                 "be listed.")
             << toUtf8(rank);
         EXPECT_TRUE(broken.platform.over());
     }

@@ -87,7 +87,7 @@ TEST(Sentences, NameTheLineOfTheCopiedText)
     EXPECT_EQ(reported(sampleWith("product", 9, u"JUL99         1 9E999")),
               "error Line 9 of the copied text: A figure on the screen is too large to be worked with.");
     EXPECT_EQ(
-        reported(sampleWith("glhistory", 4, u"ACTIVITY FROM 01/99999")),
+        reported(sampleWith("glhistory", 4, u"ACTIVITY FROM 01/9E99")),
         "error Line 4 of the copied text: The first year on the screen is too large to be worked with.");
     EXPECT_EQ(
         reported(sampleWith("monthtomonth", 6, u"RANK:101")),
