@@ -24,7 +24,7 @@ namespace {
 TextView componentLine(const Record& record)
 {
     TextView found = record[2];
-    for (std::size_t field = 2; field < record.size(); ++field)
+    for (std::size_t field = 3; field < record.size(); ++field)
         if (holds(record[field], u"GAIN:") || holds(record[field], u"P:"))
             found = record[field];
     return found;

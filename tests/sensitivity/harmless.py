@@ -29,13 +29,13 @@ HARMLESS = {
         r"0x7F -> 126|0xD800\) <<|0x10000\) &|- -> \+ \]0x(D800|10000)": "the bit that differs is cut off",
     },
     r"history/reading": {
-        r"\? leadingNumber.* : \[0": "the day of a screen that has none is not used",
+        r"\? dayOf.* : \[0": "the day of a screen that has none is not used",
         r"double part = \[|int baseYear = \[": NOT_USED,
         r"baseYearLine = \[4 -> 3": "a fourth line that is not there has no year, and the reader runs out at once",
         r"\[ \* -> / \]block\.step": "a month is one row up or one row down",
     },
     r"window\.cpp|drilldown": {
-        r"int (index|type) = \[0 -> -1\]": "no option has the index -1: the next one asked for is 0",
+        r"types\.empty\(\) \? \[0": "what draws a chart without types does not look at it",
     },
     r"(history|group|ranked|app)/": {
         r"Space\{\}, \[|grid\.box, \[|, 1\}\}, \[|ChartBox.*\}, \[|^\[\d -> \d\][})],?|\.(width|height|stretch) = \[": ROOM,
@@ -50,6 +50,7 @@ HARMLESS = {
         r"descriptor|written|count|buffer\[|done|good": SYSTEM_CALL,
     },
     r"ranked/": {
+        r"field = \[3 -> 2\]": "without a mark the second line is taken all the same",
         r"mostRecordsToDraw = \[1000": "a record that is drawn was among the first 500 when it was stepped to",
         r"searchedLines = \[1000 -> 1001": NOTHING_MORE,
         r" <-> .*(PageText|salesLineMarker|labelMarker|totalsMarker)": OTHER_THINGS,
