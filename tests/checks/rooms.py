@@ -1,4 +1,5 @@
-"""Which room of src/ may include which: an include the other way, or the toolkit outside its room, is a fault."""
+"""Which room of src/ may include which: an include the other way, the toolkit outside its room, or what belongs to one
+operating system outside the files named for it, is a fault."""
 
 import re
 import sys
@@ -27,6 +28,10 @@ TOOLKIT = re.compile(r"(Qt?[A-Z]\w*(/.*)?|qt?[a-z0-9_]+\.h|cups/.*|fontconfig/.*
 TOOLKIT_ROOMS = ("src/platform/desktop/", "src/main.cpp", "tests/desktop/", "tests/replay/desktop",
                  "tests/faults/owner.cpp", "bench/")
 
+SYSTEM = re.compile(r"(unistd|fcntl|windows|winspool|aclapi)\.h$|sys/")
+OF_ONE_SYSTEM = re.compile(r"_(unix|windows)\.cpp$")
+CONDITION = re.compile(r"^\s*#\s*(if|elif).*(_WIN|__unix|__linux|__APPLE|Q_OS_)", re.MULTILINE)
+
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 
 
@@ -45,7 +50,11 @@ def faults():
             if room is not None and room not in MAY_INCLUDE:
                 yield f"{path}: tests/checks/rooms.py does not know the room {room}"
                 continue
+            if CONDITION.search(path.read_text(encoding="utf-8")):
+                yield f"{path}: what an operating system does otherwise has a file of its own, …_unix.cpp, …_windows.cpp"
             for where, bracket, name in includes(path):
+                if room is not None and SYSTEM.match(name) and not OF_ONE_SYSTEM.search(path.name):
+                    yield f"{where}: {name} belongs to one operating system"
                 if TOOLKIT.match(name) and not str(path).startswith(TOOLKIT_ROOMS):
                     yield f"{where}: the toolkit, {name}, is not for this room"
                 if room is not None and bracket == '"':

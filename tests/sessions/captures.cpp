@@ -1,5 +1,7 @@
 #include "sessions/captures.h"
 
+#include "sessions/process.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -163,7 +165,7 @@ const std::vector<Capture>& wholeCaptures()
                 continue;
             std::ostringstream bytes;
             bytes << std::ifstream(entry.path(), std::ios::binary).rdbuf();
-            found.push_back({entry.path().stem(), bytes.str()});
+            found.push_back({entry.path().stem().string(), bytes.str()});
         }
         std::sort(found.begin(), found.end(),
                   [](const auto& one, const auto& other) { return one.name < other.name; });
@@ -184,7 +186,7 @@ std::string damaged(Random& random, const std::string& capture)
         if (lines.empty())
             lines.emplace_back();
     }
-    return withLineEndsMended(join(lines));
+    return withLineEndsMended(asClipboardHolds(join(lines)));
 }
 
 } // namespace plotvue::sessions

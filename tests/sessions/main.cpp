@@ -1,5 +1,6 @@
 // Random sessions and the soak, in the working directory, which should be an empty one. See the scripts run
 // and soak.
+#include "sessions/process.h"
 #include "sessions/walk.h"
 
 #include <cstdlib>
@@ -7,16 +8,12 @@
 #include <fstream>
 #include <iomanip>
 #include <iostream>
-#include <iterator>
-#include <unistd.h>
 
 namespace plotvue::sessions {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr unsigned patience = 100; // seconds for a session; then the alarm ends the process
 
 void prepare()
 {
@@ -57,7 +54,7 @@ void playAgain(const std::string& printed)
 // Returns how it ended.
 std::string session(std::uint32_t seed, std::uint32_t number, int steps, bool both)
 {
-    alarm(patience);
+    stillAlive();
     std::ofstream script("../script");
     script << "# session " << number << " of seed " << seed << std::endl;
     const auto stage = replay::recordingStage();
@@ -89,23 +86,6 @@ int sessions(std::uint32_t seed, std::uint32_t first, std::uint32_t last, std::u
     for (const auto& [end, count] : ends)
         std::cout << count << ' ' << end << '\n';
     return status;
-}
-
-struct Held {
-    double megabytes;
-    long descriptors;
-};
-
-Held held()
-{
-    std::ifstream status("/proc/self/status");
-    std::string word;
-    double kilobytes = 0;
-    while (status >> word && word != "VmRSS:") {
-    }
-    status >> kilobytes;
-    return {kilobytes / 1024,
-            std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator())};
 }
 
 // Many actions in one session on the real widgets. What counts is the growth from a fifth of the way on to

@@ -1,10 +1,10 @@
 // What must hold, whatever is copied and clicked.
 #include "capture/utf8.h"
 #include "sessions/walk.h"
+#include "support/owneronly.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <sys/stat.h>
 
 namespace plotvue::sessions {
 
@@ -41,11 +41,11 @@ void takeFiles(const std::string& directory)
 {
     static const std::set<std::string> names{"pvuscrn.txt", "plotvue.txt", "plotvue1.txt"};
     for (const auto& entry : std::filesystem::directory_iterator(directory)) {
-        const std::string name = entry.path().filename();
-        struct stat found {};
-        lstat(entry.path().c_str(), &found);
-        if (!names.contains(name) || found.st_mode != (S_IFREG | S_IRUSR | S_IWUSR))
-            throw Wrong("in the working directory is " + name + ", mode " + std::to_string(found.st_mode));
+        const std::string name = entry.path().filename().string();
+        if (!names.contains(name))
+            throw Wrong("in the working directory is " + name);
+        if (!test::ownerOnly(entry.path().string()))
+            throw Wrong(name + " is no plain file for its owner only");
         std::filesystem::remove(entry.path());
     }
 }

@@ -4,9 +4,9 @@
 
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <sstream>
 #include <stdexcept>
-#include <stdlib.h>
 #include <utility>
 
 namespace plotvue::test {
@@ -45,11 +45,11 @@ std::string sentence(const Event& event)
 
 Session::Session() : app(platform)
 {
-    before_ = fs::current_path();
-    std::string pattern = fs::temp_directory_path() / "plotvue-test-XXXXXX";
-    if (!mkdtemp(pattern.data()))
-        throw std::runtime_error("cannot make a directory");
-    directory_ = pattern;
+    before_ = fs::current_path().string();
+    static std::random_device numbers; // many sessions, and several runs at once
+    do
+        directory_ = (fs::temp_directory_path() / ("plotvue-test-" + std::to_string(numbers()))).string();
+    while (!fs::create_directory(directory_));
     fs::current_path(directory_);
     platform.listener = [this](const Event& event) { events_.push_back(sentence(event)); };
 }

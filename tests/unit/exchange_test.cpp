@@ -2,12 +2,9 @@
 #include "ranked/exchange.h"
 #include "support/session.h"
 
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <sys/stat.h>
 
 namespace plotvue {
 namespace {
@@ -18,15 +15,6 @@ class Exchange : public testing::Test {
 protected:
     test::Session session; // for its directory
 };
-
-constexpr mode_t rights = 0777;
-
-mode_t rightsOf(const char* file)
-{
-    struct stat status {};
-    EXPECT_EQ(stat(file, &status), 0);
-    return status.st_mode & rights;
-}
 
 TEST_F(Exchange, TextsStandInQuotesAndNumbersBare)
 {
@@ -78,22 +66,6 @@ TEST_F(Exchange, NoRecordsAreAnEmptyFile)
     EXPECT_EQ(session.file("plotvue.txt"), "");
 }
 
-TEST_F(Exchange, OnlyTheOwnerReadsAFile)
-{
-    const mode_t before = umask(0);
-    RecordWriter().number(1).endRecord().writeTo(listFile);
-    umask(before);
-    EXPECT_EQ(rightsOf(listFile), 0600u);
-}
-
-TEST_F(Exchange, AFileThatWasOpenToOthersIsClosedToThem)
-{
-    std::ofstream(listFile) << "old";
-    ASSERT_EQ(chmod(listFile, 0644), 0);
-    RecordWriter().number(1).endRecord().writeTo(listFile);
-    EXPECT_EQ(rightsOf(listFile), 0600u);
-}
-
 TEST_F(Exchange, AFileThatCannotBeCreatedIsARunTimeError)
 {
     fs::create_directory(listFile);
@@ -104,24 +76,6 @@ TEST_F(Exchange, AFileThatCannotBeCreatedIsARunTimeError)
         EXPECT_TRUE(holds(failure.sentence, u"plotvue.txt"));
         EXPECT_TRUE(failure.sentence.ends_with(u"."));
     }
-}
-
-TEST_F(Exchange, AFileThatCannotBeWrittenIsARunTimeError)
-{
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit few{10, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &few);
-    bool failed = false;
-    try {
-        RecordWriter().text(Text(1000, u'A')).endRecord().writeTo(listFile);
-    } catch (const Failure&) {
-        failed = true;
-    }
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
-    EXPECT_TRUE(failed);
 }
 
 } // namespace

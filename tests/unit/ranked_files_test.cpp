@@ -1,68 +1,12 @@
 // The files between a list and its drill-down window, and what happens when they are not there.
-#include "profit_fixture.h"
+#include "ranked_files_fixture.h"
 
-#include <cstdlib>
-#include <fcntl.h>
-#include <filesystem>
 #include <fstream>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace plotvue::test {
 namespace {
 
 namespace fs = std::filesystem;
-
-class RankedFiles : public testing::Test {
-protected:
-    Session session;
-
-    MonthToMonthScreen threeEntries()
-    {
-        MonthToMonthScreen screen;
-        screen.add(1, u"30", u"20", u"10").add(2, u"-5").add(3, u"10");
-        return screen;
-    }
-
-    // Five lines of an entry as the screen has them, each with its carriage return, as fields of a record.
-    static std::string fields(const CaptureBuilder& capture, int number)
-    {
-        const Text text = capture.text(u"\r");
-        std::size_t start = 0;
-        for (std::size_t line = 1; line < ProfitScreen::lineOf(number); ++line)
-            start = text.find(u'\r', start) + 1;
-        std::string result;
-        for (int i = 0; i < linesAnEntry; ++i) {
-            const std::size_t end = text.find(u'\r', start) + 1;
-            result += ",\"" + toUtf8(text.substr(start, end - start)) + "\"";
-            start = end;
-        }
-        return result;
-    }
-
-    void blockFile(const char* name)
-    {
-        fs::remove(name);
-        fs::create_directory(name);
-    }
-
-    void openFirst()
-    {
-        session.start(threeEntries().text());
-        session.clickRow(m2m, gainsGrid, 1);
-        session.events();
-    }
-
-    void expectError(const std::string& file, const std::string& what)
-    {
-        const Events events = session.events();
-        ASSERT_EQ(events.size(), 1u);
-        const std::string begin = "error The file " + file + " in the working directory " + what;
-        EXPECT_TRUE(events[0].starts_with(begin)) << events[0];
-        EXPECT_TRUE(events[0].ends_with(".")) << events[0];
-        EXPECT_TRUE(session.platform.over());
-    }
-};
 
 TEST_F(RankedFiles, ARecordIsTheLabelsAndFiveLines)
 {
@@ -165,49 +109,6 @@ TEST_F(RankedFiles, AnExchangeFileThatCannotBeWrittenEndsTheClick)
         ASSERT_EQ(events.size(), 1u) << file;
         EXPECT_TRUE(events[0].starts_with("error The file " + std::string(file) + " ")) << events[0];
     }
-}
-
-TEST_F(RankedFiles, APipeIsNotWaitedFor)
-{
-    session.start(threeEntries().text());
-    session.events();
-    mkfifo("plotvue.txt", S_IRUSR | S_IWUSR);
-    session.clickRow(m2m, gainsGrid, 1); // nobody reads it
-    expectError("plotvue.txt", "cannot be created");
-
-    fs::remove("plotvue.txt");
-    Session other;
-    other.start(threeEntries().text());
-    other.clickRow(m2m, gainsGrid, 1);
-    other.events();
-    fs::remove("plotvue.txt");
-    mkfifo("plotvue.txt", S_IRUSR | S_IWUSR);
-    other.press(m2mA, "cmdBack"); // nobody writes it
-    EXPECT_EQ(other.events(), Events{"error The file plotvue.txt in the working directory ends too early."});
-}
-
-TEST_F(RankedFiles, ADeviceThatALinkLeadsToKeepsItsRights)
-{
-    const int terminal = posix_openpt(O_RDWR | O_NOCTTY);
-    ASSERT_GE(terminal, 0);
-    ASSERT_EQ(grantpt(terminal) + unlockpt(terminal), 0);
-    const std::string name = ptsname(terminal);
-    constexpr fs::perms rights = fs::perms::owner_read | fs::perms::owner_write | fs::perms::others_read;
-    fs::permissions(name, rights);
-    session.start(threeEntries().text());
-    fs::create_symlink(name, "plotvue.txt");
-    session.clickRow(m2m, gainsGrid, 1);
-    EXPECT_EQ(fs::status(name).permissions(), rights);
-    close(terminal);
-}
-
-TEST_F(RankedFiles, ADeviceThatNeverEndsIsNotRead)
-{
-    openFirst();
-    fs::remove("plotvue.txt");
-    fs::create_symlink("/dev/zero", "plotvue.txt");
-    session.press(m2mA, "cmdBack");
-    expectError("plotvue.txt", "cannot be read");
 }
 
 TEST_F(RankedFiles, WithoutTheListTheTypeCannotBeChanged)

@@ -7,7 +7,6 @@
 #include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 namespace plotvue {
 namespace {
@@ -303,15 +302,6 @@ TEST(ScratchFile, HoldsTheLastCaptureOnly)
     std::ofstream("pvuscrn.txt") << std::string(1000, 'x');
     session.start(u"FINANCIAL RATIO");
     EXPECT_EQ(session.file("pvuscrn.txt"), "\"FINANCIAL RATIO\"\r\n");
-}
-
-TEST(ScratchFile, IsReadableByItsOwnerOnly)
-{
-    Session session;
-    session.start(u"FINANCIAL RATIO");
-    struct stat status {};
-    ASSERT_EQ(stat("pvuscrn.txt", &status), 0);
-    EXPECT_EQ(status.st_mode & 0777u, 0600u);
 }
 
 TEST(ScratchFile, NoOtherScreenTouchesIt)

@@ -1,10 +1,10 @@
 #include "platform/desktop/desktopplatform.h"
 
-#include "capture/utf8.h"
 #include "platform/desktop/assistive.h"
 #include "platform/desktop/clipboard.h"
 #include "platform/desktop/desktopview.h"
 #include "platform/desktop/fontsahead.h"
+#include "platform/desktop/process.h"
 #include "platform/desktop/shown.h"
 #include "platform/desktop/window.h"
 
@@ -26,11 +26,6 @@ namespace {
 
 constexpr int longestLine = 120; // in average characters
 
-void say(TextView sentence)
-{
-    std::fprintf(stderr, "PlotVue: %s\n", toUtf8(sentence).c_str());
-}
-
 QtMessageHandler usualMessages = nullptr;
 bool displayIsMissing = false;
 
@@ -38,9 +33,10 @@ bool displayIsMissing = false;
 void noteMissingDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     if (type == QtFatalMsg) {
-        say(displayIsMissing ? Text(u"there is no display to show windows on.")
-                             : u"no window can be shown: " + toText(message.section(u'\n', 0, 0).trimmed()));
-        std::_Exit(EXIT_FAILURE);
+        sayToTerminal(displayIsMissing
+                          ? Text(u"there is no display to show windows on.")
+                          : u"no window can be shown: " + toText(message.section(u'\n', 0, 0).trimmed()));
+        endProcess(EXIT_FAILURE);
     }
     // The plug-ins for X11 and for Wayland say so before that.
     const bool missing = message.contains(QLatin1String("could not connect to display")) ||
@@ -156,15 +152,15 @@ void DesktopPlatform::showMessage(TextView title, TextView text)
 
 void DesktopPlatform::reportError(TextView sentence)
 {
-    say(sentence);
+    sayToTerminal(sentence);
     stage_.settle();
     showBox(QMessageBox::Critical, {}, sentence, QMessageBox::tr("OK"));
-    std::_Exit(EXIT_FAILURE);
+    endProcess(EXIT_FAILURE);
 }
 
 void DesktopPlatform::spin(int lines)
 {
-    say(u"the copied screen has fewer than 20 lines; PlotVue waits for the rest.");
+    sayToTerminal(u"the copied screen has fewer than 20 lines; PlotVue waits for the rest.");
     stage_.settle();
     // As a desktop tells of a program that does not answer: the windows under the box stay painted, and
     // nothing that a person does to them is heard any more.
@@ -178,17 +174,16 @@ void DesktopPlatform::spin(int lines)
             "Copy the whole screen, and set the terminal to keep the blanks at the ends of its lines.")
             .arg(lines == 1 ? QStringLiteral("1 line") : QStringLiteral("%1 lines").arg(lines));
     showBox(QMessageBox::Warning, {}, toText(text), QStringLiteral("Close PlotVue"));
-    std::_Exit(EXIT_FAILURE);
+    endProcess(EXIT_FAILURE);
 }
 
 void DesktopPlatform::finish()
 {
-    // At once: taking the toolkit down in good order would only keep the person waiting.
     const QWidgetList all = QApplication::topLevelWidgets();
     for (QWidget* window : all)
         window->hide();
     std::fflush(nullptr);
-    std::_Exit(EXIT_SUCCESS);
+    endProcess(EXIT_SUCCESS);
 }
 
 } // namespace plotvue

@@ -32,8 +32,8 @@ private:
 // be one of the window's pixels: a device of the same resolution.
 void drawOnPaper(QWidget& window, QPainter& painter, const QRectF& page);
 
-// The system's default printer for this user. Does nothing where printing does not go through CUPS: other
-// print systems have no such notion of their own.
+// The system's default printer for this user. Does nothing on a Unix where printing does not go through CUPS:
+// other print systems have no such notion of their own.
 void makeDefaultPrinter(const QString& name);
 
 } // namespace plotvue

@@ -1,0 +1,24 @@
+#include "capture/utf8.h"
+#include "platform/desktop/process.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace plotvue {
+
+void enterWorkingDirectory()
+{
+    // The menu starts a script, which sees to the folder.
+}
+
+void sayToTerminal(TextView sentence)
+{
+    std::fprintf(stderr, "PlotVue: %s\n", toUtf8(sentence).c_str());
+}
+
+void endProcess(int status)
+{
+    std::_Exit(status);
+}
+
+} // namespace plotvue

@@ -1,0 +1,104 @@
+#include "platform/desktop/process.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <windows.h>
+
+namespace plotvue {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// A folder of one start. Its mark is a file beside it that nobody else can open as long as the process lives;
+// the system deletes it with the process, however that ends. Whoever holds the mark may do what he likes with
+// the folder.
+struct Folder {
+    fs::path path;
+    HANDLE mark = INVALID_HANDLE_VALUE;
+
+    bool take()
+    {
+        mark = CreateFileW((path.wstring() + L".mark").c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                           FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+        return mark != INVALID_HANDLE_VALUE;
+    }
+
+    void sweep()
+    {
+        std::error_code ignored;
+        fs::remove_all(path, ignored);
+        CloseHandle(mark);
+    }
+};
+
+Folder own; // without a path: the process works where it was started
+
+fs::path programFolder()
+{
+    std::wstring name(MAX_PATH, L'\0');
+    for (DWORD length;
+         (length = GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size()))) == name.size();)
+        name.resize(2 * name.size());
+    return fs::path(name.c_str()).parent_path();
+}
+
+// The installed program's folder is no place to work in: who starts there comes from the menu.
+bool startedFromMenu()
+{
+    std::error_code none;
+    const fs::path folder = programFolder();
+    return fs::exists(folder / "uninstall.exe", none) && fs::equivalent(folder, fs::current_path(none), none);
+}
+
+void sweepFolders(const fs::path& all)
+{
+    std::error_code none;
+    for (const fs::directory_entry& entry : fs::directory_iterator(all, none))
+        if (Folder left{entry.path()}; entry.is_directory(none) && left.take())
+            left.sweep();
+}
+
+} // namespace
+
+void enterWorkingDirectory()
+{
+    const wchar_t* local = _wgetenv(L"LOCALAPPDATA");
+    if (!local || !startedFromMenu())
+        return;
+    const fs::path all = fs::path(local) / "PlotVue";
+    constexpr int most = 1000;
+    std::error_code error;
+    fs::create_directories(all, error);
+    sweepFolders(all);
+    for (int number = 1; number <= most && own.path.empty(); ++number) {
+        Folder folder{all / std::to_wstring(number)};
+        if (!folder.take())
+            continue;
+        fs::create_directory(folder.path, error);
+        fs::current_path(folder.path, error);
+        if (!error)
+            own = folder;
+        else
+            folder.sweep();
+    }
+}
+
+void sayToTerminal(TextView)
+{
+    // A program with windows has no standard error there: the box alone tells.
+}
+
+void endProcess(int status)
+{
+    if (!own.path.empty()) {
+        std::error_code ignored;
+        const fs::path all = own.path.parent_path();
+        fs::current_path(all.parent_path(), ignored); // no system removes the folder that a process works in
+        own.sweep();
+        fs::remove(all, ignored); // unless another start works there
+    }
+    std::_Exit(status);
+}
+
+} // namespace plotvue

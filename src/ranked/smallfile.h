@@ -1,0 +1,17 @@
+// A small file in the working directory, written and read whole, for its owner only.
+#pragma once
+
+#include "capture/text.h"
+
+namespace plotvue {
+
+// Creates or truncates the file. Throws Failure when it cannot be written.
+void writeSmallFile(const char* file, const std::string& bytes);
+
+// Throws Failure when the file cannot be opened or read.
+std::string readSmallFile(const char* file);
+
+// Throws the Failure of a file that "cannot be opened", with the system's reason.
+[[noreturn]] void failForFile(const char* file, TextView what, TextView reason);
+
+} // namespace plotvue

@@ -1,0 +1,96 @@
+// A small file's rights, and what may be in its place on Windows.
+#include "ranked/exchange.h"
+#include "ranked/smallfile.h"
+#include "ranked_files_fixture.h"
+#include "support/owneronly.h"
+
+#include <fstream>
+#include <functional>
+#include <gmock/gmock.h>
+#include <windows.h>
+
+namespace plotvue::test {
+namespace {
+
+class SmallFile : public RankedFiles {
+protected:
+    static std::string failureOf(const std::function<void()>& action)
+    {
+        try {
+            action();
+        } catch (const Failure& failure) {
+            return toUtf8(failure.sentence);
+        }
+        return "none";
+    }
+
+    static void openToAll(const char* file)
+    {
+        SECURITY_DESCRIPTOR all;
+        ASSERT_TRUE(InitializeSecurityDescriptor(&all, SECURITY_DESCRIPTOR_REVISION));
+        ASSERT_TRUE(SetSecurityDescriptorDacl(&all, TRUE, nullptr, FALSE));
+        ASSERT_TRUE(SetFileSecurityA(file, DACL_SECURITY_INFORMATION, &all));
+    }
+};
+
+TEST_F(SmallFile, OnlyTheOwnerReadsAFile)
+{
+    RecordWriter().number(1).endRecord().writeTo(listFile);
+    EXPECT_TRUE(ownerOnly(listFile));
+}
+
+TEST_F(SmallFile, AFileThatWasOpenToOthersIsClosedToThem)
+{
+    std::ofstream(listFile) << "old";
+    openToAll(listFile);
+    ASSERT_FALSE(ownerOnly(listFile));
+    RecordWriter().number(1).endRecord().writeTo(listFile);
+    EXPECT_TRUE(ownerOnly(listFile));
+}
+
+TEST_F(SmallFile, TheScratchFileIsReadableByItsOwnerOnly)
+{
+    session.start(u"FINANCIAL RATIO");
+    EXPECT_TRUE(ownerOnly(scratchFile));
+}
+
+TEST_F(SmallFile, AFileThatCannotBeWrittenIsARunTimeError)
+{
+    std::ofstream(listFile) << "old";
+    HANDLE other = CreateFileA(listFile, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                               nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_TRUE(LockFile(other, 0, 0, 1000, 0));
+    const std::string failure = failureOf([] { RecordWriter().number(1).endRecord().writeTo(listFile); });
+    CloseHandle(other);
+    EXPECT_THAT(failure, testing::StartsWith("The file plotvue.txt in the working directory cannot be "));
+    EXPECT_THAT(failure, testing::EndsWith(")."));
+}
+
+TEST_F(SmallFile, AFileThatAnotherProgramHasForItselfIsARunTimeError)
+{
+    openFirst();
+    HANDLE other = CreateFileA(listFile, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    session.choose(m2mA, "optSales", 1);
+    CloseHandle(other);
+    expectError("plotvue.txt", "cannot be opened (");
+}
+
+TEST_F(SmallFile, APipeIsNotWaitedFor)
+{
+    constexpr const char* pipe = R"(\\.\pipe\plotvue-test)";
+    HANDLE end = CreateNamedPipeA(pipe, PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE | PIPE_WAIT, 2, 0, 0, 0, nullptr);
+    ASSERT_NE(end, INVALID_HANDLE_VALUE);
+    EXPECT_THAT(failureOf([] { readSmallFile(pipe); }), testing::HasSubstr("cannot be read ("));
+    DisconnectNamedPipe(end);
+    EXPECT_THAT(failureOf([] { writeSmallFile(pipe, "1"); }), testing::HasSubstr("cannot be "));
+    CloseHandle(end);
+}
+
+TEST_F(SmallFile, ADeviceIsNeitherReadNorWritten)
+{
+    EXPECT_THAT(failureOf([] { readSmallFile("NUL"); }), testing::HasSubstr("cannot be read ("));
+    EXPECT_THAT(failureOf([] { writeSmallFile("NUL", "1"); }), testing::HasSubstr("cannot be "));
+}
+
+} // namespace
+} // namespace plotvue::test
