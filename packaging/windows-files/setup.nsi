@@ -74,6 +74,7 @@ Section uninstall
   Delete "$INSTDIR\uninstall.exe"
   RMDir /r "$INSTDIR\licences"
   RMDir "$INSTDIR" ; unless a person has put something there
+  RMDir "$LOCALAPPDATA\Programs" ; unless other programs are there
   RMDir /r "$LOCALAPPDATA\PlotVue" ; what a crash has left
   DeleteRegKey HKCU "${LISTED}"
 SectionEnd

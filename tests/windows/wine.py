@@ -1,0 +1,78 @@
+"""Wine on a virtual desktop of its own, and Windows programs on it; nothing of the user's is touched.
+
+    tests/windows/wine.py COMMAND...    runs the command there; `wine` in it is this Wine
+"""
+
+import os
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
+from desktop import SAMPLES, Desktop, NotInTime, ended, soon  # noqa: E402, F401: of use to the tests here
+
+# Wine's own fonts are bitmaps and a serif; a Windows machine has the one that its dialogs ask for.
+SETTINGS = r"""Windows Registry Editor Version 5.00
+
+[HKEY_LOCAL_MACHINE\Software\Microsoft\Windows NT\CurrentVersion\FontSubstitutes]
+"MS Shell Dlg"="DejaVu Sans"
+"MS Shell Dlg 2"="DejaVu Sans"
+"Segoe UI"="DejaVu Sans"
+"Tahoma"="DejaVu Sans"
+"""
+INSIDE = "PLOTVUE_WINE"  # set where such a desktop is there already
+
+
+class Wine(Desktop):
+    def __init__(self, program=None, **options):
+        super().__init__(program, **options)
+
+    def __enter__(self):
+        if INSIDE in os.environ:
+            self.env = dict(os.environ)
+            self.home = Path(tempfile.mkdtemp(prefix="plotvue-"))
+            return self
+        super().__enter__()
+        try:
+            # Wine hands on what is called QT_ only under such names.
+            self.env.update(WINEPREFIX=str(self.home / "wine"), WINEDEBUG="-all", WINEQT_QPA_PLATFORM="windows",
+                            WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=")
+            self.env[INSIDE] = "1"
+            self.windows_program("wineboot", "--init", seconds=180)
+            settings = self.home / "settings.reg"
+            settings.write_text(SETTINGS)
+            self.windows_program("regedit", "/S", f"Z:{settings}")
+            # Two sets of services run while it sets itself up, and lock each other out.
+            subprocess.run(["wineserver", "--kill"], env=self.env, timeout=30, check=True)
+            subprocess.run(["wineserver", "--wait"], env=self.env, timeout=60, check=True)
+            # Started by a program, it would end and start again between two.
+            subprocess.run(["wineserver", "--persistent"], env=self.env, timeout=30, check=True)
+            self.windows_program("cmd", "/c", "exit")
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def __exit__(self, *arguments):
+        if INSIDE not in os.environ:
+            subprocess.run(["wineserver", "--kill"], env=self.env, timeout=30, check=False)
+        super().__exit__(*arguments)
+
+    def windows_program(self, *command, seconds=60, **options):
+        """Runs it to its end, which must be a good one; returns what it prints."""
+        options = {"cwd": self.home, "env": self.env, **options}
+        # Not a pipe: what Wine starts on the way would keep it open.
+        with tempfile.TemporaryFile() as printed:
+            subprocess.run(["wine", *map(str, command)], stdin=subprocess.DEVNULL, stdout=printed,
+                           stderr=subprocess.DEVNULL, timeout=seconds, check=True, **options)
+            printed.seek(0)
+            return printed.read()
+
+    def start(self, program=None, directory=None):
+        return self.launch("wine", str(program or self.program), cwd=directory or self.home)
+
+
+if __name__ == "__main__":
+    with Wine() as desktop:
+        sys.exit(subprocess.run(sys.argv[1:], env={**os.environ, **desktop.env}, check=False).returncode)
