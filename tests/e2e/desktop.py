@@ -31,8 +31,9 @@ def soon(what, condition, seconds=20):
 class Desktop:
     """An X display of its own, with a temporary home directory. Use with `with`: it ends what it started."""
 
-    def __init__(self, program, manager="openbox"):
+    def __init__(self, program, manager="openbox", screen="1280x900x24"):
         self.program = program
+        self.screen = screen
         self.manager = manager
         self.started = []
         self.owner = None  # of the clipboard
@@ -51,7 +52,7 @@ class Desktop:
         try:
             read, write = os.pipe()
             # It would start afresh whenever its last client goes, and cut off one that is just coming.
-            self.launch("Xvfb", "-noreset", "-displayfd", str(write), "-screen", "0", "1280x900x24", "-nolisten", "tcp",
+            self.launch("Xvfb", "-noreset", "-displayfd", str(write), "-screen", "0", self.screen, "-nolisten", "tcp",
                         pass_fds=[write])
             os.close(write)
             with os.fdopen(read) as pipe:
@@ -82,7 +83,8 @@ class Desktop:
     def launch(self, *command, **options):
         for stream in ("stdin", "stdout", "stderr"):
             options.setdefault(stream, subprocess.DEVNULL)
-        process = subprocess.Popen(command, env=self.env, cwd=self.home, **options)
+        options.setdefault("cwd", self.home)
+        process = subprocess.Popen(command, env=self.env, **options)
         self.started.append(process)
         return process
 

@@ -11,14 +11,18 @@ namespace plotvue {
 Printing::Printing() = default;
 Printing::~Printing() = default;
 
+bool Printing::ask(QPrinter& printer, QWidget& window)
+{
+    return QPrintDialog(&printer, &window).exec() == QDialog::Accepted;
+}
+
 double Printing::choose(QWidget& window)
 {
     if (!printer_)
         printer_ = std::make_unique<QPrinter>();
     printer_->setPageOrientation(window.width() > window.height() ? QPageLayout::Landscape
                                                                   : QPageLayout::Portrait);
-    QPrintDialog dialog(printer_.get(), &window);
-    if (dialog.exec() != QDialog::Accepted)
+    if (!ask(*printer_, window))
         throw Failure{u"The printer dialog was cancelled."};
     // Each copy is a job of its own: the driver is not to multiply it.
     const double copies = printer_->copyCount();

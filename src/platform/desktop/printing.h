@@ -15,7 +15,7 @@ namespace plotvue {
 class Printing {
 public:
     Printing();
-    ~Printing();
+    virtual ~Printing();
 
     // Returns the number of copies; the printer chosen becomes the default printer and is kept for the next
     // time. Throws Failure when the dialog is cancelled.
@@ -23,6 +23,10 @@ public:
 
     // One job. Throws Failure when it cannot be made.
     void print(QWidget& window);
+
+protected:
+    // Shows the dialog, which changes the printer; false when it is cancelled.
+    virtual bool ask(QPrinter& printer, QWidget& window);
 
 private:
     std::unique_ptr<QPrinter> printer_; // none before somebody prints: looking for printers takes time

@@ -1,0 +1,203 @@
+"""plotvue.exe as a person uses it: what is copied is charted, keys and mouse do what they should."""
+
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+from pathlib import Path
+
+from wine import SAMPLES, Wine, ended, soon
+
+BARS = bytes((0x24, 0x58, 0xB0))  # the first series' colour
+START = "Plot Vue!"
+
+
+class Clicks(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.desktop = Wine(program)
+        cls.desktop.__enter__()
+        cls.addClassCleanup(cls.desktop.__exit__)
+
+    def setUp(self):
+        directory = tempfile.TemporaryDirectory(prefix="plotvue-clicks-")
+        self.addCleanup(directory.cleanup)
+        self.directory = Path(directory.name)
+
+    def start(self, title):
+        self.process = self.desktop.start(directory=self.directory)
+        self.addCleanup(self.process.wait)
+        self.addCleanup(self.process.kill)
+        return self.window(title)
+
+    def window(self, title):
+        """Waits for the window; under Wine the program hears of its focus a moment later than X does."""
+        number = self.desktop.window(title)
+        time.sleep(0.5)
+        return number
+
+    def copy(self, capture):
+        """An X program copies, and Wine has noticed."""
+        self.desktop.copy(capture)
+        soon("Wine has taken the capture over", lambda: self.pasted() == capture)
+
+    def pasted(self):
+        """What a Windows program would get."""
+        file = self.directory / "pasted"
+        self.desktop.windows_program(copier, "--paste", f"Z:{file}")
+        held = file.read_bytes()
+        file.unlink()
+        return held
+
+    def sample(self, name):
+        return (SAMPLES / f"{name}.txt").read_bytes()
+
+    def copy_in_windows(self, text, *seconds):
+        """Another Windows program copies; returns it when the clipboard stays open."""
+        file = self.directory / "copied"
+        file.write_bytes(text)
+        self.leave_x_clipboard()
+        if not seconds:
+            self.desktop.windows_program(copier, f"Z:{file}")
+            return soon("it is on the clipboard", lambda: self.pasted() == text)
+        return self.desktop.launch("wine", copier, f"Z:{file}", *map(str, seconds))
+
+    def leave_x_clipboard(self):
+        """No X program owns it any more, and Wine has noticed: later it would take what is copied there for gone."""
+        self.desktop.copy(None)
+        soon("nobody owns the clipboard", lambda: not self.desktop.held(5))
+        time.sleep(1)
+
+    def empty_clipboard(self):
+        self.leave_x_clipboard()
+        self.desktop.windows_program(copier)
+
+    def picture(self, window):
+        return subprocess.run(["import", "-window", window, "-depth", "8", "rgb:-"], env=self.desktop.env,
+                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False, timeout=20).stdout
+
+    def charted(self, window):
+        """The picture of the window, once it holds bars and stays as it is."""
+        def still():
+            before = self.picture(window)
+            time.sleep(0.2)
+            return before if before.count(BARS) > 300 and before == self.picture(window) else None
+        return soon("bars are drawn and stay", still)
+
+    def click(self, window, right, bottom):
+        """Presses the mouse's button so far from the window's right and lower edge, for as long as a hand does."""
+        geometry = dict(line.split("=") for line in self.desktop.output(
+            "xdotool", "getwindowgeometry", "--shell", window).split())
+        x, y = int(geometry["WIDTH"]) - right, int(geometry["HEIGHT"]) - bottom
+        self.desktop.output("xdotool", "mousemove", "--window", window, str(x), str(y))
+        for verb in ("mousedown", "mouseup"):
+            time.sleep(0.05)
+            self.desktop.output("xdotool", verb, "1")
+
+    def chosen(self):
+        """What the small file says of the row that is shown."""
+        file = self.directory / "plotvue1.txt"
+        return file.read_bytes() if file.exists() else b""
+
+    def press(self, key, what, condition):
+        self.desktop.key(key)
+        return soon(what, condition)
+
+    def test_what_an_x_program_copies_is_charted_and_exit_leads_out(self):
+        self.copy(self.sample("product"))
+        window = self.start("Plotvue!")
+        self.charted(window)
+        self.desktop.key("Escape")
+        self.window(START)
+        self.desktop.gone("Plotvue!")
+        self.desktop.key("Escape")
+        self.assertEqual(ended(self.process), 0)
+        self.assertEqual([file.name for file in self.directory.iterdir()], [])
+
+    def test_what_a_windows_program_copies_is_read_as_it_stands(self):
+        text = self.sample("vendors").replace(b"\r\n", b"\r\r\n", 3)
+        self.copy_in_windows(text)
+        self.start("PlotVue")
+        self.assertEqual((self.directory / "pvuscrn.txt").read_bytes(), b'"' + text + b'"\r\n')
+
+    def test_a_clipboard_that_is_busy_for_a_moment_is_read(self):
+        busy = self.copy_in_windows(self.sample("product"), 3)
+        time.sleep(2.5)
+        self.charted(self.start("Plotvue!"))
+        self.assertEqual(ended(busy), 0)
+
+    def test_a_clipboard_that_stays_busy_holds_no_data(self):
+        busy = self.copy_in_windows(self.sample("product"), 15)
+        time.sleep(1)
+        self.start("Need Data")
+        self.desktop.key("Escape")
+        self.window(START)
+        busy.kill()
+
+    def test_buttons_are_clicked_and_options_chosen(self):
+        self.copy(self.sample("product"))
+        window = self.start("Plotvue!")
+        first = self.charted(window)
+        self.desktop.key("Tab", "Up")
+        soon("24 months are charted", lambda: self.charted(window) != first)
+        self.click(window, 60, 30)  # Exit stands in the lower right corner
+        self.window(START)
+        self.desktop.gone("Plotvue!")
+
+    def test_refresh_charts_what_was_copied_since(self):
+        self.copy(self.sample("product"))
+        window = self.start("Plotvue!")
+        first = self.charted(window)
+        self.copy(self.sample("product").replace(b" 93934.66", b" 13934.66"))
+        self.desktop.key("F5")
+        soon("the other figures are charted", lambda: self.charted(window) != first)
+        self.desktop.key("Escape")
+        self.window(START)
+        self.copy(self.sample("vendors"))
+        self.desktop.key("F5")
+        self.window("PlotVue")
+
+    def test_a_row_is_clicked_and_down_and_back_step_through_the_list(self):
+        self.copy(self.sample("vendors"))
+        window = self.start("PlotVue")
+        self.desktop.key("Down", "Return")
+        soon("the row's key is written", self.chosen)
+        chart = soon("the chart has a window of its own", lambda: next(
+            (number for number in self.numbers() if number != window), None))
+        soon("it has the focus", lambda: self.desktop.output("xdotool", "getwindowfocus").strip() == chart)
+        self.charted(chart)
+        first = self.chosen()
+        self.press("Page_Down", "Down goes to the next row", lambda: self.chosen() != first)
+        self.press("Page_Up", "Back returns", lambda: self.chosen() == first)
+        self.press("Escape", "the chart goes", lambda: self.numbers() == [window])
+
+    def numbers(self):
+        return self.desktop.output("xdotool", "search", "--onlyvisible", "--class", "plotvue").split()
+
+    def test_an_empty_clipboard_needs_data(self):
+        self.empty_clipboard()
+        self.start("Need Data")
+        self.desktop.key("Escape")
+        self.window(START)
+        self.desktop.key("Escape")
+        self.assertEqual(ended(self.process), 0)
+
+    def test_a_short_screen_is_waited_for_until_the_box_is_closed(self):
+        self.copy_in_windows(b"\r\n".join(self.sample("product").split(b"\r\n")[:15]))
+        self.start("PlotVue")
+        self.desktop.key("Return")
+        self.assertEqual(ended(self.process), 1)
+
+    def test_an_error_is_told_in_a_box(self):
+        (self.directory / "pvuscrn.txt").mkdir()
+        self.copy(self.sample("vendors"))
+        self.start("PlotVue")
+        self.desktop.key("Return")
+        self.assertEqual(ended(self.process), 1)
+
+
+if __name__ == "__main__":
+    program, copier = sys.argv[1:3]
+    del sys.argv[1:]
+    unittest.main(verbosity=2)

@@ -1,0 +1,62 @@
+// A program that copies, as a terminal on Windows would.
+//
+//     copier FILE            puts the text of FILE, in UTF-8, on the clipboard just as it is
+//     copier FILE SECONDS    the same, and keeps the clipboard open so long, so that no other program gets at
+//     it copier                 takes off the clipboard what is there
+#include "capture/utf8.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cwchar>
+#include <fstream>
+#include <iterator>
+#include <windows.h>
+
+namespace {
+
+bool put(const plotvue::Text& text)
+{
+    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, (text.size() + 1) * sizeof(wchar_t));
+    auto* characters = memory ? static_cast<wchar_t*>(GlobalLock(memory)) : nullptr;
+    if (!characters)
+        return false;
+    *std::copy(text.begin(), text.end(), characters) = L'\0';
+    GlobalUnlock(memory);
+    return SetClipboardData(CF_UNICODETEXT, memory) != nullptr;
+}
+
+bool paste(const char* file)
+{
+    plotvue::Text text;
+    if (!OpenClipboard(nullptr))
+        return false;
+    HANDLE held = GetClipboardData(CF_UNICODETEXT);
+    if (const auto* characters = held ? static_cast<const wchar_t*>(GlobalLock(held)) : nullptr) {
+        text.assign(characters, characters + std::wcslen(characters));
+        GlobalUnlock(held);
+    }
+    CloseClipboard();
+    return static_cast<bool>(std::ofstream(file, std::ios::binary) << plotvue::toUtf8(text));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc == 3 && std::string_view(argv[1]) == "--paste")
+        return paste(argv[2]) ? EXIT_SUCCESS : EXIT_FAILURE;
+    // Whoever opens the clipboard without a window of his own cannot put anything there.
+    HWND window = CreateWindowExA(0, "STATIC", "copier", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+    if (!window || !OpenClipboard(window) || !EmptyClipboard())
+        return EXIT_FAILURE;
+    if (argc > 1) {
+        std::ifstream file(argv[1], std::ios::binary);
+        const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+        if (!file || !put(plotvue::fromUtf8(bytes)))
+            return EXIT_FAILURE;
+    }
+    if (argc > 2)
+        Sleep(static_cast<DWORD>(std::atoi(argv[2])) * 1000);
+    CloseClipboard();
+    return EXIT_SUCCESS;
+}

@@ -1,0 +1,59 @@
+// printer NAME COPIES: charts what is on the clipboard and presses Print, in a PlotVue whose printing dialog
+// answers with this printer and so many copies. All but the dialog is as in the program.
+#include "app/application.h"
+#include "platform/desktop/desktopplatform.h"
+#include "platform/desktop/desktopview.h"
+
+#include <QApplication>
+#include <QPrinter>
+
+#include <cstdlib>
+
+namespace {
+
+using namespace plotvue;
+
+class AnsweredPrinting : public Printing {
+public:
+    QString printer;
+    int copies = 0;
+
+protected:
+    bool ask(QPrinter& chosen, QWidget&) override
+    {
+        chosen.setPrinterName(printer);
+        chosen.setCopyCount(copies);
+        return chosen.isValid();
+    }
+};
+
+class AnsweredDesktop : public DesktopPlatform {
+public:
+    AnsweredPrinting printing;
+
+    double choosePrinter(View& view) override
+    {
+        return printing.choose(static_cast<DesktopView&>(view).window());
+    }
+
+protected:
+    void printView(View& view) override { printing.print(static_cast<DesktopView&>(view).window()); }
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    AnsweredDesktop platform;
+    platform.printing.printer = QString::fromLocal8Bit(argv[1]);
+    platform.printing.copies = std::atoi(argv[2]);
+    Application plotVue(platform);
+    plotVue.start();
+    platform.settle();
+    QApplication::processEvents();
+    int jobs = 0;
+    platform.listener = [&jobs](const Event& event) { jobs += event.kind == Event::Kind::Print; };
+    plotVue.window("frmProduct")->view().press("cmdPrint");
+    return jobs == platform.printing.copies ? EXIT_SUCCESS : EXIT_FAILURE;
+}
