@@ -3,8 +3,10 @@
 
 docs/pictures.py          the pictures of the README, into docs/
 docs/pictures.py --all    every window, light and dark, at 100 %, 150 % and 200 %: build/pictures/index.html
+docs/pictures.py --windows  every window of plotvue.exe under Wine, at 100 %, 150 % and 200 %:
+                          build/pictures-windows/index.html
 
-Needs the release build and xvfb, xclip, xdotool, imagemagick.
+Needs the release build, or that of packaging/windows, and xvfb, xclip, xdotool, imagemagick.
 """
 import os
 import pathlib
@@ -15,6 +17,9 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PROGRAM = ROOT / "build/release/src/plotvue"
+FOR_WINDOWS = ROOT / "build/windows/plotvue.exe"
+sys.path.insert(0, str(ROOT / "tests/windows"))
+from wine import Wine  # noqa: E402
 
 MONTHLY = ["product", "salesman", "customer", "custcat", "custpack", "prodware", "salesjournal", "site",
            "driver", "truck", "cstore", "glexpense", "glhistory", "latecharge", "active"]
@@ -46,6 +51,9 @@ ForegroundNormal=239,240,241
 class Display:
     """A virtual display; everything started on it ends with it."""
 
+    program = [PROGRAM]
+    slowness = 1
+
     def __init__(self):
         read, write = os.pipe()
         self.server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "2400x1800x24",
@@ -70,6 +78,28 @@ class Display:
         return self.run("xdotool", "search", "--onlyvisible", "--class", "plotvue").stdout.split()
 
 
+class WineDisplay(Display):
+    """The same with Wine on it."""
+
+    program = ["wine", FOR_WINDOWS]
+    slowness = 3
+
+    def __init__(self):
+        self.desktop = Wine(screen="2400x1800x24")
+
+    def __enter__(self):
+        self.desktop.__enter__()
+        self.environment = self.desktop.env
+        return self
+
+    def __exit__(self, *_):
+        self.desktop.__exit__()
+
+    def scale(self, percent):
+        self.desktop.windows_program("reg", "add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t", "REG_DWORD",
+                                     "/d", percent * 96 // 100, "/f")
+
+
 def wait_for(condition, seconds=10):
     end = time.monotonic() + seconds
     while time.monotonic() < end:
@@ -86,22 +116,22 @@ def take(display, name, picture, directory, extra):
     if sample != "startup": # else nobody owns the clipboard
         owner = subprocess.Popen(["xclip", "-quiet", "-selection", "clipboard", ROOT / "samples" / (sample + ".txt")],
                                  env=display.environment, stderr=subprocess.DEVNULL)
-        time.sleep(0.2)
-    program = subprocess.Popen([PROGRAM], cwd=directory, env={**display.environment, **extra},
+        time.sleep(0.2 * display.slowness)
+    program = subprocess.Popen(display.program, cwd=directory, env={**display.environment, **extra},
                                stderr=subprocess.DEVNULL)
     try:
         if sample == "startup":
             wait_for(lambda: len(display.windows()) > 0)
-            time.sleep(0.6)
+            time.sleep(0.6 * display.slowness)
             display.run("xdotool", "key", "Return")
         wait_for(lambda: len(display.windows()) > 0)
-        time.sleep(0.4)
+        time.sleep(0.4 * display.slowness)
         before = display.windows()
         display.run("xdotool", "windowfocus", "--sync", before[-1])
         for key in KEYS.get(name, []):
             display.run("xdotool", "key", key)
-            time.sleep(0.3)
-        time.sleep(0.3)
+            time.sleep(0.3 * display.slowness)
+        time.sleep(0.3 * display.slowness)
         front = next((window for window in display.windows() if window not in before), before[-1])
         picture.parent.mkdir(parents=True, exist_ok=True)
         display.run("import", "-window", front, "-strip", str(picture), check=True)
@@ -122,7 +152,25 @@ def write_page(folder, names, kinds):
         "<style>img{max-width:48%;vertical-align:top}</style>" + rows)
 
 
+NAMES = ["startup"] + MONTHLY + GROUPS + [n for r in RANKED for n in (r, r + "-chart")]
+
+
+def take_under_wine():
+    folder = ROOT / "build/pictures-windows"
+    kinds = [100, 150, 200]
+    with WineDisplay() as display, tempfile.TemporaryDirectory() as directory:
+        for percent in kinds:
+            display.scale(percent)
+            for name in NAMES:
+                take(display, name, folder / str(percent) / (name + ".png"), directory, {})
+    write_page(folder, NAMES, [str(percent) for percent in kinds])
+    print(folder / "index.html")
+
+
 def main():
+    if sys.argv[1:] == ["--windows"]:
+        take_under_wine()
+        return
     everything = sys.argv[1:] == ["--all"]
     if sys.argv[1:] and not everything:
         raise SystemExit(__doc__)
@@ -138,12 +186,11 @@ def main():
                 "KDE_SESSION_VERSION": "5", "QT_QPA_PLATFORMTHEME": "kde"}
         kinds = {"light": {}, "dark": dark, "light-150": {"QT_SCALE_FACTOR": "1.5"}, "light-200": {"QT_SCALE_FACTOR": "2"},
                  "dark-200": {**dark, "QT_SCALE_FACTOR": "2"}}
-        names = ["startup"] + MONTHLY + GROUPS + [n for r in RANKED for n in (r, r + "-chart")]
         folder = ROOT / "build/pictures"
         for kind, extra in kinds.items():
-            for name in names:
+            for name in NAMES:
                 take(display, name, folder / kind / (name + ".png"), directory, extra)
-        write_page(folder, names, list(kinds))
+        write_page(folder, NAMES, list(kinds))
         print(folder / "index.html")
 
 
