@@ -53,6 +53,7 @@ class Display:
 
     program = [PROGRAM]
     slowness = 1
+    keeps_text = False  # on the clipboard, when who has copied it is gone
 
     def __init__(self):
         read, write = os.pipe()
@@ -83,6 +84,7 @@ class WineDisplay(Display):
 
     program = ["wine", FOR_WINDOWS]
     slowness = 3
+    keeps_text = True
 
     def __init__(self):
         self.desktop = Wine(screen="2400x1800x24")
@@ -113,8 +115,9 @@ def take(display, name, picture, directory, extra):
     """The picture of the window that stands in front once the keys for it have been pressed."""
     sample = name.removesuffix("-chart")
     owner = None
-    if sample != "startup": # else nobody owns the clipboard
-        owner = subprocess.Popen(["xclip", "-quiet", "-selection", "clipboard", ROOT / "samples" / (sample + ".txt")],
+    text = None if sample == "startup" else ROOT / "samples" / (sample + ".txt")
+    if text or display.keeps_text: # else nobody owns the clipboard
+        owner = subprocess.Popen(["xclip", "-quiet", "-selection", "clipboard", text or os.devnull],
                                  env=display.environment, stderr=subprocess.DEVNULL)
         time.sleep(0.2 * display.slowness)
     program = subprocess.Popen(display.program, cwd=directory, env={**display.environment, **extra},
