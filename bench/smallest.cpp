@@ -10,7 +10,7 @@ int main(int argc, char* argv[])
     QVBoxLayout layout(&window);
     QPushButton button("Exit");
     layout.addWidget(&button);
-    window.resize(900, 560);
+    window.resize(1000, 600);
     window.show();
     return QApplication::exec();
 }
