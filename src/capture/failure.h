@@ -11,9 +11,8 @@ namespace plotvue {
 // negative length, a value outside its type, a file that fails. Thrown where it happens, caught around the
 // event that led to it, shown as the platform's error report.
 struct Failure {
-    Text sentence; // one sentence for the person at the screen, with its full stop
-    TextView
-        where{}; // the part of the capture that was being read; empty: none. Valid as long as the capture
+    Text sentence;    // one sentence for the person at the screen, with its full stop
+    TextView where{}; // the part of the capture that was read, as long as that lives; empty: none
 };
 
 // Reads a line, or another part of the capture: a failure that does not say where it happens happens there.

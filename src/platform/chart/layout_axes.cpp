@@ -182,8 +182,8 @@ void placeAxes(const LayoutInput& input, Layout& layout, const Box& inner, doubl
     layout.slotWidth = layout.plot.width / layout.slotCount;
 
     const Labels labels = readLabels(input);
-    const double longestName = widest(input, labels, {});
     const bool names = input.design.labels == ChartDesign::Labels::Names || input.figures.components();
+    const double longestName = names ? widest(input, labels, {}) : 0;
     layout.slanted = names && longestName + em * .5 > layout.slotWidth;
     const LabelStyle style = names
                                  ? LabelStyle{.step = stepBetweenNames(layout.slanted, layout.slotWidth, em)}
