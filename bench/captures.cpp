@@ -19,7 +19,7 @@ constexpr const char* months =
     "     1969    1823    1869    1673    1763    1582    1520    1655    1538    1530"
     "    1343    1525    1431\r\n";
 
-constexpr TextView letter =
+constexpr TextSpan letter =
     u"Dear Mr. Tanner,\r\n\r\nthank you for your letter of 12 October. The figures for the "
     u"Fairview and Quarry Road sites follow by Friday; Vera has the prices (CRD tariff 7, "
     u"$1,204.50 a month) and will PHONE.\r\n\r\nYours, R. Porter\r\n";

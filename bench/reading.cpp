@@ -14,7 +14,7 @@ namespace plotvue {
 
 namespace {
 
-constexpr TextView absentMarker = u"QXM99Z"; // as long as the shortest one of the screens
+constexpr TextSpan absentMarker = u"QXM99Z"; // as long as the shortest one of the screens
 
 // The compiler is not to leave out what nobody looks at.
 volatile std::size_t result;

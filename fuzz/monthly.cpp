@@ -13,7 +13,7 @@ const MonthlyScreen* const screens[] = {&frmProduct, &frmSalesman, &frmCustomerE
                                         &frmPware,   &frmSJHIST,   &frmSite,      &frmDriver, &frmTruck,
                                         &frmCSTORE,  &frmGLarch,   &frmGLexpense, &frmActive, &frmLateCharge};
 
-void read(const MonthlyScreen& screen, TextView capture)
+void read(const MonthlyScreen& screen, TextSpan capture)
 {
     const Acceptance acceptance = accept(screen, capture);
     if (acceptance.stop || acceptance.end)

@@ -8,7 +8,7 @@ using namespace plotvue;
 
 namespace {
 
-void read(const RankedAnalysis& analysis, TextView capture)
+void read(const RankedAnalysis& analysis, TextSpan capture)
 {
     const RankedReading reading = readRanked(analysis, capture);
     if (!reading.accepted)

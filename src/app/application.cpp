@@ -14,7 +14,7 @@ namespace {
 using Create = std::unique_ptr<Form> (*)(Platform&, Form& startup);
 
 struct Served {
-    TextView identifier;
+    TextSpan identifier;
     Create create;
 };
 
@@ -53,7 +53,7 @@ constexpr Served windowsByIdentifier[] = {
 // clang-format on
 
 struct ServedRanked {
-    TextView identifier;
+    TextSpan identifier;
     const RankedAnalysis& list;
     const DrillDownDesign& drillDown;
 };

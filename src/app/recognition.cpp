@@ -12,8 +12,8 @@ namespace plotvue {
 namespace {
 
 struct Marker {
-    TextView text;
-    TextView identifier;
+    TextSpan text;
+    TextSpan identifier;
     enum class Kind {
         Plain,
         Ranked,     // the capture goes to the scratch file
@@ -74,14 +74,14 @@ Markers candidates(char16_t first, char16_t last)
     return markersWith<0>[first % characters] & markersWith<commonLength - 1>[last % characters];
 }
 
-Markers markersIn(TextView screen)
+Markers markersIn(TextSpan screen)
 {
     Markers found = 0;
     for (std::size_t at = 0; at + commonLength <= screen.size() && !(found & 1); ++at) {
         const Markers possible = candidates(screen[at], screen[at + commonLength - 1]);
         if (possible == 0)
             continue;
-        const TextView rest = screen.substr(at);
+        const TextSpan rest = screen.substr(at);
         for (std::size_t i = 0; i < recognitionOrder.size(); ++i)
             if ((possible >> i & 1) && rest.starts_with(recognitionOrder[i].text))
                 found |= Markers{1} << i;
@@ -89,14 +89,14 @@ Markers markersIn(TextView screen)
     return found;
 }
 
-bool holdsZero(TextView screen)
+bool holdsZero(TextSpan screen)
 {
     return toInt16(static_cast<double>(find(screen, u"0")), u"The copied text") > 0;
 }
 
 } // namespace
 
-Recognised recognise(TextView screen)
+Recognised recognise(TextSpan screen)
 {
     const Markers found = markersIn(screen);
     for (std::size_t i = 0; i < recognitionOrder.size(); ++i) {

@@ -6,12 +6,12 @@
 namespace plotvue {
 
 struct Recognised {
-    TextView identifier; // of the screen, or an internal one for the ranked analyses; empty: none
+    TextSpan identifier; // of the screen, or an internal one for the ranked analyses; empty: none
     bool ranked = false; // the whole capture goes to the scratch file
 };
 
 // Takes the first marker of the recognition order that occurs in `screen`. One pass, whatever the length.
 // Throws Failure when a marker that asks for a "0" has its first "0" behind position 32767.
-Recognised recognise(TextView screen);
+Recognised recognise(TextSpan screen);
 
 } // namespace plotvue

@@ -9,9 +9,9 @@ namespace plotvue {
 
 namespace {
 
-constexpr TextView sansSerif = u"MS Sans Serif";
+constexpr TextSpan sansSerif = u"MS Sans Serif";
 
-const std::vector<TextView> supportedScreens{
+const std::vector<TextSpan> supportedScreens{
     u"Sales Journal History",
     u"G/L History",
     u"G/L Expense/Volume",
@@ -99,7 +99,7 @@ Text Startup::IdentifyScreen()
     return Text(recognised.identifier);
 }
 
-Form& Startup::windowFor(TextView identifier)
+Form& Startup::windowFor(TextSpan identifier)
 {
     const auto serves = [&](const Dispatch& dispatch) { return dispatch.identifier == identifier; };
     const auto at = std::find_if(dispatchTable.begin(), dispatchTable.end(), serves);

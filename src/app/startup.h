@@ -7,7 +7,7 @@ namespace plotvue {
 
 // The window that serves a screen identifier; windows are kept for the life of the process.
 struct Dispatch {
-    TextView identifier;
+    TextSpan identifier;
     Form* window;
 };
 
@@ -35,7 +35,7 @@ private:
     // a ranked analysis is saved for the list windows to read.
     Text IdentifyScreen();
 
-    Form& windowFor(TextView identifier);
+    Form& windowFor(TextSpan identifier);
 };
 
 } // namespace plotvue

@@ -11,7 +11,7 @@ namespace plotvue {
 namespace {
 
 template <typename Whole>
-Whole toWhole(double value, TextView what)
+Whole toWhole(double value, TextSpan what)
 {
     const double rounded = std::nearbyint(value); // the default mode rounds a half to even
     // As doubles both limits are exact.
@@ -23,7 +23,7 @@ Whole toWhole(double value, TextView what)
 
 } // namespace
 
-Text lineName(TextView capture, TextView part)
+Text lineName(TextSpan capture, TextSpan part)
 {
     const std::less_equal<const char16_t*> notAfter; // of any two pointers
     const char16_t* const first = capture.data();
@@ -33,12 +33,12 @@ Text lineName(TextView capture, TextView part)
     return u"Line " + plainNumber(static_cast<double>(line)) + u" of the copied text: ";
 }
 
-std::int16_t toInt16(double value, TextView what)
+std::int16_t toInt16(double value, TextSpan what)
 {
     return toWhole<std::int16_t>(value, what);
 }
 
-std::int32_t toInt32(double value, TextView what)
+std::int32_t toInt32(double value, TextSpan what)
 {
     return toWhole<std::int32_t>(value, what);
 }

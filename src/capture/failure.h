@@ -12,12 +12,12 @@ namespace plotvue {
 // event that led to it, shown as the platform's error report.
 struct Failure {
     Text sentence;    // one sentence for the person at the screen, with its full stop
-    TextView where{}; // the part of the capture that was read, as long as that lives; empty: none
+    TextSpan where{}; // the part of the capture that was read, as long as that lives; empty: none
 };
 
 // Reads a line, or another part of the capture: a failure that does not say where it happens happens there.
 template <typename Read>
-decltype(auto) readLine(TextView part, Read read)
+decltype(auto) readLine(TextSpan part, Read read)
 {
     try {
         return read();
@@ -29,12 +29,12 @@ decltype(auto) readLine(TextView part, Read read)
 }
 
 // "Line 7 of the copied text: "; empty where `part` is no part of the capture.
-Text lineName(TextView capture, TextView part);
+Text lineName(TextSpan capture, TextSpan part);
 
 // Reads a capture: the sentence of a failure in it begins with the number of the line, counted from 1, empty
 // lines included, where it is known: "Line 7 of the copied text: ...".
 template <typename Read>
-decltype(auto) readCapture(TextView capture, Read read)
+decltype(auto) readCapture(TextSpan capture, Read read)
 {
     try {
         return read();
@@ -50,8 +50,8 @@ struct EndlessRead {
 
 // `value` as a whole number of 16 or 32 bits, a half rounded to the even neighbour.
 // Throws Failure when it does not fit; `what` names it in the sentence: "The rank".
-std::int16_t toInt16(double value, TextView what);
-std::int32_t toInt32(double value, TextView what);
+std::int16_t toInt16(double value, TextSpan what);
+std::int32_t toInt32(double value, TextSpan what);
 
 // `value` itself. Throws Failure when it is infinite or no number.
 double finite(double value);

@@ -7,20 +7,20 @@ namespace plotvue {
 namespace {
 
 constexpr std::size_t longestUnendedLine = 81;
-constexpr TextView dashes = u"-----";
+constexpr TextSpan dashes = u"-----";
 constexpr Position lastDashPosition = 29;
 
 } // namespace
 
-TextView cutLine(TextView& rest)
+TextSpan cutLine(TextSpan& rest)
 {
     const std::size_t at = rest.find(carriageReturn);
-    const TextView line = rest.substr(0, at == TextView::npos ? longestUnendedLine : at + 1);
+    const TextSpan line = rest.substr(0, at == TextSpan::npos ? longestUnendedLine : at + 1);
     rest.remove_prefix(line.size());
     return line;
 }
 
-void dropControls(TextView& rest)
+void dropControls(TextSpan& rest)
 {
     std::size_t controls = 0;
     while (controls < rest.size() && rest[controls] <= carriageReturn)
@@ -28,12 +28,12 @@ void dropControls(TextView& rest)
     rest.remove_prefix(controls);
 }
 
-ScreenLines::ScreenLines(TextView capture)
+ScreenLines::ScreenLines(TextSpan capture)
 {
-    TextView rest = capture;
+    TextSpan rest = capture;
     while (count_ < read && !ranOut_) {
         lines_[static_cast<std::size_t>(++count_)] = cutLine(rest);
-        const TextView within =
+        const TextSpan within =
             rest.substr(0, static_cast<std::size_t>(lastDashPosition) - 1 + dashes.size());
         if (holds(within, dashes))
             dashLine_ = count_ + 1;
@@ -42,7 +42,7 @@ ScreenLines::ScreenLines(TextView capture)
     }
 }
 
-TextView ScreenLines::operator[](Position number) const
+TextSpan ScreenLines::operator[](Position number) const
 {
     if (number < 1 || number > capacity)
         throw Failure{
@@ -57,7 +57,7 @@ void ScreenLines::requireAll() const
     int lines = 0;
     bool ended = true; // what comes after the last line end is one line, however often it was cut
     for (int i = 1; i <= count_ && ended; ++i) {
-        const TextView line = lines_[static_cast<std::size_t>(i)];
+        const TextSpan line = lines_[static_cast<std::size_t>(i)];
         ended = line.ends_with(carriageReturn);
         lines += line.size() > (ended ? 1 : 0) ? 1 : 0;
     }

@@ -16,10 +16,10 @@ public:
 
     // Cuts the capture. Blank lines vanish: after each line, characters up to and including the carriage
     // return's code are dropped. A text without a carriage return is cut after 81 characters.
-    explicit ScreenLines(TextView capture);
+    explicit ScreenLines(TextSpan capture);
 
     // Throws Failure for a number outside 1 to 23.
-    TextView operator[](Position number) const;
+    TextSpan operator[](Position number) const;
 
     // The underline of the column headings: the last line cut or following (2 to 20) before which "-----"
     // was found at position 1 to 29 of the rest of the text; 0 when there is none.
@@ -33,16 +33,16 @@ public:
     void requireAll() const;
 
 private:
-    std::array<TextView, capacity + 1> lines_{};
+    std::array<TextSpan, capacity + 1> lines_{};
     int dashLine_ = 0;
     int count_ = 0;
     bool ranOut_ = false;
 };
 
 // Cuts one line off the front of `rest`, carriage return included, or 81 characters when there is none.
-TextView cutLine(TextView& rest);
+TextSpan cutLine(TextSpan& rest);
 
 // Drops the characters up to and including the carriage return's code from the front of `rest`.
-void dropControls(TextView& rest);
+void dropControls(TextSpan& rest);
 
 } // namespace plotvue

@@ -7,11 +7,11 @@ namespace plotvue {
 
 namespace {
 
-constexpr TextView monthTable = u"JAN31FEB28MAR31APR30MAY31JUN30JUL31AUG31SEP30OCT31NOV30DEC31";
+constexpr TextSpan monthTable = u"JAN31FEB28MAR31APR30MAY31JUN30JUL31AUG31SEP30OCT31NOV30DEC31";
 
 } // namespace
 
-int daysOfMonth(TextView name)
+int daysOfMonth(TextSpan name)
 {
     // A name that is not found leads to the characters "N3" behind position 0, which read as no number.
     return static_cast<int>(leadingNumber(mid(monthTable, find(monthTable, name) + 3, 2)));

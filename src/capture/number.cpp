@@ -13,13 +13,13 @@ namespace plotvue {
 namespace {
 
 // The field's characters without those that are skipped, as far as they can belong to a number.
-std::string numberCharacters(TextView field, bool dropCommas)
+std::string numberCharacters(TextSpan field, bool dropCommas)
 {
     std::string kept;
     for (const char16_t c : field) {
         if (c == u' ' || c == u'\t' || c == u'\n' || (dropCommas && c == u','))
             continue;
-        if (!((c >= u'0' && c <= u'9') || TextView(u"+-.Ee").find(c) != TextView::npos))
+        if (!((c >= u'0' && c <= u'9') || TextSpan(u"+-.Ee").find(c) != TextSpan::npos))
             break;
         kept += static_cast<char>(c);
     }
@@ -42,7 +42,7 @@ bool tooSmall(std::string_view number)
     return point - first + exponent < 0;
 }
 
-double readNumber(TextView field, bool dropCommas)
+double readNumber(TextSpan field, bool dropCommas)
 {
     const std::string text = numberCharacters(field, dropCommas);
     if (text.starts_with("+-"))
@@ -60,12 +60,12 @@ double readNumber(TextView field, bool dropCommas)
 
 } // namespace
 
-double leadingNumber(TextView field)
+double leadingNumber(TextSpan field)
 {
     return readNumber(field, false);
 }
 
-double leadingNumberWithoutCommas(TextView field)
+double leadingNumberWithoutCommas(TextSpan field)
 {
     return readNumber(field, true);
 }

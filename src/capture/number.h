@@ -9,10 +9,10 @@ namespace plotvue {
 // optional sign, digits with at most one decimal point, and an exponent (E or e, with digits) are taken.
 // Anything else ends the number, so "1,234" reads as 1 and "12.50-" as 12.5; no number reads as 0.
 // Throws Failure when the number is too large for a double.
-double leadingNumber(TextView field);
+double leadingNumber(TextSpan field);
 
 // The same after every comma is dropped: "1,234" reads as 1234.
-double leadingNumberWithoutCommas(TextView field);
+double leadingNumberWithoutCommas(TextSpan field);
 
 // Plain decimal text of a finite number: at most 15 significant digits, no trailing zeros, no exponent, "0"
 // for zero.

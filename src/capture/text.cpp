@@ -6,18 +6,18 @@
 
 namespace plotvue {
 
-Position find(TextView text, TextView wanted)
+Position find(TextSpan text, TextSpan wanted)
 {
     const std::size_t at = text.find(wanted);
-    return at == TextView::npos ? 0 : static_cast<Position>(at) + 1;
+    return at == TextSpan::npos ? 0 : static_cast<Position>(at) + 1;
 }
 
-bool holds(TextView text, TextView wanted)
+bool holds(TextSpan text, TextSpan wanted)
 {
     return find(text, wanted) > 0;
 }
 
-TextView mid(TextView text, Position start, Position length)
+TextSpan mid(TextSpan text, Position start, Position length)
 {
     if (start < 1)
         throw Failure{u"The screen is cut off: a text would begin before its first character."};
@@ -27,7 +27,7 @@ TextView mid(TextView text, Position start, Position length)
     return text.substr(from, static_cast<std::size_t>(length));
 }
 
-TextView withoutLast(TextView text)
+TextSpan withoutLast(TextSpan text)
 {
     return text.empty() ? text : text.substr(0, text.size() - 1);
 }

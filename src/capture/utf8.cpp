@@ -41,7 +41,7 @@ Decoded decode(std::string_view bytes)
 
 } // namespace
 
-std::string toUtf8(TextView text)
+std::string toUtf8(TextSpan text)
 {
     std::string bytes;
     bytes.reserve(text.size());

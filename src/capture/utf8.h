@@ -6,7 +6,7 @@
 
 namespace plotvue {
 
-std::string toUtf8(TextView text);
+std::string toUtf8(TextSpan text);
 Text fromUtf8(std::string_view bytes);
 
 } // namespace plotvue

@@ -11,10 +11,10 @@ namespace {
 
 // Options by index: a data type, then a group or the total. Within a group this window takes the first figure
 // for sales, the second for profit and the third for volume, unlike its sister.
-constexpr std::array<TextView, figuresAGroup> types{u"Sales", u"Profit", u"Volume"};
+constexpr std::array<TextSpan, figuresAGroup> types{u"Sales", u"Profit", u"Volume"};
 constexpr int firstGroup = 3;
 constexpr int total = firstGroup + mostGroups;
-constexpr TextView totalName = u"ALL";
+constexpr TextSpan totalName = u"ALL";
 
 } // namespace
 
@@ -41,7 +41,7 @@ Declaration frmQXM21CXS::declare() const
                          column(std::move(side))}}};
 }
 
-void frmQXM21CXS::drawChart(TextView capture)
+void frmQXM21CXS::drawChart(TextSpan capture)
 {
     const int type = chosenType(), group = chosenGroup();
     std::vector<bool> wanted;
@@ -73,14 +73,14 @@ void frmQXM21CXS::drawChart(TextView capture)
     ChartFX1.SetTitle(3, title);
 }
 
-TextView frmQXM21CXS::nameGroups(const GroupScreen& screen)
+TextSpan frmQXM21CXS::nameGroups(const GroupScreen& screen)
 {
     OptionsControl& optSales = view().options("optSales");
     const int group = chosenGroup();
-    TextView chosen;
+    TextSpan chosen;
     for (int i = 0; i < mostGroups; ++i) {
         const bool there = i < screen.groups;
-        const TextView caption = there ? screen.names[static_cast<std::size_t>(i)] : TextView{};
+        const TextSpan caption = there ? screen.names[static_cast<std::size_t>(i)] : TextSpan{};
         optSales.setCaption(firstGroup + i, caption);
         optSales.setVisible(firstGroup + i, there);
         if (group == firstGroup + i)
@@ -89,7 +89,7 @@ TextView frmQXM21CXS::nameGroups(const GroupScreen& screen)
     return group == total ? totalName : chosen;
 }
 
-void frmQXM21CXS::fillGrid(const std::vector<Text>& labels, const std::vector<double>& values, TextView title)
+void frmQXM21CXS::fillGrid(const std::vector<Text>& labels, const std::vector<double>& values, TextSpan title)
 {
     GridControl& MSFlexGrid1 = view().grid("MSFlexGrid1");
     MSFlexGrid1.setRows(static_cast<int>(values.size()));

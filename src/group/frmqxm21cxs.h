@@ -12,14 +12,14 @@ public:
 
 protected:
     Declaration declare() const override;
-    TextView identifier() const override { return u"QXM21CXS"; }
-    void drawChart(TextView capture) override;
+    TextSpan identifier() const override { return u"QXM21CXS"; }
+    void drawChart(TextSpan capture) override;
 
 private:
     int chosenGroup() const { return view().options("optSales").chosen(1); }
     // Captions of the group options, and the name of the chosen group.
-    TextView nameGroups(const GroupScreen& screen);
-    void fillGrid(const std::vector<Text>& labels, const std::vector<double>& values, TextView title);
+    TextSpan nameGroups(const GroupScreen& screen);
+    void fillGrid(const std::vector<Text>& labels, const std::vector<double>& values, TextSpan title);
 };
 
 } // namespace plotvue

@@ -10,7 +10,7 @@ namespace plotvue {
 namespace {
 
 struct Type {
-    TextView title;
+    TextSpan title;
     int place; // of its figure within a group
 };
 
@@ -36,7 +36,7 @@ Declaration frmQXM21SXC::declare() const
                          column(std::move(side))}}};
 }
 
-void frmQXM21SXC::drawChart(TextView capture)
+void frmQXM21SXC::drawChart(TextSpan capture)
 {
     const Type& type = types.at(static_cast<std::size_t>(chosenType()));
     std::vector<bool> wanted;

@@ -12,8 +12,8 @@ public:
 
 protected:
     Declaration declare() const override;
-    TextView identifier() const override { return u"QXM21SXC"; }
-    void drawChart(TextView capture) override;
+    TextSpan identifier() const override { return u"QXM21SXC"; }
+    void drawChart(TextSpan capture) override;
 };
 
 } // namespace plotvue

@@ -12,38 +12,38 @@ namespace {
 
 constexpr int mostSalesmen = 23;
 
-TextView nextLine(TextView& rest)
+TextSpan nextLine(TextSpan& rest)
 {
-    const TextView line = cutLine(rest);
+    const TextSpan line = cutLine(rest);
     dropControls(rest);
     return line;
 }
 
-int countAfter(TextView line, TextView mark, Position length)
+int countAfter(TextSpan line, TextSpan mark, Position length)
 {
     const Position start = find(line, mark) + static_cast<Position>(mark.size());
     return toInt16(leadingNumber(mid(line, start, length)), u"A count on the screen");
 }
 
 // The names between the semicolons; the last may go without one and then ends with the line.
-std::vector<TextView> namesIn(TextView line, int count)
+std::vector<TextSpan> namesIn(TextSpan line, int count)
 {
-    TextView rest = mid(line, find(line, u";") + 1);
+    TextSpan rest = mid(line, find(line, u";") + 1);
     if (rest.ends_with(carriageReturn))
         rest.remove_suffix(1);
-    std::vector<TextView> names;
+    std::vector<TextSpan> names;
     for (int i = 0; i < count; ++i) {
         const Position end = find(rest, u";");
         names.push_back(end ? mid(rest, 1, end - 1) : rest);
-        rest = end ? mid(rest, end + 1) : TextView{};
+        rest = end ? mid(rest, end + 1) : TextSpan{};
     }
     return names;
 }
 
-Salesman readSalesman(TextView line, std::size_t figures, const std::vector<bool>& wanted)
+Salesman readSalesman(TextSpan line, std::size_t figures, const std::vector<bool>& wanted)
 {
     Salesman salesman{Text(mid(line, 1, 2)) + u'_' + Text(mid(line, 3, 2)), std::vector<double>(figures)};
-    TextView rest = mid(line, 6);
+    TextSpan rest = mid(line, 6);
     for (std::size_t i = 0; i < figures; ++i) {
         const Position end = find(rest, u";");
         if (end && wanted[i])
@@ -55,11 +55,11 @@ Salesman readSalesman(TextView line, std::size_t figures, const std::vector<bool
 
 } // namespace
 
-GroupScreen readGroups(TextView capture, const std::vector<bool>& wanted)
+GroupScreen readGroups(TextSpan capture, const std::vector<bool>& wanted)
 {
-    TextView rest = capture;
+    TextSpan rest = capture;
     nextLine(rest); // the heading
-    const TextView groupLine = nextLine(rest);
+    const TextSpan groupLine = nextLine(rest);
     GroupScreen screen;
     screen.subject = mid(nextLine(rest), 7, 9);
     const int salesmen = readLine(groupLine, [&] {
@@ -73,7 +73,7 @@ GroupScreen readGroups(TextView capture, const std::vector<bool>& wanted)
     screen.names = namesIn(groupLine, screen.groups);
     const auto figures = static_cast<std::size_t>(std::clamp(screen.groups, 0, mostGroups) * figuresAGroup);
     for (int i = 0; i < salesmen; ++i) {
-        const TextView line = nextLine(rest);
+        const TextSpan line = nextLine(rest);
         screen.salesmen.push_back(readLine(line, [&] { return readSalesman(line, figures, wanted); }));
     }
     return screen;

@@ -18,9 +18,9 @@ struct Salesman {
 };
 
 struct GroupScreen {
-    TextView subject;            // columns 7 to 15 of line 3
+    TextSpan subject;            // columns 7 to 15 of line 3
     int groups = 0;              // as the screen says, at most 4 are read
-    std::vector<TextView> names; // one a group
+    std::vector<TextSpan> names; // one a group
     std::vector<Salesman> salesmen;
 };
 
@@ -31,6 +31,6 @@ inline constexpr int figuresAGroup = 3;
 // those that `wanted` says are read; the others are 0.
 // Throws Failure for more than 23 salesmen, or fewer than none, for a count outside 16 bits and for a figure
 // too large for a double. The views point into the capture.
-GroupScreen readGroups(TextView capture, const std::vector<bool>& wanted);
+GroupScreen readGroups(TextSpan capture, const std::vector<bool>& wanted);
 
 } // namespace plotvue

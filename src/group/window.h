@@ -17,8 +17,8 @@ protected:
     void wayOut() override { cmdExit_Click(); }
 
     // The clipboard holds the window's screen: draw it.
-    virtual void drawChart(TextView capture) = 0;
-    virtual TextView identifier() const = 0;
+    virtual void drawChart(TextSpan capture) = 0;
+    virtual TextSpan identifier() const = 0;
 
     int chosenType() const { return view().options("optSales").chosen(); }
 

@@ -17,7 +17,7 @@ namespace plotvue {
 
 namespace {
 
-MonthlyScreen deliveryScreen(Name window, TextView identifier, TextView title, std::vector<int> typeOrder)
+MonthlyScreen deliveryScreen(Name window, TextSpan identifier, TextSpan title, std::vector<int> typeOrder)
 {
     return {
         .window = window,

@@ -18,11 +18,11 @@ constexpr int baseYearLine = 4;
 struct MonthRow {
     const MonthlyScreen& screen;
     const Block& block;
-    TextView line;
+    TextSpan line;
 
     double read(Field field) const
     {
-        const TextView text = mid(line, block.column + field.offset, field.width);
+        const TextSpan text = mid(line, block.column + field.offset, field.width);
         return screen.dropCommas ? leadingNumberWithoutCommas(text) : leadingNumber(text);
     }
 
@@ -69,9 +69,9 @@ Text labelOf(const MonthRow& row, int months, int baseYear)
     return Text(mid(row.line, column, 1)) + Text(mid(row.line, column + 3, 2));
 }
 
-double dayOf(TextView capture, Position at)
+double dayOf(TextSpan capture, Position at)
 {
-    const TextView field = mid(capture, at, 2);
+    const TextSpan field = mid(capture, at, 2);
     return readLine(field, [&] { return leadingNumber(field); });
 }
 
@@ -88,7 +88,7 @@ void turn(std::vector<double>& values)
 
 } // namespace
 
-Acceptance accept(const MonthlyScreen& screen, TextView capture)
+Acceptance accept(const MonthlyScreen& screen, TextSpan capture)
 {
     Acceptance result;
     for (const Needed& needed : screen.needed) {
@@ -108,7 +108,7 @@ Acceptance accept(const MonthlyScreen& screen, TextView capture)
     return result;
 }
 
-MonthlyFigures readMonths(const MonthlyScreen& screen, TextView capture, Position identifier, int months,
+MonthlyFigures readMonths(const MonthlyScreen& screen, TextSpan capture, Position identifier, int months,
                           const DataType& type)
 {
     const double day = screen.day ? dayOf(capture, identifier + *screen.day) : 0;

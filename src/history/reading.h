@@ -14,7 +14,7 @@ struct Acceptance {
 };
 
 // Throws Failure when a position that the screen holds in 16 bits does not fit.
-Acceptance accept(const MonthlyScreen& screen, TextView capture);
+Acceptance accept(const MonthlyScreen& screen, TextSpan capture);
 
 // Slots run from the oldest month read to the newest; one more slot at the end stays empty.
 struct MonthlyFigures {
@@ -27,7 +27,7 @@ struct MonthlyFigures {
 // Reads `months` months for one of the screen's data types. `identifier` is where the screen identifier
 // stands. Throws Failure for what the screen cannot be charted with, EndlessRead for a capture that ends
 // within its first 19 lines.
-MonthlyFigures readMonths(const MonthlyScreen& screen, TextView capture, Position identifier, int months,
+MonthlyFigures readMonths(const MonthlyScreen& screen, TextSpan capture, Position identifier, int months,
                           const DataType& type);
 
 } // namespace plotvue

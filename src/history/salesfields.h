@@ -9,8 +9,8 @@ inline constexpr Field volume{6, 9}, sales{16, 9}, profit{26, 9};
 
 // The five data types of the sales screens. Their percentages are worked out in two orders, which differ in
 // the last bit.
-inline std::vector<DataType> salesTypes(Value (*percent)(Field, Field), TextView percentOption,
-                                        TextView unitOption)
+inline std::vector<DataType> salesTypes(Value (*percent)(Field, Field), TextSpan percentOption,
+                                        TextSpan unitOption)
 {
     return {
         {.option = u"Sales", .caption = u"Sales", .value = figure(sales), .projected = true},

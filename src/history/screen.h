@@ -16,7 +16,7 @@ struct Needed {
         End,   // end the process
         Passes // nothing; only a word that stands too late stops
     };
-    TextView word;
+    TextSpan word;
     Missing missing = Missing::Stop;
     Position below = toTheEnd; // stops when the word first stands at this position or later
 };
@@ -68,21 +68,21 @@ constexpr Value rest(Field a, Field b, Field c)
 }
 
 struct DataType {
-    TextView option{};  // caption of its option
-    TextView caption{}; // title at position 1; empty: neither it nor the decimals are set
+    TextSpan option{};  // caption of its option
+    TextSpan caption{}; // title at position 1; empty: neither it nor the decimals are set
     int decimals = 0;
     Value value{};
     bool projected = false;
     Value second{};    // of screens with a second series of their own, which is hidden while Nothing
-    TextView suffix{}; // of the title at position 2
+    TextSpan suffix{}; // of the title at position 2
 };
 
 // A piece of a title: a text of its own, or characters cut from a line.
 struct Piece {
-    TextView text{};
+    TextSpan text{};
 
     int line = 0;      // the line that is cut; 0: the piece is `text`
-    TextView behind{}; // first occurrence counts; absent counts as position 0, and empty means so
+    TextSpan behind{}; // first occurrence counts; absent counts as position 0, and empty means so
     int from = 0;      // characters behind the first one of `behind`
     Position length = toTheEnd;
     bool lineEnd = true; // may reach into the line's last character, its carriage return
@@ -109,13 +109,13 @@ enum class Amounts {
 };
 
 struct Period {
-    TextView caption;
+    TextSpan caption;
     int months;
 };
 
 struct MonthlyScreen {
     Name window;
-    TextView captionOnLoad{}; // empty: the window keeps "Plotvue!"
+    TextSpan captionOnLoad{}; // empty: the window keeps "Plotvue!"
 
     std::vector<Needed> needed; // the screen identifier is the last
     ShortPositions shortPositions = ShortPositions::None;
@@ -136,10 +136,10 @@ struct MonthlyScreen {
     std::vector<Piece> subject2{}; // title at position 3; empty: not set
 
     std::vector<Period> periods;                                // by option index
-    TextView periodFrame = u"Months", typeFrame = u"Data Type"; // captions; empty: untitled
+    TextSpan periodFrame = u"Months", typeFrame = u"Data Type"; // captions; empty: untitled
     std::vector<int> periodOrder = {1, 0, 2};                   // from the top
     std::vector<int> typeOrder = {0, 1, 2, 3, 4};               // from the top; empty: no choice
-    std::map<int, TextView> legends{{1, u"Projected"}};         // of series that are shown together
+    std::map<int, TextSpan> legends{{1, u"Projected"}};         // of series that are shown together
 };
 
 } // namespace plotvue

@@ -6,18 +6,18 @@
 
 namespace plotvue {
 
-TextView cut(const Piece& piece, const ScreenLines& lines, ShortPositions positions)
+TextSpan cut(const Piece& piece, const ScreenLines& lines, ShortPositions positions)
 {
     if (piece.line == 0)
         return piece.text;
-    const TextView searched = lines[piece.behindLine ? piece.behindLine : piece.line];
+    const TextSpan searched = lines[piece.behindLine ? piece.behindLine : piece.line];
     Position behind = 0;
     if (!piece.behind.empty())
         behind = find(piece.behindBeforeEnd ? withoutLast(searched) : searched, piece.behind);
     if (positions == ShortPositions::All)
         toInt16(static_cast<double>(behind), u"A line of the copied text");
 
-    TextView line = lines[piece.line];
+    TextSpan line = lines[piece.line];
     const Position start = behind + piece.from;
     if (piece.lineLimit != toTheEnd) {
         const Position end = std::min(static_cast<Position>(line.size()), piece.lineLimit);
@@ -32,7 +32,7 @@ Text compose(const std::vector<Piece>& pieces, const ScreenLines& lines, ShortPo
 {
     Text title;
     for (const Piece& piece : pieces)
-        readLine(piece.line ? lines[piece.line] : TextView(), [&] { title += cut(piece, lines, positions); });
+        readLine(piece.line ? lines[piece.line] : TextSpan(), [&] { title += cut(piece, lines, positions); });
     return title;
 }
 

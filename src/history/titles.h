@@ -10,6 +10,6 @@ namespace plotvue {
 Text compose(const std::vector<Piece>& pieces, const ScreenLines& lines, ShortPositions positions);
 
 // The characters of one piece.
-TextView cut(const Piece& piece, const ScreenLines& lines, ShortPositions positions);
+TextSpan cut(const Piece& piece, const ScreenLines& lines, ShortPositions positions);
 
 } // namespace plotvue

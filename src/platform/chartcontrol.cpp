@@ -24,7 +24,7 @@ void ChartControl::SetChartData(const ChartArrayData& data)
     contentChanged();
 }
 
-void ChartControl::SetTitle(int position, TextView text)
+void ChartControl::SetTitle(int position, TextSpan text)
 {
     content_.titles[position] = text;
     contentChanged();
@@ -45,7 +45,7 @@ void ChartControl::ShowSeries(int series, bool shown)
     contentChanged();
 }
 
-void ChartControl::SetSeriesLegend(int series, TextView text)
+void ChartControl::SetSeriesLegend(int series, TextSpan text)
 {
     content_.legends[series] = text;
     contentChanged();

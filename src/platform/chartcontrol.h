@@ -1,7 +1,7 @@
 // The chart operations. A chart is fed through a data object that collects whole arrays.
 #pragma once
 
-#include "platform/chart/content.h"
+#include "chart/content.h"
 
 #include <cstdint>
 
@@ -26,10 +26,10 @@ public:
     virtual ~ChartControl() = default;
 
     void SetChartData(const ChartArrayData& data); // in place of what the chart held
-    void SetTitle(int position, TextView text);    // drawn are 1 (small, above), 2 (large) and 3 (below)
+    void SetTitle(int position, TextSpan text);    // drawn are 1 (small, above), 2 (large) and 3 (below)
     void SetValueDecimals(int decimals);
     void ShowSeries(int series, bool shown);
-    void SetSeriesLegend(int series, TextView text);
+    void SetSeriesLegend(int series, TextSpan text);
     void SetSeriesColor(int series, Colour colour);
     void SetAxisMin(double value);
     void SetAxisMax(double value);

@@ -2,7 +2,7 @@
 // Names and captions must outlive the window (literals do).
 #pragma once
 
-#include "platform/chart/content.h"
+#include "chart/content.h"
 
 #include <map>
 #include <string_view>
@@ -15,14 +15,14 @@ using Name = std::string_view;
 
 struct Button {
     Name name;
-    TextView caption;      // "&" marks the mnemonic
-    TextView shortcut{};   // "F5"; several apart by ", "
-    TextView spokenName{}; // where the caption does not say it; also the tooltip
+    TextSpan caption;      // "&" marks the mnemonic
+    TextSpan shortcut{};   // "F5"; several apart by ", "
+    TextSpan spokenName{}; // where the caption does not say it; also the tooltip
     enum class Picture { None, Arrow } picture = Picture::None;
 };
 
 struct Font {
-    TextView family{}; // asked for; where the desktop lacks it, and where it is empty: the desktop's own
+    TextSpan family{}; // asked for; where the desktop lacks it, and where it is empty: the desktop's own
     double points = 0; // 0: the desktop's own size
     bool bold = false, italic = false;
     bool operator==(const Font&) const = default;
@@ -30,32 +30,32 @@ struct Font {
 
 struct Label {
     Name name;
-    TextView text{};
+    TextSpan text{};
     Font font{};
 };
 
 struct TextBox { // shows text, takes none
     Name name;
-    TextView spokenName;
+    TextSpan spokenName;
 };
 
 struct ListBox { // for display only
     Name name;
-    TextView spokenName;
-    std::vector<TextView> items;
+    TextSpan spokenName;
+    std::vector<TextSpan> items;
     Font font{};
 };
 
 struct Option {
     int index;
-    TextView caption;
+    TextSpan caption;
 };
 
 // One frame of an option group. Frames of the same group name are one control with one chosen option a frame.
 struct OptionFrame {
     Name name;
-    TextView caption;    // empty: an untitled frame
-    TextView spokenName; // where the caption does not say it
+    TextSpan caption;    // empty: an untitled frame
+    TextSpan spokenName; // where the caption does not say it
     Name group;
     std::vector<Option> options; // from the top
     int chosen;                  // index chosen when the window opens
@@ -64,19 +64,19 @@ struct OptionFrame {
 struct ChartBox {
     Name name;
     ChartDesign design{};
-    std::map<int, TextView> titles{}; // by position, until SetTitle gives another
+    std::map<int, TextSpan> titles{}; // by position, until SetTitle gives another
 };
 
 struct GridBox {
     Name name;
-    TextView spokenName;
-    TextView format; // headings apart by "|", which may begin with "<" or ">"; blanks pad the widths
+    TextSpan spokenName;
+    TextSpan format; // headings apart by "|", which may begin with "<" or ">"; blanks pad the widths
     std::vector<int> figures{}; // columns whose cells are figures, right-aligned
 };
 
 struct PictureBox { // says gain or loss beside a grid
     Name name;
-    TextView spokenName;
+    TextSpan spokenName;
     enum class Shows { Gain, Loss } shows;
 };
 
@@ -97,7 +97,7 @@ struct Item {
 
 struct Declaration {
     Name name; // "frmProduct"
-    TextView caption;
+    TextSpan caption;
     Box content;
     // Of the client area when it first opens, in device-independent pixels, in letters of 10 points; in
     // larger ones it is larger in proportion.

@@ -4,7 +4,7 @@
 
 namespace plotvue {
 
-void Platform::message(TextView title, TextView text)
+void Platform::message(TextSpan title, TextSpan text)
 {
     listener({.kind = Event::Kind::Message, .title = title, .text = text});
     showMessage(title, text);
@@ -40,7 +40,7 @@ void Platform::run(const std::function<void()>& handler)
     }
 }
 
-void Platform::fail(TextView sentence)
+void Platform::fail(TextSpan sentence)
 {
     over_ = true;
     listener({.kind = Event::Kind::Error, .text = sentence});

@@ -14,8 +14,8 @@ namespace plotvue {
 struct Event {
     enum class Kind { Load, Show, Hide, Unload, Message, Print, Spin, Error, End } kind;
     Name window{};    // of Load, Show, Hide, Unload, Print
-    TextView title{}; // of Message; empty where the box has none
-    TextView text{};  // of Message and Error
+    TextSpan title{}; // of Message; empty where the box has none
+    TextSpan text{};  // of Message and Error
 };
 
 // Thrown by end(): nothing of the handler that ended the process runs any more.
@@ -36,7 +36,7 @@ public:
                                         std::function<void()> close) = 0;
 
     // Shows a box with an OK button and waits for it.
-    void message(TextView title, TextView text);
+    void message(TextSpan title, TextSpan text);
 
     // Shows the printer dialog, makes the choice the default printer and returns the number of copies.
     // Throws Failure when the dialog is cancelled or fails.
@@ -55,14 +55,14 @@ public:
     bool over() const { return over_; } // the process has ended or failed, or its reader never returns
 
 protected:
-    virtual void showMessage(TextView title, TextView text) = 0;
+    virtual void showMessage(TextSpan title, TextSpan text) = 0;
     virtual void printView(View& view) = 0;
-    virtual void reportError(TextView sentence) = 0; // then the process ends with status 1
+    virtual void reportError(TextSpan sentence) = 0; // then the process ends with status 1
     virtual void spin(int lines) = 0; // waits for ever; the text has that many lines that are not empty
     virtual void finish() = 0;        // the process ends with status 0
 
 private:
-    void fail(TextView sentence);
+    void fail(TextSpan sentence);
 
     bool over_ = false;
 };

@@ -4,7 +4,7 @@
 
 namespace plotvue {
 
-int columnsOf(TextView format)
+int columnsOf(TextSpan format)
 {
     return 1 + static_cast<int>(std::count(format.begin(), format.end(), u'|'));
 }

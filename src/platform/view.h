@@ -15,7 +15,7 @@ public:
     virtual ~OptionsControl() = default;
     // The option chosen in a frame of the group; frames count from 0, in their order on the window.
     virtual int chosen(int frame = 0) const = 0;
-    virtual void setCaption(int index, TextView caption) = 0;
+    virtual void setCaption(int index, TextSpan caption) = 0;
     virtual void setVisible(int index, bool visible) = 0;
 };
 
@@ -24,13 +24,13 @@ class GridControl {
 public:
     virtual ~GridControl() = default;
     virtual void setRows(int rows) = 0; // heading row included; rows that go lose their text
-    virtual void setFormat(TextView format) = 0;
-    virtual void setCell(int row, int column, TextView text) = 0;
+    virtual void setFormat(TextSpan format) = 0;
+    virtual void setCell(int row, int column, TextSpan text) = 0;
     virtual Text cell(int row, int column) const = 0; // "" where nothing was written
 };
 
 // Columns of a grid: as many as its format string has headings.
-int columnsOf(TextView format);
+int columnsOf(TextSpan format);
 
 struct ButtonState {
     Text caption;
@@ -78,8 +78,8 @@ public:
     virtual void show() = 0;
     virtual void hide() = 0;
     virtual bool visible() const = 0;
-    virtual void setCaption(TextView caption) = 0;
-    virtual void setText(Name control, TextView text) = 0; // labels and text boxes
+    virtual void setCaption(TextSpan caption) = 0;
+    virtual void setText(Name control, TextSpan text) = 0; // labels and text boxes
     virtual ChartControl& chart(Name control) = 0;
     virtual OptionsControl& options(Name group) = 0;
     virtual GridControl& grid(Name control) = 0;

@@ -30,14 +30,14 @@ struct Taken {
 
 // A line that holds `text` is taken; every marker is tested on every line, in their order.
 struct Marker {
-    TextView text{};
+    TextSpan text{};
     enum class Opens {
         Nothing,
         Rank,     // the entry whose rank stands in columns 6 to 8
         NextEntry // the entry behind the last one opened
     } opens = Opens::Nothing;
     std::vector<Taken> takes{};
-    void (*then)(RankedReading&, TextView line) = nullptr; // what only this analysis does with the line
+    void (*then)(RankedReading&, TextSpan line) = nullptr; // what only this analysis does with the line
     bool keyOfPage = false; // instead of `text`: the first 5 characters of page text 0 as it stands now
 };
 
@@ -52,8 +52,8 @@ struct KeyPart {
 
 struct Key {
     std::vector<KeyPart> parts;
-    TextView lineBegins{};   // what the entry's first line must begin with
-    TextView recordBegins{}; // the same in the list file
+    TextSpan lineBegins{};   // what the entry's first line must begin with
+    TextSpan recordBegins{}; // the same in the list file
 };
 
 struct GridColumn {
@@ -71,10 +71,10 @@ struct RankedGrid {
 
 struct RankedAnalysis {
     Name window;
-    TextView caption;
+    TextSpan caption;
     std::vector<Item> heading; // labels and text boxes above the grids
-    TextView tips{};           // what the Tips button says; empty: there is none
-    TextView title;            // marks the capture
+    TextSpan tips{};           // what the Tips button says; empty: there is none
+    TextSpan title;            // marks the capture
     int mostLines = 500;
     std::vector<Marker> markers;
     Text pageAtStart{}; // page text 0 before any line

@@ -14,7 +14,7 @@ Declaration DrillDownWindow::declare() const
                           .group = "optSales",
                           .options = {},
                           .chosen = 0};
-        for (const TextView caption : design_.types)
+        for (const TextSpan caption : design_.types)
             frame.options.push_back({static_cast<int>(frame.options.size()), caption});
         side.push_back({frame});
     }

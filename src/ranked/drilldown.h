@@ -14,19 +14,19 @@ using Record = std::vector<Text>; // page text 0, then the entry's screen lines
 // What a drill-down window is beside its frame.
 struct DrillDownDesign {
     Name window;
-    TextView caption;
+    TextSpan caption;
     const RankedAnalysis& analysis;
     int mostRecordsToDraw = 100, mostRecordsToStep = 100;
 
     int width = 1000;              // of the window, as Declaration::width
     std::vector<Item> charts;      // side by side
-    std::vector<TextView> types{}; // captions of the data types by index; empty: no choice
+    std::vector<TextSpan> types{}; // captions of the data types by index; empty: no choice
     // Draws the record; `type` is the index of the chosen data type, 0 where there is no choice.
     void (*draw)(View&, const Record&, int type);
 
     struct Explanation {
         Button button;
-        TextView title;
+        TextSpan title;
         Text (*text)(const Record&);
     };
     std::vector<Explanation> explanations{}; // buttons that show a message about the record drawn

@@ -16,7 +16,7 @@ void RecordWriter::separate()
     inRecord_ = true;
 }
 
-RecordWriter& RecordWriter::text(TextView field)
+RecordWriter& RecordWriter::text(TextSpan field)
 {
     separate();
     bytes_ += '"' + toUtf8(field) + '"';

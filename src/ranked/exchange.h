@@ -14,7 +14,7 @@ inline constexpr const char* chosenRowFile = "plotvue1.txt"; // the key of the e
 // Collects records and writes them in one go.
 class RecordWriter {
 public:
-    RecordWriter& text(TextView field);
+    RecordWriter& text(TextSpan field);
     RecordWriter& number(double field);
     RecordWriter& endRecord();
 

@@ -29,17 +29,17 @@ constexpr int months = 6;
 constexpr int mostBuckets = 8;
 constexpr int bucketsAlwaysRead = 4;
 
-double bucket(TextView line, int number)
+double bucket(TextSpan line, int number)
 {
     return leadingNumber(mid(line, 7 + 8 * number, 8));
 }
 
-void countEntry(RankedReading& reading, TextView)
+void countEntry(RankedReading& reading, TextSpan)
 {
     ++reading.counts[0];
 }
 
-void takeAgeing(RankedReading& reading, TextView line)
+void takeAgeing(RankedReading& reading, TextSpan line)
 {
     Entry& entry = reading.entry(reading.current);
     const double current = bucket(line, 0);
@@ -51,7 +51,7 @@ void takeAgeing(RankedReading& reading, TextView line)
 }
 
 // How many amount columns the caption line is long enough for.
-int bucketsIn(TextView captions)
+int bucketsIn(TextSpan captions)
 {
     int j = 1;
     while (j < mostBuckets && 8 * j + 15 <= static_cast<int>(captions.size()))
@@ -61,13 +61,13 @@ int bucketsIn(TextView captions)
 
 void draw(View& view, const Record& record, int)
 {
-    const TextView entry = record[1], captions = record[2];
+    const TextSpan entry = record[1], captions = record[2];
     const int buckets = bucketsIn(captions);
     std::vector<std::vector<double>> series(static_cast<std::size_t>(buckets), std::vector<double>(months));
     std::vector<Text> labels(months);
     double largest = std::max(0.0, leadingNumber(mid(entry, 70, 8)));
     for (int month = 1; month <= months; ++month) {
-        const TextView line = record[static_cast<std::size_t>(2 + month)];
+        const TextSpan line = record[static_cast<std::size_t>(2 + month)];
         const auto point = static_cast<std::size_t>(months - month);
         labels[point] = mid(record[0], 5 * month - 4, 5);
         double sum = 0;

@@ -21,9 +21,9 @@ namespace {
 
 // Of the record's lines after the first, the last that holds either mark; the second line where none does, as
 // when the screen lacks the rank.
-TextView componentLine(const Record& record)
+TextSpan componentLine(const Record& record)
 {
-    TextView found = record[2];
+    TextSpan found = record[2];
     for (std::size_t field = 3; field < record.size(); ++field)
         if (holds(record[field], u"GAIN:") || holds(record[field], u"P:"))
             found = record[field];

@@ -32,36 +32,36 @@ enum PageTextSlot { monthLabels, title, company };
 constexpr Position valueLength = 13;
 constexpr int monthsOnFirstLine = 7;
 
-TextView codeOf(TextView line)
+TextSpan codeOf(TextSpan line)
 {
     return mid(line, 3, 4);
 }
 
-void nameByCode(RankedReading& reading, TextView line)
+void nameByCode(RankedReading& reading, TextSpan line)
 {
     reading.entry(reading.current).texts[name] = ratioName(codeOf(line));
 }
 
 // The name behind "3A:", up to a bar or the line's end; null where the line has none.
-std::optional<TextView> ownName(TextView line)
+std::optional<TextSpan> ownName(TextSpan line)
 {
-    constexpr TextView mark = u"3A:";
+    constexpr TextSpan mark = u"3A:";
     const Position at = find(line, mark);
     if (at == 0)
         return std::nullopt;
-    const TextView rest = mid(line, at + static_cast<Position>(mark.size()));
+    const TextSpan rest = mid(line, at + static_cast<Position>(mark.size()));
     const Position bar = find(rest, u"|");
     return bar ? mid(rest, 1, bar - 1) : withoutLast(rest);
 }
 
-void nameByLine(RankedReading& reading, TextView line)
+void nameByLine(RankedReading& reading, TextSpan line)
 {
     if (const auto own = ownName(line))
         reading.entry(reading.current).texts[name] = *own;
 }
 
 // What stands behind "4: ". Throws Failure for a line shorter than that.
-TextView textOf(const Record& record, std::size_t line)
+TextSpan textOf(const Record& record, std::size_t line)
 {
     return mid(record[line], 4, static_cast<Position>(record[line].size()) - 3);
 }
@@ -74,8 +74,8 @@ Text formulaMessage(const Record& record)
 
 Text noteMessage(const Record& record)
 {
-    const TextView note = textOf(record, 6);
-    const TextView bare = note.ends_with(carriageReturn) ? withoutLast(note) : note;
+    const TextSpan note = textOf(record, 6);
+    const TextSpan bare = note.ends_with(carriageReturn) ? withoutLast(note) : note;
     return Text(bare == u"STD" ? ratioNote(codeOf(record[2])) : note);
 }
 
@@ -111,7 +111,7 @@ void draw(View& view, const Record& record, int)
     ChartFX1.SetChartData(data);
 }
 
-void countEntry(RankedReading& reading, TextView)
+void countEntry(RankedReading& reading, TextSpan)
 {
     reading.counts[0] = reading.current;
 }

@@ -32,9 +32,9 @@ enum PageTextSlot { monthLabels, title, summaryLine };
 
 constexpr int buckets = 5;
 constexpr Position bucketLength = 8;
-constexpr TextView bucketLabels = u"<30 Days31 - 60 61 - 90 91 - 120Over 120";
+constexpr TextSpan bucketLabels = u"<30 Days31 - 60 61 - 90 91 - 120Over 120";
 
-void countHighestRank(RankedReading& reading, TextView)
+void countHighestRank(RankedReading& reading, TextSpan)
 {
     reading.counts[0] = std::max(reading.counts[0], reading.current);
 }
@@ -50,7 +50,7 @@ Text dollars(double amount)
     return (whole < 0 ? u"-$" : u"$") + digits;
 }
 
-void drawAges(ChartControl& ChartFX2, TextView line)
+void drawAges(ChartControl& ChartFX2, TextSpan line)
 {
     std::vector<double> ages;
     std::vector<Text> labels;
@@ -69,7 +69,7 @@ void drawAges(ChartControl& ChartFX2, TextView line)
 
 void draw(View& view, const Record& record, int type)
 {
-    const TextView entry = record[1];
+    const TextSpan entry = record[1];
     drawAges(view.chart("ChartFX2"), record[2]);
 
     ChartControl& ChartFX1 = view.chart("ChartFX1");

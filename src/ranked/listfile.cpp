@@ -6,7 +6,7 @@ namespace plotvue {
 
 namespace {
 
-TextView keyField(const KeyPart& part, const Record& record)
+TextSpan keyField(const KeyPart& part, const Record& record)
 {
     return mid(record[1], part.column, part.length);
 }
@@ -30,7 +30,7 @@ void writeChosenRow(const RankedAnalysis& analysis, const Record& record)
 {
     RecordWriter writer;
     for (const KeyPart& part : analysis.key.parts) {
-        const TextView field = keyField(part, record);
+        const TextSpan field = keyField(part, record);
         part.number ? writer.number(leadingNumber(field)) : writer.text(field);
     }
     writer.endRecord().writeTo(chosenRowFile);
@@ -56,10 +56,10 @@ const Record& ListFile::find(const KeyValues& key, int most)
 
 bool ListFile::matches(const KeyValues& key) const
 {
-    if (!TextView(record_[1]).starts_with(analysis_.key.recordBegins))
+    if (!TextSpan(record_[1]).starts_with(analysis_.key.recordBegins))
         return false;
     for (std::size_t i = 0; i < key.size(); ++i) {
-        const TextView field = keyField(analysis_.key.parts[i], record_);
+        const TextSpan field = keyField(analysis_.key.parts[i], record_);
         const auto* number = std::get_if<double>(&key[i]);
         if (number ? leadingNumber(field) != *number : field != std::get<Text>(key[i]))
             return false;

@@ -10,7 +10,7 @@ namespace {
 enum Type { Sales, Profit, Volume, Percent, PerUnit };
 
 // Profit by sales or volume; the profit is not read where there is nothing to divide by.
-double perHundred(TextView profitLine, Position profitWidth, TextView divisorLine, int month)
+double perHundred(TextSpan profitLine, Position profitWidth, TextSpan divisorLine, int month)
 {
     const double divisor = monthFigure(divisorLine, month);
     return divisor == 0 ? 0 : finite(finite(monthFigure(profitLine, month, profitWidth) / divisor) * 100);
@@ -34,12 +34,12 @@ double valueOf(const MonthLines& lines, int type, int month)
 
 } // namespace
 
-double monthFigure(TextView line, int month, Position width)
+double monthFigure(TextSpan line, int month, Position width)
 {
     return leadingNumber(mid(line, 8 * month - 5, width));
 }
 
-Text monthLabel(TextView labels, int month)
+Text monthLabel(TextSpan labels, int month)
 {
     return Text(mid(labels, 5 * month - 4, 5));
 }
@@ -54,15 +54,15 @@ const std::array<MonthType, 5>& monthTypes()
     return types;
 }
 
-std::vector<TextView> monthTypeOptions()
+std::vector<TextSpan> monthTypeOptions()
 {
-    std::vector<TextView> options;
+    std::vector<TextSpan> options;
     for (const MonthType& type : monthTypes())
         options.push_back(type.option);
     return options;
 }
 
-ChartArrayData monthSeries(TextView labels, const MonthLines& lines, int type)
+ChartArrayData monthSeries(TextSpan labels, const MonthLines& lines, int type)
 {
     std::vector<Text> names(monthColumns);
     std::vector<double> values(monthColumns);

@@ -52,7 +52,7 @@ Marker totalsMarker(Position previousColumn)
                       {To::PageNumber, previous, previousColumn, 31 - previousColumn}}};
 }
 
-void count(RankedReading& reading, TextView)
+void count(RankedReading& reading, TextSpan)
 {
     ++reading.counts[reading.entry(reading.current).numbers[figure] <= 0 ? losses : gains];
 }
@@ -101,7 +101,7 @@ std::vector<Item> charts()
              1}};
 }
 
-void draw(View& view, const Record& record, int type, TextView componentLine)
+void draw(View& view, const Record& record, int type, TextSpan componentLine)
 {
     const double volume = leadingNumber(mid(componentLine, 19, 9));
     const double margin = leadingNumber(mid(componentLine, 32, 9));
@@ -112,7 +112,7 @@ void draw(View& view, const Record& record, int type, TextView componentLine)
     ChartFX2.SetSeriesColor(0, volume > 0 ? green : red);
     ChartFX2.SetSeriesColor(1, margin > 0 ? green : red);
 
-    const TextView entry = record[1];
+    const TextSpan entry = record[1];
     const MonthType& chosen = monthTypes()[static_cast<std::size_t>(type)];
     // The percentage reads its profit one character wider than the column is.
     const ChartArrayData months = monthSeries(

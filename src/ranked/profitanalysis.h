@@ -20,7 +20,7 @@ Marker labelMarker();
 Marker totalsMarker(Position previousColumn);
 
 // Counts the entry that the line belongs to as a gain, or as a loss when its figure is 0 or less.
-void count(RankedReading& reading, TextView line);
+void count(RankedReading& reading, TextSpan line);
 
 std::vector<Item> heading();
 std::map<Name, Text (*)(const RankedReading&)> summary();
@@ -30,6 +30,6 @@ Key key();
 // Charts and data types of both drill-down windows. `componentLine` is the line that holds the components
 // of the change.
 std::vector<Item> charts();
-void draw(View& view, const Record& record, int type, TextView componentLine);
+void draw(View& view, const Record& record, int type, TextSpan componentLine);
 
 } // namespace plotvue::profit

@@ -9,7 +9,7 @@ namespace plotvue {
 namespace {
 
 struct Ratio {
-    TextView code, name, note;
+    TextSpan code, name, note;
 };
 
 constexpr std::array ratios{
@@ -42,36 +42,36 @@ constexpr std::array components{
     Ratio{u"TLIB", u"Total Liabilites", u"Total Liabilites"}, // spelled as the managers know it
 };
 
-const Ratio* lookUp(std::span<const Ratio> table, TextView code)
+const Ratio* lookUp(std::span<const Ratio> table, TextSpan code)
 {
     const auto at =
         std::find_if(table.begin(), table.end(), [&](const Ratio& ratio) { return ratio.code == code; });
     return at == table.end() ? nullptr : &*at;
 }
 
-const Ratio* lookUpBoth(TextView code)
+const Ratio* lookUpBoth(TextSpan code)
 {
     const Ratio* ratio = lookUp(ratios, code);
     return ratio ? ratio : lookUp(components, code);
 }
 
-constexpr TextView undefined = u"Undefined Ratio";
+constexpr TextSpan undefined = u"Undefined Ratio";
 
 } // namespace
 
-TextView ratioName(TextView code)
+TextSpan ratioName(TextSpan code)
 {
     const Ratio* ratio = lookUp(ratios, code);
     return ratio ? ratio->name : undefined;
 }
 
-TextView ratioOrComponentName(TextView code)
+TextSpan ratioOrComponentName(TextSpan code)
 {
     const Ratio* ratio = lookUpBoth(code);
     return ratio ? ratio->name : undefined;
 }
 
-TextView ratioNote(TextView code)
+TextSpan ratioNote(TextSpan code)
 {
     const Ratio* ratio = lookUpBoth(code);
     return ratio ? ratio->note : u"No information available.";

@@ -8,10 +8,10 @@ namespace plotvue {
 
 // "Undefined Ratio" for a code that is none. The components of formulas have names in the drill-down window
 // only.
-TextView ratioName(TextView code);
-TextView ratioOrComponentName(TextView code);
+TextSpan ratioName(TextSpan code);
+TextSpan ratioOrComponentName(TextSpan code);
 
 // "No information available." for a code without a note.
-TextView ratioNote(TextView code);
+TextSpan ratioNote(TextSpan code);
 
 } // namespace plotvue

@@ -12,19 +12,19 @@ constexpr Position rankColumn = 6;
 constexpr Position rankLength = 3;
 constexpr Position keyLength = 5;
 
-std::vector<TextView> cutLines(TextView rest, int most)
+std::vector<TextSpan> cutLines(TextSpan rest, int most)
 {
-    std::vector<TextView> lines;
-    for (int i = 0; i < most && holds(rest, TextView(&carriageReturn, 1)); ++i) {
+    std::vector<TextSpan> lines;
+    for (int i = 0; i < most && holds(rest, TextSpan(&carriageReturn, 1)); ++i) {
         lines.push_back(cutLine(rest));
         dropControls(rest);
     }
     return lines;
 }
 
-void take(const Taken& taken, TextView line, RankedReading& reading)
+void take(const Taken& taken, TextSpan line, RankedReading& reading)
 {
-    const TextView field = taken.length == toTheEnd ? mid(withoutLast(line), taken.column)
+    const TextSpan field = taken.length == toTheEnd ? mid(withoutLast(line), taken.column)
                                                     : mid(line, taken.column, taken.length);
     const auto slot = static_cast<std::size_t>(taken.slot);
     switch (taken.to) {
@@ -43,9 +43,9 @@ void take(const Taken& taken, TextView line, RankedReading& reading)
     }
 }
 
-void scan(const Marker& marker, TextView line, RankedReading& reading)
+void scan(const Marker& marker, TextSpan line, RankedReading& reading)
 {
-    const TextView key = marker.keyOfPage ? mid(reading.page[0], 1, keyLength) : marker.text;
+    const TextSpan key = marker.keyOfPage ? mid(reading.page[0], 1, keyLength) : marker.text;
     if (!holds(line, key))
         return;
     if (marker.opens == Marker::Opens::Rank)
@@ -71,12 +71,12 @@ bool belongs(const Entry& entry, RankedGrid::Holds holds)
            (holds == RankedGrid::Holds::NotNegative ? entry.numbers[0] >= 0 : entry.numbers[0] <= 0);
 }
 
-bool stands(const Entry& entry, const Key& key, TextView line)
+bool stands(const Entry& entry, const Key& key, TextSpan line)
 {
     if (!line.starts_with(key.lineBegins))
         return false;
     for (const KeyPart& part : key.parts) {
-        const TextView field = mid(line, part.column, part.length);
+        const TextSpan field = mid(line, part.column, part.length);
         const auto slot = static_cast<std::size_t>(part.slot);
         if (part.number ? leadingNumber(field) != entry.numbers[slot] : field != entry.texts[slot])
             return false;
@@ -96,13 +96,13 @@ const Entry& RankedReading::entry(int rank) const
     return entries_[slotOf(rank)];
 }
 
-TextView RankedReading::line(int number) const
+TextSpan RankedReading::line(int number) const
 {
-    return static_cast<std::size_t>(number) > lines.size() ? TextView{}
+    return static_cast<std::size_t>(number) > lines.size() ? TextSpan{}
                                                            : lines[static_cast<std::size_t>(number) - 1];
 }
 
-RankedReading readRanked(const RankedAnalysis& analysis, TextView capture)
+RankedReading readRanked(const RankedAnalysis& analysis, TextSpan capture)
 {
     RankedReading reading;
     reading.accepted = holds(capture, analysis.title);
@@ -110,7 +110,7 @@ RankedReading readRanked(const RankedAnalysis& analysis, TextView capture)
         return reading;
     reading.page[0] = analysis.pageAtStart;
     reading.lines = cutLines(capture, analysis.mostLines);
-    for (const TextView line : reading.lines)
+    for (const TextSpan line : reading.lines)
         readLine(line, [&] {
             for (const Marker& marker : analysis.markers)
                 scan(marker, line, reading);

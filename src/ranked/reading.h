@@ -11,7 +11,7 @@ struct RankedReading {
 
     bool accepted = false; // the capture holds the analysis's title
 
-    std::vector<TextView> lines; // each with its carriage return; blank ones are none
+    std::vector<TextSpan> lines; // each with its carriage return; blank ones are none
     std::array<Text, 4> page{};  // texts of the whole screen; 0 goes into every record
     std::array<double, 2> totals{};
     std::array<int, 2> counts{}; // entries a grid
@@ -22,14 +22,14 @@ struct RankedReading {
     const Entry& entry(int rank) const;
 
     // Throws nothing: lines that the screen does not have are empty.
-    TextView line(int number) const;
+    TextSpan line(int number) const;
 
 private:
     std::array<Entry, mostRanks> entries_{};
 };
 
 // Throws Failure for a rank outside 1 to 100.
-RankedReading readRanked(const RankedAnalysis& analysis, TextView capture);
+RankedReading readRanked(const RankedAnalysis& analysis, TextSpan capture);
 
 // The ranks that a grid lists, in the order of its rows: as many as the grid's count says. Throws Failure
 // when the walk passes rank 100.

@@ -5,7 +5,7 @@
 
 namespace plotvue {
 
-void failForFile(const char* file, TextView what, TextView reason)
+void failForFile(const char* file, TextSpan what, TextSpan reason)
 {
     throw Failure{u"The file " + fromUtf8(file) + u" in the working directory " + Text(what) + u" (" +
                   Text(reason) + u")."};

@@ -12,6 +12,6 @@ void writeSmallFile(const char* file, const std::string& bytes);
 std::string readSmallFile(const char* file);
 
 // Throws the Failure of a file that "cannot be opened", with the system's reason.
-[[noreturn]] void failForFile(const char* file, TextView what, TextView reason);
+[[noreturn]] void failForFile(const char* file, TextSpan what, TextSpan reason);
 
 } // namespace plotvue

@@ -14,7 +14,7 @@ namespace {
 // A pipe in a file's place must not be waited for.
 constexpr int atOnce = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
 
-[[noreturn]] void failFor(const char* file, TextView what)
+[[noreturn]] void failFor(const char* file, TextSpan what)
 {
     failForFile(file, what, fromUtf8(std::strerror(errno)));
 }

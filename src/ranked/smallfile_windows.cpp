@@ -8,7 +8,7 @@ namespace plotvue {
 
 namespace {
 
-[[noreturn]] void failFor(const char* file, TextView what)
+[[noreturn]] void failFor(const char* file, TextSpan what)
 {
     wchar_t reason[512];
     const DWORD length = FormatMessageW(
@@ -65,7 +65,7 @@ public:
     bool close() { return !isOpen() || CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE)); }
 
     // Throws Failure for a pipe or a device: the one would be waited for, the other need not come to an end.
-    void mustBeOnDisk(const char* name, TextView what) const
+    void mustBeOnDisk(const char* name, TextSpan what) const
     {
         if (GetFileType(handle_) == FILE_TYPE_DISK)
             return;
@@ -116,7 +116,7 @@ std::string readSmallFile(const char* name)
 {
     const File file(name, GENERIC_READ, OPEN_EXISTING);
     if (!file.isOpen())
-        failFor(name, isFolder(name) ? TextView(u"cannot be read") : u"cannot be opened");
+        failFor(name, isFolder(name) ? TextSpan(u"cannot be read") : u"cannot be opened");
     file.mustBeOnDisk(name, u"cannot be read");
     std::string bytes;
     char buffer[1 << 16];

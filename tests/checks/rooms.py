@@ -6,13 +6,13 @@ import sys
 from pathlib import Path
 
 CAPTURE = {"capture"}
-CHART = CAPTURE | {"platform/chart"}
+CHART = CAPTURE | {"chart"}
 PLATFORM = CHART | {"platform"}
 APP = PLATFORM | {"history", "group", "ranked", "app"}
 
 MAY_INCLUDE = {
     "capture": CAPTURE,
-    "platform/chart": CHART,
+    "chart": CHART,
     "platform": PLATFORM,
     "platform/recording": PLATFORM | {"platform/recording"},
     "platform/desktop/chart": CHART | {"platform/desktop/chart"},

@@ -1,7 +1,7 @@
 // A shown chart of three months, the newest of them projected, and an empty slot at the end.
 #pragma once
 
-#include "platform/desktop/chart/chart_widget.h"
+#include "platform/desktop/chart/chartwidget.h"
 
 #include <QApplication>
 #include <QKeyEvent>

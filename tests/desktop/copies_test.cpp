@@ -1,7 +1,7 @@
 // What terminals make of a screen when it is copied: the blanks at the ends of lines left out, or every cell
 // filled with them. Whatever the terminal does, the windows look the same.
 #include "desktop/samples_fixture.h"
-#include "platform/desktop/chart/chart_widget.h"
+#include "platform/desktop/chart/chartwidget.h"
 #include "platform/desktop/grid.h"
 
 #include <QLabel>

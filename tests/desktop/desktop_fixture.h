@@ -19,12 +19,12 @@ public:
     std::vector<std::string> endings; // "end", "spin", or the sentence of an error
 
 protected:
-    void showMessage(TextView, TextView text) override
+    void showMessage(TextSpan, TextSpan text) override
     {
         settle();
         messages.emplace_back(text);
     }
-    void reportError(TextView sentence) override { endings.emplace_back(sentence.begin(), sentence.end()); }
+    void reportError(TextSpan sentence) override { endings.emplace_back(sentence.begin(), sentence.end()); }
     void spin(int) override { endings.emplace_back("spin"); }
     void finish() override { endings.emplace_back("end"); }
 };

@@ -1,7 +1,7 @@
 // When windows really come to the screen, the clipboard's line ends, and paper.
 #include "app/application.h"
 #include "desktop/desktop_fixture.h"
-#include "platform/desktop/chart/chart_widget.h"
+#include "platform/desktop/chart/chartwidget.h"
 #include "platform/desktop/clipboard.h"
 #include "support/capturebuilder.h"
 

@@ -98,7 +98,7 @@ TEST_F(DesktopViewTest, ReadsBackWhatTheRecordingPlatformKeeps)
     for (View* each : {view.get(), static_cast<View*>(&recording)}) {
         each->setCaption(u"New & caption");
         each->setText("Label1", u"two\r\nlines\r");
-        each->setText("txt", TextView(u"nul \0 and half a pair \xD800\r", 25));
+        each->setText("txt", TextSpan(u"nul \0 and half a pair \xD800\r", 25));
         each->options("opt").setCaption(6, u"A caption as long as a whole line of the host's screen\r\n");
         each->options("opt").setVisible(7, false);
         GridControl& grid = each->grid("Grid1");

@@ -1,6 +1,6 @@
 // In the size in which a window opens, no label and no title of its charts is left out or cut off.
 #include "desktop/samples_fixture.h"
-#include "platform/desktop/chart/chart_widget.h"
+#include "platform/desktop/chart/chartwidget.h"
 #include "platform/desktop/grid.h"
 
 #include <QRegularExpression>
@@ -79,7 +79,7 @@ protected:
         return labelledSlots.size();
     }
 
-    static bool isWhole(TextView text) { return text.find(u'\u2026') == TextView::npos; }
+    static bool isWhole(TextSpan text) { return text.find(u'\u2026') == TextSpan::npos; }
 
     // The same chart on paper of 300 dots an inch.
     static chart::Layout onPaper(const ChartWidget& chart)

@@ -21,13 +21,13 @@ TEST(LineEnds, AnEmptyLineThatABareLineFeedEndsBecomesABlank)
 
 TEST(LineEnds, PairsStayAsTheyAreAndSoDoTheirEmptyLines)
 {
-    for (const TextView text : {u"a\r\nb\r\n", u"\r\n", u"\r\na", u"a\r\n\r\n\r\nb\r\n"})
+    for (const TextSpan text : {u"a\r\nb\r\n", u"\r\n", u"\r\na", u"a\r\n\r\n\r\nb\r\n"})
         EXPECT_EQ(mendLineEnds(text), text);
 }
 
 TEST(LineEnds, CarriageReturnsAloneStayAsTheyAre)
 {
-    for (const TextView text : {u"a\rb\r", u"\r\r", u"a\r\r\nb"})
+    for (const TextSpan text : {u"a\rb\r", u"\r\r", u"a\r\r\nb"})
         EXPECT_EQ(mendLineEnds(text), text);
 }
 

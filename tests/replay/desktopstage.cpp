@@ -21,7 +21,7 @@ public:
     }
 
 protected:
-    void showMessage(TextView, TextView) override { settle(); }
+    void showMessage(TextSpan, TextSpan) override { settle(); }
 
     void printView(View&) override
     {
@@ -29,7 +29,7 @@ protected:
             throw Failure{u"The printer does not answer."};
     }
 
-    void reportError(TextView) override {}
+    void reportError(TextSpan) override {}
     void spin(int) override {}
     void finish() override {}
 };

@@ -35,7 +35,7 @@ std::string quoted(std::string_view utf8)
     return text + '"';
 }
 
-std::string quoted(TextView text)
+std::string quoted(TextSpan text)
 {
     return quoted(toUtf8(text));
 }

@@ -8,7 +8,7 @@ ROOT = Path(__file__).resolve().parents[2]
 SCREENS = ["history", "group", "ranked", "app"]
 LAYOUT = ["src/capture/lines.cpp", "src/capture/lines.h", "src/capture/month.cpp"]
 FILES = ["src/ranked/exchange.cpp", "src/ranked/smallfile.cpp", "src/ranked/smallfile_unix.cpp"]  # lay out no screen
-COMPUTED = ["capture", *SCREENS, "platform", "platform/chart"]
+COMPUTED = ["capture", *SCREENS, "platform", "chart"]
 
 OPERATORS = {" + ": " - ", " - ": " + ", " * ": " / ", " / ": " * ", " % ": " / ", " += ": " -= ", " -= ": " += ",
              " < ": " <= ", " <= ": " < ", " > ": " >= ", " >= ": " > ", " == ": " != ", " != ": " == ",

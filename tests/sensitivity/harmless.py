@@ -58,7 +58,7 @@ HARMLESS = {
         r"\{\.text = u\"GAIN:\".* <-> \{\.text = u\"P:\"": "what both take stands in the same columns of the same line",
         r"u\"GAIN:\" <-> u\"P:\"": "either mark is asked for, in any order",
     },
-    r"chart/figure_text": {
+    r"chart/figuretext": {
         r"if \(value\[ < -> <= \]0 &&": "the digits of zero are all 0, which takes no minus",
         r"std::round\(scaled\)\)\[ <= -> < \]1e-7": TOLERANCE,
     },

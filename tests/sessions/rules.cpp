@@ -23,7 +23,7 @@ bool holds(const std::vector<std::string>& items, const std::string& item)
 
 } // namespace
 
-void mustBePlain(TextView sentence)
+void mustBePlain(TextSpan sentence)
 {
     const bool begins = !sentence.empty() && sentence.front() >= u'A' && sentence.front() <= u'Z';
     if (!begins || !sentence.ends_with(u'.') || sentence.starts_with(u"PlotVue made a mistake"))

@@ -18,7 +18,7 @@ struct Wrong : std::runtime_error {
 
 extern const std::set<std::string> historyWindows, listWindows; // charts of a row: the list's name and an A
 
-void mustBePlain(TextView sentence); // of an error report, and none about a mistake of the program's own
+void mustBePlain(TextSpan sentence); // of an error report, and none about a mistake of the program's own
 void mustBeEqual(const std::string& what, const std::string& one, const std::string& other);
 
 // The directory holds the small files at most, for their owner only; they are taken away.

@@ -8,7 +8,7 @@
 
 namespace plotvue::test {
 
-CaptureBuilder& CaptureBuilder::put(std::size_t line, std::size_t column, TextView text)
+CaptureBuilder& CaptureBuilder::put(std::size_t line, std::size_t column, TextSpan text)
 {
     if (lines_.size() < line)
         lines_.resize(line);
@@ -19,7 +19,7 @@ CaptureBuilder& CaptureBuilder::put(std::size_t line, std::size_t column, TextVi
     return *this;
 }
 
-Text CaptureBuilder::text(TextView lineEnd) const
+Text CaptureBuilder::text(TextSpan lineEnd) const
 {
     Text result;
     for (const Text& line : lines_) {

@@ -13,10 +13,10 @@ public:
     explicit CaptureBuilder(std::size_t lines = 24) : lines_(lines) {}
 
     // Lines never written to hold a single "." so that they do not vanish as blank ones do.
-    CaptureBuilder& put(std::size_t line, std::size_t column, TextView text);
+    CaptureBuilder& put(std::size_t line, std::size_t column, TextSpan text);
 
     // The lines with CR LF, or another line end.
-    Text text(TextView lineEnd = u"\r\n") const;
+    Text text(TextSpan lineEnd = u"\r\n") const;
 
 private:
     std::vector<Text> lines_;

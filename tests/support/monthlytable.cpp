@@ -10,17 +10,17 @@ namespace plotvue::test {
 
 namespace {
 
-constexpr TextView lineEnd = u"\r\n";
+constexpr TextSpan lineEnd = u"\r\n";
 constexpr int mostLongLabels = 18;
 
 } // namespace
 
-HostScreen::HostScreen(TextView capture)
+HostScreen::HostScreen(TextSpan capture)
 {
     while (!capture.empty()) {
         const std::size_t end = capture.find(lineEnd);
         lines_.emplace_back(capture.substr(0, end));
-        capture.remove_prefix(end == TextView::npos ? capture.size() : end + lineEnd.size());
+        capture.remove_prefix(end == TextSpan::npos ? capture.size() : end + lineEnd.size());
     }
 }
 
@@ -51,7 +51,7 @@ double HostScreen::number(int line, int column, int width) const
     return value;
 }
 
-HostScreen& HostScreen::put(int line, int column, TextView text)
+HostScreen& HostScreen::put(int line, int column, TextSpan text)
 {
     Text& target = lines_.at(static_cast<std::size_t>(line) - 1);
     const std::size_t from = static_cast<std::size_t>(column) - 1;
@@ -60,7 +60,7 @@ HostScreen& HostScreen::put(int line, int column, TextView text)
     return *this;
 }
 
-HostScreen& HostScreen::replaceLine(int line, TextView text)
+HostScreen& HostScreen::replaceLine(int line, TextSpan text)
 {
     lines_.at(static_cast<std::size_t>(line) - 1) = text;
     return *this;

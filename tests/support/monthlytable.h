@@ -12,7 +12,7 @@ namespace plotvue::test {
 // Reads and changes one capture.
 class HostScreen {
 public:
-    explicit HostScreen(TextView capture); // lines end in CR LF
+    explicit HostScreen(TextSpan capture); // lines end in CR LF
 
     Text text() const; // with CR LF again
     Text characters(int line, int column, int width) const;
@@ -20,8 +20,8 @@ public:
     // Commas dropped. Throws std::runtime_error unless the characters hold one number between blanks.
     double number(int line, int column, int width) const;
 
-    HostScreen& put(int line, int column, TextView text); // over what stands there
-    HostScreen& replaceLine(int line, TextView text);
+    HostScreen& put(int line, int column, TextSpan text); // over what stands there
+    HostScreen& replaceLine(int line, TextSpan text);
     HostScreen& moveDown(int line); // a line with a dot comes before it
 
 private:

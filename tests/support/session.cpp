@@ -66,7 +66,7 @@ std::vector<std::string> Session::events()
     return std::exchange(events_, {});
 }
 
-void Session::start(TextView clipboard)
+void Session::start(TextSpan clipboard)
 {
     copy(clipboard);
     start();

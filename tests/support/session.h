@@ -22,9 +22,9 @@ public:
     // "message Need Data: …", "print frmProduct", "spin", "error …", "end".
     std::vector<std::string> events();
 
-    void copy(TextView clipboard) { platform.clipboard = clipboard; }
+    void copy(TextSpan clipboard) { platform.clipboard = clipboard; }
     void start() { app.start(); }
-    void start(TextView clipboard);
+    void start(TextSpan clipboard);
     void press(Name window, Name button);
     void choose(Name window, Name group, int index);
     void clickRow(Name window, Name grid, int row);

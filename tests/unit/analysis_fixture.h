@@ -12,17 +12,17 @@ namespace plotvue::test {
 using Events = std::vector<std::string>;
 using Texts = std::vector<Text>;
 using Numbers = std::vector<double>;
-using Lines = std::vector<TextView>;
+using Lines = std::vector<TextSpan>;
 
 // Month labels as the vendor and the ratio screens have them.
-inline constexpr TextView thirteenMonths =
+inline constexpr TextSpan thirteenMonths =
     u"Mlabel OCT99SEP99AUG99JUL99JUN99MAY99APR99MAR99FEB99JAN99DEC98NOV98OCT98";
 
 // A capture of just these lines.
 inline Text hostScreen(const Lines& lines)
 {
     Text capture;
-    for (const TextView line : lines)
+    for (const TextSpan line : lines)
         capture += Text(line) + u"\r\n";
     return capture;
 }

@@ -1,4 +1,4 @@
-#include "platform/chart/drawable.h"
+#include "chart/drawable.h"
 
 #include <gtest/gtest.h>
 
@@ -17,11 +17,11 @@ TEST(ChartDrawable, LeavesControlCharactersOut)
 
 TEST(ChartDrawable, CutsNoPairInTwo)
 {
-    const auto width = [](TextView text) { return 6.0 * static_cast<double>(text.size()); };
+    const auto width = [](TextSpan text) { return 6.0 * static_cast<double>(text.size()); };
     EXPECT_EQ(drawable(Text(499, u'x') + u"\U0001F600"), Text(499, u'x'));
     EXPECT_EQ(drawable(Text(498, u'x') + u"\U0001F600!"), Text(498, u'x') + u"\U0001F600");
     // With the first and the last of the halves that there are.
-    for (const TextView pair : {u"\U00010000", u"\U0001F600", u"\U0010FFFF"}) {
+    for (const TextSpan pair : {u"\U00010000", u"\U0001F600", u"\U0010FFFF"}) {
         const Text text = u"a" + Text(pair) + u"bcd";
         EXPECT_EQ(elided(text, 18, width), u"a\u2026");
         EXPECT_EQ(elided(text, 24, width), u"a" + Text(pair) + u"\u2026");
@@ -30,7 +30,7 @@ TEST(ChartDrawable, CutsNoPairInTwo)
 
 TEST(ChartDrawable, ElidesToTheRoom)
 {
-    const auto width = [](TextView text) { return 6.0 * static_cast<double>(text.size()); };
+    const auto width = [](TextSpan text) { return 6.0 * static_cast<double>(text.size()); };
     EXPECT_EQ(elided(u"Long title", 60, width), u"Long title");
     EXPECT_EQ(elided(u"Long title", 59, width), u"Long tit\u2026");
     EXPECT_EQ(elided(u"Long title", 54, width), u"Long tit\u2026");

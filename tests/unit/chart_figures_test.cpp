@@ -1,4 +1,4 @@
-#include "platform/chart/figures.h"
+#include "chart/figures.h"
 #include "unit/chart_fixture.h"
 
 #include <cmath>

@@ -2,7 +2,7 @@
 // large titles 7 and 8.
 #pragma once
 
-#include "platform/chart/layout.h"
+#include "chart/layout.h"
 
 #include <sstream>
 #include <string>
@@ -11,7 +11,7 @@ namespace plotvue::chart {
 
 class SixByTwelve : public Metrics {
 public:
-    double width(TextView text, TextRole role) const override
+    double width(TextSpan text, TextRole role) const override
     {
         const double each = role == TextRole::Tiny          ? 5
                             : role == TextRole::LargeTitle  ? 8
@@ -39,7 +39,7 @@ inline ChartContent fourBars()
 
 inline constexpr Size plot400x200{442, 251}; // with ticks of two digits and nothing above
 
-inline std::string narrow(TextView text)
+inline std::string narrow(TextSpan text)
 {
     std::string bytes;
     for (const char16_t c : text)

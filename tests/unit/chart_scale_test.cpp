@@ -1,5 +1,5 @@
-#include "platform/chart/figure_text.h"
-#include "platform/chart/scale.h"
+#include "chart/figuretext.h"
+#include "chart/scale.h"
 #include "unit/chart_fixture.h"
 
 #include <cmath>

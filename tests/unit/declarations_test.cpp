@@ -8,7 +8,7 @@
 namespace plotvue::test {
 namespace {
 
-using Said = std::vector<std::pair<Name, TextView>>; // of the controls that say it, as they stand
+using Said = std::vector<std::pair<Name, TextSpan>>; // of the controls that say it, as they stand
 
 class Declarations : public testing::Test {
 protected:
@@ -103,10 +103,10 @@ TEST_F(Declarations, OfTheSecondSeries)
 {
     open("product");
     EXPECT_EQ(chart("frmProduct").projection, 1);
-    EXPECT_EQ(chart("frmProduct").legends, (std::map<int, TextView>{{1, u"Projected"}}));
+    EXPECT_EQ(chart("frmProduct").legends, (std::map<int, TextSpan>{{1, u"Projected"}}));
     open("latecharge"); // what was lost, not what is to come
     EXPECT_EQ(chart("frmLateCharge").projection, -1);
-    EXPECT_EQ(chart("frmLateCharge").legends, (std::map<int, TextView>{{0, u"Paid"}, {1, u"Lost"}}));
+    EXPECT_EQ(chart("frmLateCharge").legends, (std::map<int, TextSpan>{{0, u"Paid"}, {1, u"Lost"}}));
     open("glhistory");
     EXPECT_EQ(chart("frmGLarch").projection, -1);
     EXPECT_TRUE(chart("frmGLarch").legends.empty());

@@ -26,7 +26,7 @@ TEST(FrmActive, ShowsEveryCountOfEveryMonth)
     const struct {
         Type type;
         Columns columns;
-        TextView title;
+        TextSpan title;
     } types[] = {{Fuels, {5, 9}, u"Count of Active Customers - Fuels"},
                  {Lubes, {13, 9}, u"Count of Active Customers - Lubes/Other"},
                  {Cardlock, {21, 9}, u"Count of Active Customers - Cardlock"},

@@ -50,7 +50,7 @@ TEST_F(FrmCustP2, ChartsItsSample)
 
 TEST_F(FrmCustP2, NeverTakesTheCustomerPastColumn34)
 {
-    const std::pair<TextView, TextView> customers[] = {
+    const std::pair<TextSpan, TextSpan> customers[] = {
         {u"SHORT CO", u"SHORT CO"},
         {u"ABCDEFGHIJKLMNOPQRSTUVWX", u"ABCDEFGHIJKLMNOPQRSTUVWX"},    // ends in column 33
         {u"ABCDEFGHIJKLMNOPQRSTUVWXY", u"ABCDEFGHIJKLMNOPQRSTUVWXY"},  // 34
@@ -120,7 +120,7 @@ TEST_F(FrmCustP2, IsLeftWhenAWordOfItsScreenIsAbsent)
 
 TEST_F(FrmCustP2, HidesItselfAtOnceWhenAWordIsAbsent)
 {
-    for (const TextView word : {u"YTD", u"QTY"}) {
+    for (const TextSpan word : {u"YTD", u"QTY"}) {
         HistoryTester refused("frmCustP2");
         refused.start(blotted(screen.text(), word));
         EXPECT_FALSE(refused.session.visible("frmCustP2"));
@@ -136,7 +136,7 @@ TEST_F(FrmCustP2, AcceptsACategoryMarkAnywhere)
 
 TEST_F(FrmCustP2, HoldsThePlacesOfItsWordsInSixteenBits)
 {
-    for (const TextView word : {u"YTD", u"QTY", u"QXM12P2"}) {
+    for (const TextSpan word : {u"YTD", u"QTY", u"QXM12P2"}) {
         const Text wordless = blotted(screen.text(), word);
         HistoryTester own("frmCustP2");
         own.start(screen.text());

@@ -87,7 +87,7 @@ TEST_F(FrmCustP, IsLeftWhenAWordOfItsScreenIsAbsent)
 
 TEST_F(FrmCustP, HidesItselfAtOnceWhenAWordIsAbsent)
 {
-    for (const TextView word : {u"YTD", u"QTY"}) {
+    for (const TextSpan word : {u"YTD", u"QTY"}) {
         HistoryTester refused("frmCustP");
         refused.start(blotted(screen.text(), word));
         EXPECT_THAT(refused.session.events(), ElementsAre("load startup", "show startup", "hide startup",
@@ -126,7 +126,7 @@ TEST_F(FrmCustP, AcceptsTheScreenOfACustomersPack)
 
 TEST_F(FrmCustP, HoldsThePlacesOfItsWordsInSixteenBits)
 {
-    for (const TextView word : {u"YTD", u"QTY", u"QXM12P"}) {
+    for (const TextSpan word : {u"YTD", u"QTY", u"QXM12P"}) {
         const Text wordless = blotted(screen.text(), word);
         HistoryTester own("frmCustP");
         own.start(screen.text());

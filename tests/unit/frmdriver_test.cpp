@@ -39,7 +39,7 @@ INSTANTIATE_TEST_SUITE_P(FrmTruck, SalesHistoryTest,
 struct Delivery {
     Name window;
     std::string_view sample;
-    TextView identifier, subject, prefix, category;
+    TextSpan identifier, subject, prefix, category;
     double restOfSales; // of the newest month
 };
 
@@ -52,7 +52,7 @@ protected:
     Session session;
 
     Events left() const { return {"hide " + window, "show startup"}; }
-    Text withPrefix(TextView text) const { return Text(delivery.prefix) + Text(text); }
+    Text withPrefix(TextSpan text) const { return Text(delivery.prefix) + Text(text); }
 };
 
 TEST_P(DeliveryWindow, TitlesNameTheSubjectAndTheCategory)

@@ -14,11 +14,11 @@ HostScreen ledger()
 }
 
 // One year of amounts, January first, in the newest column.
-HostScreen ledgerWith(const std::vector<TextView>& amounts)
+HostScreen ledgerWith(const std::vector<TextSpan>& amounts)
 {
     HostScreen host = ledger();
     int line = 6;
-    for (const TextView amount : amounts)
+    for (const TextSpan amount : amounts)
         host.put(line++, 62, Text(13 - amount.size(), u' ') + Text(amount));
     return host;
 }
@@ -98,7 +98,7 @@ TEST(FrmGLarch, FiveYearsBeginInTheOldestColumn)
 
 TEST(FrmGLarch, AnAmountIsExactlyItsThirteenColumns)
 {
-    const TextView amounts = u"00012345678917"
+    const TextSpan amounts = u"00012345678917"
                              u"00010000000327"
                              u"00010000000537"
                              u"00010000000747"

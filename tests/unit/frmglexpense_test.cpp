@@ -19,7 +19,7 @@ TEST(FrmGLexpense, ShowsEveryFigureOfEveryMonth)
     const MonthlyTable table(expense(), {{1, 12, 7, 1}, {13, 13, 7, 41}});
     const struct {
         Type type;
-        TextView caption;
+        TextSpan caption;
         int decimals;
         Columns columns;
     } types[] = {{Dollars, u"Dollars", 0, {5, 12}},

@@ -37,7 +37,7 @@ TEST(FrmLateCharge, ShowsEveryFigureOfEveryMonth)
         }
         const struct {
             Type type;
-            TextView caption;
+            TextSpan caption;
             int decimals;
             const Numbers &first, &second;
             std::set<int> hidden;
@@ -168,7 +168,7 @@ TEST(FrmLateCharge, PaidAndLostAreTheSeriesNames)
 {
     forEachControl(declareHistoryWindow(frmLateCharge).content, [](const auto& control) {
         if constexpr (std::is_same_v<std::decay_t<decltype(control)>, ChartBox>) {
-            EXPECT_EQ(control.design.legends, (std::map<int, TextView>{{0, u"Paid"}, {1, u"Lost"}}));
+            EXPECT_EQ(control.design.legends, (std::map<int, TextSpan>{{0, u"Paid"}, {1, u"Lost"}}));
         }
     });
 }

@@ -56,8 +56,8 @@ TEST_F(CategoriesBySalesman, OpensWithTheTotalOfSales)
 TEST_F(CategoriesBySalesman, EveryTypeOfEveryGroup)
 {
     session.start(screen(4).text());
-    const TextView types[] = {u"Sales - ", u"Profit - ", u"Volume - "};
-    const TextView groups[] = {u"FUELS", u"LUBES", u"HEATING", u"CARDLOCK"};
+    const TextSpan types[] = {u"Sales - ", u"Profit - ", u"Volume - "};
+    const TextSpan groups[] = {u"FUELS", u"LUBES", u"HEATING", u"CARDLOCK"};
     for (int type = Sales; type <= Volume; ++type)
         for (int group = 0; group < 4; ++group) {
             const ChartContent content = chart(static_cast<TypeOption>(type), firstGroup + group);

@@ -22,12 +22,12 @@ inline Text wholeNumber(std::size_t number)
 
 // A screen of two salesmen and as many groups as asked for. A figure tells where it stands: salesman 2,
 // group 3, second figure is 232.
-inline CaptureBuilder groupScreen(TextView identifier, std::size_t groups, std::size_t salesmen = 2)
+inline CaptureBuilder groupScreen(TextSpan identifier, std::size_t groups, std::size_t salesmen = 2)
 {
     CaptureBuilder capture(3 + salesmen);
     capture.put(1, 1, identifier);
     Text names;
-    for (const TextView name : {u"FUELS;", u"LUBES;", u"HEATING;", u"CARDLOCK;"})
+    for (const TextSpan name : {u"FUELS;", u"LUBES;", u"HEATING;", u"CARDLOCK;"})
         if (groups-- > 0)
             names += name;
         else

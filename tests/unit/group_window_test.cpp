@@ -8,7 +8,7 @@ namespace {
 
 struct Screen {
     Name window;
-    TextView identifier;
+    TextSpan identifier;
 };
 
 class GroupWindows : public testing::TestWithParam<Screen> {
@@ -28,7 +28,7 @@ TEST_P(GroupWindows, AnotherScreenLeavesTheWindowAsItIs)
     session.start(screen(4).text());
     const auto before = session.chart(window).series;
     session.events();
-    for (const TextView foreign : {u"", u"QXM31H", u"qxm21sxc qxm21cxs"}) {
+    for (const TextSpan foreign : {u"", u"QXM31H", u"qxm21sxc qxm21cxs"}) {
         session.copy(foreign);
         session.choose(window, "optSales", Profit);
         EXPECT_EQ(session.events(), (Events{"hide " + name, "show startup"}));
@@ -92,7 +92,7 @@ TEST_P(GroupWindows, TwentyThreeSalesmenAreTheMost)
 
 TEST_P(GroupWindows, ACountBelowZeroOrBeyondTheTypeIsARunTimeError)
 {
-    for (const TextView count : {u"       -1", u"000040000"}) {
+    for (const TextSpan count : {u"       -1", u"000040000"}) {
         Session broken;
         CaptureBuilder capture = screen(2);
         broken.start(capture.put(2, 18, count).text());
@@ -131,7 +131,7 @@ TEST_P(GroupWindows, BlankLinesAreNone)
 
 TEST_P(GroupWindows, WithoutALineEndALineHas81Characters)
 {
-    const auto padded = [](TextView line) { return Text(line) + Text(81 - line.size(), u' '); };
+    const auto padded = [](TextSpan line) { return Text(line) + Text(81 - line.size(), u' '); };
     session.start(padded(GetParam().identifier) + padded(u"GROUPS:01 SCOUNT:2         ;FUELS;") +
                   padded(u"MONTH:OCT  1999") + padded(u"0301 7;8;9;") + u"0302 17;18;19;");
     EXPECT_EQ(session.chart(window).titles.at(2), u"OCT  1999");
@@ -154,7 +154,7 @@ TEST_P(GroupWindows, ACaptureCutAnywhereIsNoError)
     session.start(whole);
     const Events opened = session.events();
     for (std::size_t length = GetParam().identifier.size(); length < whole.size(); ++length) {
-        session.copy(TextView(whole).substr(0, length));
+        session.copy(TextSpan(whole).substr(0, length));
         session.press(window, "cmdRefresh");
         ASSERT_EQ(session.events(), Events{}) << length;
     }

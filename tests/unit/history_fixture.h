@@ -21,7 +21,7 @@ struct PeriodOption {
 inline constexpr PeriodOption periodOptions[] = {{0, 13}, {1, 25}, {2, 6}};
 
 // Digits without a gap: laid over a row they show which columns a figure is read from.
-inline constexpr TextView ruler = u"3141592653589793238462643383279502";
+inline constexpr TextSpan ruler = u"3141592653589793238462643383279502";
 
 inline HostScreen hostScreen(std::string_view name)
 {
@@ -82,7 +82,7 @@ inline double valueOf(const ChartContent& chart, int months, int month, std::siz
 }
 
 // Exit leaves the window loaded with its chart, and the start-up window brings it back as it was.
-inline void expectExitKeepsTheChart(Session& session, const std::string& window, TextView otherCapture)
+inline void expectExitKeepsTheChart(Session& session, const std::string& window, TextSpan otherCapture)
 {
     const auto before = session.chart(window).series;
     session.events();
@@ -97,7 +97,7 @@ inline void expectExitKeepsTheChart(Session& session, const std::string& window,
 }
 
 // A capture of another screen hides the window, with its chart as it was; the start-up window comes back.
-inline void expectForeignCaptureLeaves(Session& session, const std::string& window, TextView foreign)
+inline void expectForeignCaptureLeaves(Session& session, const std::string& window, TextSpan foreign)
 {
     const ChartContent before = session.chart(window);
     session.events();

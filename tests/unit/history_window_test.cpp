@@ -17,7 +17,7 @@ using testing::IsEmpty;
 using testing::StartsWith;
 
 // A product screen with these sales in the newest month and nothing else.
-Text withSales(TextView sales, TextView product = u"0020450001")
+Text withSales(TextSpan sales, TextSpan product = u"0020450001")
 {
     return CaptureBuilder()
         .put(1, 1, u"QXM31H")
@@ -86,14 +86,14 @@ TEST_F(HistoryWindowTest, DataTypesStandInTheOrderOfTheirIndex)
 
 TEST_F(HistoryWindowTest, ItsFramesAreTitled)
 {
-    std::map<Name, std::pair<Name, TextView>> frames;
+    std::map<Name, std::pair<Name, TextSpan>> frames;
     forEachControl(declareHistoryWindow(frmProduct).content, [&](const auto& control) {
         if constexpr (std::is_same_v<std::decay_t<decltype(control)>, OptionFrame>)
             frames[control.name] = {control.group, control.caption};
     });
     EXPECT_EQ(frames.size(), 2u);
-    EXPECT_EQ(frames["Frame2"], std::pair(Name("opt12"), TextView(u"Months")));
-    EXPECT_EQ(frames["Frame1"], std::pair(Name("optSales"), TextView(u"Data Type")));
+    EXPECT_EQ(frames["Frame2"], std::pair(Name("opt12"), TextSpan(u"Months")));
+    EXPECT_EQ(frames["Frame1"], std::pair(Name("optSales"), TextSpan(u"Data Type")));
 }
 
 TEST_F(HistoryWindowTest, PeriodsShow13And25And6MonthsAndAnEmptyPoint)
@@ -150,7 +150,7 @@ TEST_F(HistoryWindowTest, AScreenOfAnotherKindSendsTheUserToTheStartWindow)
         [this] { session.choose("frmProduct", "optSales", 4); },
     };
     for (const auto& click : clicks) {
-        for (const TextView other : {u"QXM21D 10", u"", u"qxm31h"}) {
+        for (const TextSpan other : {u"QXM21D 10", u"", u"qxm31h"}) {
             session.copy(other);
             click();
             EXPECT_THAT(session.events(), ElementsAre("hide frmProduct", "show startup"));

@@ -281,7 +281,7 @@ TEST(DashLine, IsCountedWithoutTheVanishedLines)
 
 TEST(CutLine, LeavesWhatFollows)
 {
-    TextView rest = u"A\r\nB";
+    TextSpan rest = u"A\r\nB";
     EXPECT_EQ(cutLine(rest), u"A\r");
     EXPECT_EQ(rest, u"\nB");
     dropControls(rest);

@@ -5,15 +5,15 @@
 namespace plotvue::test {
 namespace {
 
-constexpr TextView thirtyLetters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZ1234";
+constexpr TextSpan thirtyLetters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZ1234";
 
-Text entryLine(TextView rank)
+Text entryLine(TextSpan rank)
 {
     return u"RANK:" + Text(rank) + u"76543" + u"12345" + u"6" + Text(thirtyLetters) + u"5" + u"abcdefghij" +
            u"klm";
 }
 
-constexpr TextView partsLine = u"987654321" // 6-14: the figure, where it is read
+constexpr TextSpan partsLine = u"987654321" // 6-14: the figure, where it is read
                                u"0000"      // 15-18
                                u"123456789" // 19-27
                                u"5555"      // 28-31
@@ -22,7 +22,7 @@ constexpr TextView partsLine = u"987654321" // 6-14: the figure, where it is rea
 
 struct Analysis {
     const RankedAnalysis& list;
-    TextView title, figureMark;
+    TextSpan title, figureMark;
 };
 
 class ProfitColumns : public testing::TestWithParam<Analysis> {
@@ -108,7 +108,7 @@ TEST(ProfitTotals, OfTheRankedScreenHaveTenColumnsEach)
 // In the drill-down windows: months of eight characters without a gap, digits before and behind them.
 struct DrillDown {
     Name list, window;
-    TextView title, figureMark;
+    TextSpan title, figureMark;
 };
 
 class ProfitMonths : public testing::TestWithParam<DrillDown> {

@@ -10,7 +10,7 @@ protected:
 
     void start(const CaptureBuilder& capture) { session.start(capture.text()); }
 
-    Text sentence(TextView current, TextView previous)
+    Text sentence(TextSpan current, TextSpan previous)
     {
         MonthToMonthScreen screen;
         screen.put(totalsLine, 9, rightAligned(current, 10)).put(totalsLine, 20, rightAligned(previous, 11));

@@ -16,7 +16,7 @@ protected:
         session.clickRow(m2m, gainsGrid, row);
     }
 
-    ChartContent components(TextView volume, TextView margin)
+    ChartContent components(TextSpan volume, TextSpan margin)
     {
         Session other;
         other.start(MonthToMonthScreen().add(1, u"5", volume, margin).text());
@@ -25,7 +25,7 @@ protected:
     }
 
     // The newest month's value for a profit, sales and volume as they stand in its columns.
-    double newest(int type, TextView profit, TextView sales, TextView volume)
+    double newest(int type, TextSpan profit, TextSpan sales, TextSpan volume)
     {
         MonthToMonthScreen screen;
         screen.add(1, u"5");
@@ -71,7 +71,7 @@ TEST_F(MonthToMonthCharts, OpensWithTheSalesOfItsRow)
 TEST_F(MonthToMonthCharts, TypesHaveTheirTitleAndDecimals)
 {
     open(MonthToMonthScreen().add(1, u"5").add(2, u"4"), 2);
-    const std::tuple<TextView, int, double> expected[] = {{u"Sales", 0, 21},
+    const std::tuple<TextSpan, int, double> expected[] = {{u"Sales", 0, 21},
                                                           {u"Profit", 0, 2021},
                                                           {u"Volume", 0, 1021},
                                                           {u"Profit%", 2, 2021.0 / 21 * 100},
@@ -160,7 +160,7 @@ TEST_F(MonthToMonthCharts, TheComponentsAreTwoSeriesOfAPoint)
 TEST_F(MonthToMonthCharts, TheComponentsFillTheirAxis)
 {
     struct {
-        TextView volume, margin;
+        TextSpan volume, margin;
         double smallest, largest;
     } const cases[] = {{u"820", u"430", 0, 820},
                        {u"430", u"820", 0, 820},
@@ -179,7 +179,7 @@ TEST_F(MonthToMonthCharts, TheComponentsFillTheirAxis)
 TEST_F(MonthToMonthCharts, AGainIsGreenAndAllElseRed)
 {
     struct {
-        TextView volume, margin;
+        TextSpan volume, margin;
         Colour first, second;
     } const cases[] = {{u"0.01", u"0.01", green, green},
                        {u"0", u"5", red, green},

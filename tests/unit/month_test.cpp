@@ -9,7 +9,7 @@ namespace {
 
 TEST(DaysOfMonth, EveryMonthHasItsDaysAndFebruaryAlways28)
 {
-    const std::pair<TextView, int> months[] = {
+    const std::pair<TextSpan, int> months[] = {
         {u"JAN", 31}, {u"FEB", 28}, {u"MAR", 31}, {u"APR", 30}, {u"MAY", 31}, {u"JUN", 30},
         {u"JUL", 31}, {u"AUG", 31}, {u"SEP", 30}, {u"OCT", 31}, {u"NOV", 30}, {u"DEC", 31},
     };

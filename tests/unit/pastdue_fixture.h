@@ -5,22 +5,22 @@
 
 namespace plotvue::test {
 
-inline constexpr TextView pastdueTitle = u"RANKED PAST DUE RECEIVABLES";
-inline constexpr TextView pastdueMonths = u"Mlabel OCT99SEP99AUG99JUL99JUN99MAY99";
-inline constexpr TextView fourBuckets = u"       CURRENT  1 - 30 31 - 60 OVER 60";
+inline constexpr TextSpan pastdueTitle = u"RANKED PAST DUE RECEIVABLES";
+inline constexpr TextSpan pastdueMonths = u"Mlabel OCT99SEP99AUG99JUL99JUN99MAY99";
+inline constexpr TextSpan fourBuckets = u"       CURRENT  1 - 30 31 - 60 OVER 60";
 
-inline Text atRight(TextView text, std::size_t width)
+inline Text atRight(TextSpan text, std::size_t width)
 {
     return Text(width - text.size(), u' ') + Text(text);
 }
 
-inline Text padded(TextView text, std::size_t width)
+inline Text padded(TextSpan text, std::size_t width)
 {
     return Text(text) + Text(width - text.size(), u' ');
 }
 
-inline Text rankLine(TextView rank, TextView number, TextView name, TextView city, TextView state,
-                     TextView amount)
+inline Text rankLine(TextSpan rank, TextSpan number, TextSpan name, TextSpan city, TextSpan state,
+                     TextSpan amount)
 {
     return CaptureBuilder(1)
         .put(1, 1, u"RANK:")
@@ -34,10 +34,10 @@ inline Text rankLine(TextView rank, TextView number, TextView name, TextView cit
 }
 
 // Amounts of eight columns from column 7 on.
-inline Text ageing(TextView month, const Lines& amounts)
+inline Text ageing(TextSpan month, const Lines& amounts)
 {
     Text line = padded(month, 6);
-    for (const TextView amount : amounts)
+    for (const TextSpan amount : amounts)
         line += atRight(amount, 8);
     return line;
 }

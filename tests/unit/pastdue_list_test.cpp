@@ -94,7 +94,7 @@ TEST_P(AgeingLine, IsSummedAsFarAsItReaches)
     const Text whole = u"OCT99 1       1       1       1       1       1       1       1       1       ";
     Session session;
     session.start(hostScreen({pastdueTitle, pastdueMonths, u"RANK:  1     10442",
-                              TextView(whole).substr(0, GetParam().characters)}));
+                              TextSpan(whole).substr(0, GetParam().characters)}));
     EXPECT_EQ(pastdueRows(session).at(0).at(5), GetParam().total);
 }
 

@@ -57,7 +57,7 @@ protected:
     {
         return chart(capture, type).series.at(1).at(12);
     }
-    Text subject(TextView line2)
+    Text subject(TextSpan line2)
     {
         return chart(screen().put(2, 1, Text(80, u' ')).put(2, 1, line2)).titles.at(2);
     }
@@ -66,7 +66,7 @@ protected:
 };
 
 // Fields filled to their edges, with figures between them that belong to none.
-inline Text fullRow(TextView label, std::size_t month)
+inline Text fullRow(TextSpan label, std::size_t month)
 {
     return Text(label) + u"7" + number(111000000 + month) + u"7" + number(222000000 + 2 * month) + u"7" +
            number(333000000 + 3 * month) + u"7";
@@ -94,7 +94,7 @@ inline CaptureBuilder fullScreen()
     return capture;
 }
 
-inline CaptureBuilder newest(TextView volume, TextView sales, TextView profit)
+inline CaptureBuilder newest(TextSpan volume, TextSpan sales, TextSpan profit)
 {
     return screen().put(6, 7, volume).put(6, 17, sales).put(6, 27, profit);
 }

@@ -13,7 +13,7 @@ using test::Session;
 using testing::ElementsAre;
 
 struct Month {
-    TextView label;
+    TextSpan label;
     double volume, sales, profit;
 };
 
@@ -34,7 +34,7 @@ constexpr Month months[25] = {
 };
 
 struct Type {
-    TextView title;
+    TextSpan title;
     int decimals;
     double (*value)(const Month&);
     bool projected;

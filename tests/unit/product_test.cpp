@@ -69,7 +69,7 @@ TEST_F(ProductTest, TheRightBlockStartsOnTheSecondLineUnderTheDashes)
 
 TEST_F(ProductTest, TypesHaveTheirTitleAndDecimals)
 {
-    const std::pair<TextView, int> expected[] = {
+    const std::pair<TextSpan, int> expected[] = {
         {u"Sales", 0}, {u"Profit", 0}, {u"Volume", 0}, {u"Profit%", 2}, {u"Unit G/P", 2}};
     for (int type = Sales; type <= UnitProfit; ++type) {
         const ChartContent content = chart(screen(), static_cast<Type>(type));
@@ -166,7 +166,7 @@ TEST_F(ProductTest, PercentagesAreNotProjected)
 
 TEST_F(ProductTest, FebruaryHas28DaysInLeapYearsToo)
 {
-    for (const TextView label : {u"FEB99", u"FEB00"}) {
+    for (const TextSpan label : {u"FEB99", u"FEB00"}) {
         CaptureBuilder capture = newest(u"", u"1000", u"");
         EXPECT_DOUBLE_EQ(projection(capture.put(6, left, label).put(1, 17, u"14")), 1000);
     }
@@ -192,7 +192,7 @@ TEST_F(ProductTest, ADayBehindTheEndOfTheMonthProjectsBackwards)
 
 TEST_F(ProductTest, WithoutADayNothingIsProjected)
 {
-    for (const TextView day : {u"  ", u"00", u"XX", u"/1", u" 0"}) {
+    for (const TextSpan day : {u"  ", u"00", u"XX", u"/1", u" 0"}) {
         CaptureBuilder capture = newest(u"", u"1000", u"");
         EXPECT_EQ(projection(capture.put(1, 17, day)), 0) << toUtf8(day);
     }
@@ -200,7 +200,7 @@ TEST_F(ProductTest, WithoutADayNothingIsProjected)
 
 TEST_F(ProductTest, TheDayIsTwoCharacters)
 {
-    for (const TextView around : {u"91039", u"9 1039"}) {
+    for (const TextSpan around : {u"91039", u"9 1039"}) {
         CaptureBuilder capture = newest(u"", u"1000", u"");
         // "10" of the first, "1" of the second.
         const double day = around[1] == u' ' ? 1 : 10;
@@ -238,7 +238,7 @@ TEST_F(ProductTest, TheIdentifierMayStandAnywhere)
 TEST_F(ProductTest, AnUnknownNewestMonthIsARunTimeErrorForEveryType)
 {
     for (int type = Sales; type <= UnitProfit; ++type) {
-        for (const TextView name : {u"XXX99", u"Nov99", u"     "}) {
+        for (const TextSpan name : {u"XXX99", u"Nov99", u"     "}) {
             Session broken;
             broken.start(screen().text());
             broken.choose("frmProduct", "optSales", type);

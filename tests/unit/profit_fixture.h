@@ -12,7 +12,7 @@ inline constexpr Name m2m = "frmM2Mpft", m2mA = "frmM2MpftA";
 inline constexpr Name profRank = "frmProfRank", profRankA = "frmProfRankA";
 inline constexpr Name gainsGrid = "MSFlexGrid1", lossesGrid = "MSFlexGrid2";
 
-inline constexpr TextView monthLabels = u"OCT99SEP99AUG99JUL99JUN99MAY99APR99MAR99FEB99JAN99DEC98NOV98OCT98";
+inline constexpr TextSpan monthLabels = u"OCT99SEP99AUG99JUL99JUN99MAY99APR99MAR99FEB99JAN99DEC98NOV98OCT98";
 inline constexpr int labelLine = 3, totalsLine = 4, firstEntryLine = 5, linesAnEntry = 5;
 
 inline Text digits(int number)
@@ -20,7 +20,7 @@ inline Text digits(int number)
     return fromUtf8(std::to_string(number));
 }
 
-inline Text rightAligned(TextView text, std::size_t width)
+inline Text rightAligned(TextSpan text, std::size_t width)
 {
     return Text(width - std::min(width, text.size()), u' ') + Text(text);
 }
@@ -29,7 +29,7 @@ inline Text rightAligned(TextView text, std::size_t width)
 // "CUSTOMER r", group "GROUP r", and sells 10 * r + k in month k, 1000 more by volume, 2000 more by profit.
 class ProfitScreen : public CaptureBuilder {
 public:
-    ProfitScreen(TextView title, TextView figureMark) : CaptureBuilder(4), mark_(figureMark)
+    ProfitScreen(TextSpan title, TextSpan figureMark) : CaptureBuilder(4), mark_(figureMark)
     {
         put(1, 1, title);
         put(2, 1, u"FOR SALES REP 014");
@@ -37,7 +37,7 @@ public:
         put(totalsLine, 1, u"Mprofit   9250.00    8000.00");
     }
 
-    ProfitScreen& add(int rank, TextView figure, TextView volumePart = u"", TextView marginPart = u"")
+    ProfitScreen& add(int rank, TextSpan figure, TextSpan volumePart = u"", TextSpan marginPart = u"")
     {
         const std::size_t line = lineOf(++entries_);
         put(line, 1, u"RANK:" + rightAligned(digits(rank), 3) + u"     " + digits(10000 + rank));

@@ -68,7 +68,7 @@ TEST_F(RankedFrame, ALastLineWithoutALineEndIsNotRead)
     session.start(whole);
     EXPECT_EQ(session.text(m2m, "txtHeader"), u"MONTH TO MONTH, THE LAST LINE");
     session.press(m2m, "cmdExit");
-    session.copy(TextView(whole).substr(0, whole.size() - 2));
+    session.copy(TextSpan(whole).substr(0, whole.size() - 2));
     session.press("startup", "Command1");
     EXPECT_EQ(session.text(m2m, "txtHeader"), u"MONTH TO MONTH PROFIT ANALYSIS");
 }
@@ -109,7 +109,7 @@ TEST_F(RankedFrame, ACaptureCutAnywhereIsNoError)
     const Text whole = gains(1).text();
     const std::size_t title = whole.find(u"PROFIT AN") + 9;
     for (std::size_t length = title; length <= whole.size(); ++length) {
-        const RankedReading reading = readRanked(frmM2Mpft, TextView(whole).substr(0, length));
+        const RankedReading reading = readRanked(frmM2Mpft, TextSpan(whole).substr(0, length));
         EXPECT_TRUE(reading.accepted) << length;
         EXPECT_EQ(ranksIn(frmM2Mpft.grids[0], reading).size(), reading.counts[0] > 0 ? 1u : 0u) << length;
     }
@@ -162,7 +162,7 @@ TEST_F(RankedFrame, PrintsACopyAJob)
 
 TEST_F(RankedFrame, ARankOutsideTheTableIsARunTimeError)
 {
-    for (const TextView rank : {u"  0", u"101", u" -1", u"   ", u"999"}) {
+    for (const TextSpan rank : {u"  0", u"101", u" -1", u"   ", u"999"}) {
         Session broken;
         MonthToMonthScreen screen = gains(2);
         broken.start(screen.put(ProfitScreen::lineOf(2), 6, rank).text());

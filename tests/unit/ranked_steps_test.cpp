@@ -57,7 +57,7 @@ TEST_F(RankedSteps, DownGoesThroughTheListToItsEnd)
     start(gains(4));
     session.clickRow(m2m, gainsGrid, 1);
     session.events();
-    for (const TextView next : {u"Customer: 10002", u"Customer: 10003", u"Customer: 10004"}) {
+    for (const TextSpan next : {u"Customer: 10002", u"Customer: 10003", u"Customer: 10004"}) {
         session.press(m2mA, "cmdNext");
         EXPECT_EQ(customer(), next);
     }
@@ -73,7 +73,7 @@ TEST_F(RankedSteps, BackGoesThroughTheListToItsBeginning)
     start(gains(4));
     session.clickRow(m2m, gainsGrid, 4);
     session.events();
-    for (const TextView next : {u"Customer: 10003", u"Customer: 10002", u"Customer: 10001"}) {
+    for (const TextSpan next : {u"Customer: 10003", u"Customer: 10002", u"Customer: 10001"}) {
         session.press(m2mA, "cmdBack");
         EXPECT_EQ(customer(), next);
     }

@@ -11,7 +11,7 @@ const Texts oldestFirst{u"OCT98", u"NOV98", u"DEC98", u"JAN99", u"FEB99", u"MAR9
                         u"MAY99", u"JUN99", u"JUL99", u"AUG99", u"SEP99", u"OCT99"};
 
 struct Opened : Session {
-    explicit Opened(TextView capture, int row = 1)
+    explicit Opened(TextSpan capture, int row = 1)
     {
         start(capture);
         events();

@@ -11,7 +11,7 @@ constexpr Name list = "frmRatio";
 constexpr Name drillDown = "frmRatioA";
 
 struct Opened : Session {
-    explicit Opened(TextView capture, int row = 1)
+    explicit Opened(TextSpan capture, int row = 1)
     {
         start(capture);
         clickRow(list, "MSFlexGrid1", row);
@@ -26,7 +26,7 @@ struct Opened : Session {
 };
 
 // A ratio whose last three lines are these.
-Text explained(TextView data, TextView formula, TextView note)
+Text explained(TextSpan data, TextSpan formula, TextSpan note)
 {
     return hostScreen({ratioTitle, u"1:GP  ", u"2:GP  ", u"3:", data, formula, note});
 }

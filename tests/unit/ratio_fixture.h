@@ -5,20 +5,20 @@
 
 namespace plotvue::test {
 
-inline constexpr TextView ratioTitle = u"FINANCIAL RATIO ANALYSIS";
+inline constexpr TextSpan ratioTitle = u"FINANCIAL RATIO ANALYSIS";
 
 // A "1:" or "2:" line: the code, then figures of 13 columns, one blank apart, from column 9 on.
-inline Text ratioLine(TextView mark, TextView code, const Lines& figures)
+inline Text ratioLine(TextSpan mark, TextSpan code, const Lines& figures)
 {
     Text line = Text(mark) + Text(code);
     line.resize(8, u' ');
-    for (const TextView figure : figures)
+    for (const TextSpan figure : figures)
         line += Text(13 - figure.size(), u' ') + Text(figure) + u' ';
     return line;
 }
 
 // A "3:" line: a figure at column 3, the value at 31, the benchmark at 45.
-inline Text benchmarkLine(TextView figure, TextView value, TextView benchmark)
+inline Text benchmarkLine(TextSpan figure, TextSpan value, TextSpan benchmark)
 {
     return CaptureBuilder(1)
         .put(1, 1, u"3:" + Text(13 - figure.size(), u' ') + Text(figure))
@@ -28,7 +28,7 @@ inline Text benchmarkLine(TextView figure, TextView value, TextView benchmark)
 }
 
 // The six lines of a ratio of which only its code matters.
-inline Text ratioBlock(TextView code)
+inline Text ratioBlock(TextSpan code)
 {
     return hostScreen({Text(u"1:") + Text(code), Text(u"2:") + Text(code), u"3:", u"4: D", u"5: F", u"6: N"});
 }

@@ -197,7 +197,7 @@ TEST(RatioList, ReadsFiveHundredLinesAndNoMore)
 
 TEST(RatioList, CodesAndValuesBeforeAnyRatioAreARunTimeError)
 {
-    for (const TextView line : {u"2:CUR ", u"3:    1.0"}) {
+    for (const TextSpan line : {u"2:CUR ", u"3:    1.0"}) {
         Session session;
         session.start(hostScreen({ratioTitle, line, u"1:CUR "}));
         EXPECT_TRUE(failed(session, "100"));

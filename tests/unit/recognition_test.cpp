@@ -7,8 +7,8 @@ namespace plotvue {
 namespace {
 
 struct Row {
-    TextView marker;
-    TextView identifier;
+    TextSpan marker;
+    TextSpan identifier;
     bool ranked = false;
     bool asksForZero = false;
 };
@@ -39,7 +39,7 @@ constexpr Row order[] = {
     {u"QXMLCHIST", u"QXMLCHIST"},
 };
 
-std::string bytes(TextView text)
+std::string bytes(TextSpan text)
 {
     return {text.begin(), text.end()};
 }
@@ -86,7 +86,7 @@ TEST(Recognition, AllMarkersTogetherAreAProductScreen)
 
 TEST(Recognition, NothingIsRecognisedInOtherTexts)
 {
-    for (const TextView text : {u"", u" ", u"0", u"Dear Sir, the figures for OCT99 follow.", u"QXM"}) {
+    for (const TextSpan text : {u"", u" ", u"0", u"Dear Sir, the figures for OCT99 follow.", u"QXM"}) {
         EXPECT_EQ(recognise(text).identifier, u"") << bytes(text);
         EXPECT_FALSE(recognise(text).ranked);
     }
@@ -159,7 +159,7 @@ TEST(ZeroCheck, WithoutAZeroTheLaterTestsGoOn)
     for (const Row& asks : order) {
         if (!asks.asksForZero)
             continue;
-        for (const TextView later : {u"QXM32C", u"QXMSJHIST", u"CRD812H", u"QXMLCHIST"})
+        for (const TextSpan later : {u"QXM32C", u"QXMSJHIST", u"CRD812H", u"QXMLCHIST"})
             EXPECT_EQ(recognise(Text(asks.marker) + u" " + Text(later)).identifier, later)
                 << bytes(asks.marker);
     }
@@ -180,7 +180,7 @@ TEST(ZeroCheck, ACustomerCategoryScreenIsNotTakenForTheOther)
 
 TEST(ZeroCheck, ThePlaceOfTheZeroIsHeldIn16Bits)
 {
-    const auto zeroAt = [](TextView marker, std::size_t position) {
+    const auto zeroAt = [](TextSpan marker, std::size_t position) {
         Text text(marker);
         text.resize(position - 1, u' ');
         return text + u"0";

@@ -43,18 +43,18 @@ class HistoryTester {
 public:
     explicit HistoryTester(Name name) : window(name) {}
 
-    void start(TextView capture);
+    void start(TextSpan capture);
     void choose(int type, int period);
     ChartContent chart() { return session.chart(window); }
     double newest(int type, int series = 0); // its slot with "12 Month"
     Text title(int position) { return chart().titles.at(position); }
 
     // Copies a capture, presses Refresh and says what happened.
-    std::vector<std::string> refresh(TextView capture);
+    std::vector<std::string> refresh(TextSpan capture);
 
     // Refresh with the capture puts the start-up window in front and leaves the chart as it was. Then the
     // window is opened again.
-    void expectRefusal(TextView capture);
+    void expectRefusal(TextSpan capture);
 
     Session session;
     const Name window;
@@ -64,10 +64,10 @@ private:
 };
 
 // Every occurrence of the word overwritten with dots.
-Text blotted(Text capture, TextView word);
+Text blotted(Text capture, TextSpan word);
 
 // The capture, filled up so that the word follows with its first letter at the position.
-Text withWordAt(Text capture, TextView word, std::size_t position);
+Text withWordAt(Text capture, TextSpan word, std::size_t position);
 
 class SalesHistoryTest : public testing::TestWithParam<SalesHistory> {
 protected:
@@ -76,7 +76,7 @@ protected:
     HostScreen sampleScreen() const { return HostScreen(sample(GetParam().sample)); }
 
     // The sample with other figures in the newest month, each in the whole width of its field.
-    HostScreen newestMonth(TextView volume, TextView sales, TextView profit) const;
+    HostScreen newestMonth(TextSpan volume, TextSpan sales, TextSpan profit) const;
 
     HistoryTester tester;
 };

@@ -26,14 +26,14 @@ std::vector<double> valuesOf(const SalesHistory& history, const MonthlyTable& ta
 }
 
 // A field's characters: nine, the text at the right.
-Text field(TextView text)
+Text field(TextSpan text)
 {
     return Text(9 - text.size(), u' ').append(text);
 }
 
 } // namespace
 
-void HistoryTester::start(TextView capture)
+void HistoryTester::start(TextSpan capture)
 {
     first_ = capture;
     session.start(capture);
@@ -51,7 +51,7 @@ double HistoryTester::newest(int type, int series)
     return chart().series.at(static_cast<std::size_t>(series)).at(12);
 }
 
-std::vector<std::string> HistoryTester::refresh(TextView capture)
+std::vector<std::string> HistoryTester::refresh(TextSpan capture)
 {
     session.events();
     session.copy(capture);
@@ -59,7 +59,7 @@ std::vector<std::string> HistoryTester::refresh(TextView capture)
     return session.events();
 }
 
-void HistoryTester::expectRefusal(TextView capture)
+void HistoryTester::expectRefusal(TextSpan capture)
 {
     const ChartContent before = chart();
     EXPECT_THAT(refresh(capture), ElementsAre("hide " + std::string(window), "show startup"));
@@ -72,20 +72,20 @@ void HistoryTester::expectRefusal(TextView capture)
     EXPECT_TRUE(session.visible(window));
 }
 
-Text blotted(Text capture, TextView word)
+Text blotted(Text capture, TextSpan word)
 {
     for (std::size_t at; (at = capture.find(word)) != Text::npos;)
         capture.replace(at, word.size(), word.size(), u'.');
     return capture;
 }
 
-Text withWordAt(Text capture, TextView word, std::size_t position)
+Text withWordAt(Text capture, TextSpan word, std::size_t position)
 {
     capture.resize(position - 1, u'.');
     return capture.append(word).append(u"\r\n");
 }
 
-HostScreen SalesHistoryTest::newestMonth(TextView volume, TextView sales, TextView profit) const
+HostScreen SalesHistoryTest::newestMonth(TextSpan volume, TextSpan sales, TextSpan profit) const
 {
     const int line = GetParam().newestLine;
     return sampleScreen()
@@ -99,7 +99,7 @@ TEST_P(SalesHistoryTest, ChartsEveryMonthForEveryPeriodAndDataType)
     const SalesHistory& history = GetParam();
     const MonthlyTable table(sampleScreen(),
                              {{1, 13, history.newestLine, 1}, {14, 12, history.newestLine + 1, 42}});
-    const TextView captions[] = {u"Sales", u"Profit", u"Volume", u"Profit%", u"Unit G/P"};
+    const TextSpan captions[] = {u"Sales", u"Profit", u"Volume", u"Profit%", u"Unit G/P"};
     const int decimals[] = {0, 0, 0, 2, 2};
     const double elapsed = 1 - (history.days - history.day) / history.days;
 
@@ -127,7 +127,7 @@ TEST_P(SalesHistoryTest, ChartsEveryMonthForEveryPeriodAndDataType)
 TEST_P(SalesHistoryTest, CutsEveryFieldAtItsColumns)
 {
     const int line = GetParam().newestLine;
-    const TextView row = u"JUL88" // the blanks between the fields filled up
+    const TextSpan row = u"JUL88" // the blanks between the fields filled up
                          u"9123456789"
                          u"8987654321"
                          u"7192837465"
@@ -237,7 +237,7 @@ TEST_P(SalesHistoryTest, ProjectsNothingWithoutADay)
 {
     const SalesHistory& history = GetParam();
     tester.start(sample(history.sample));
-    for (const TextView day : {u"  ", u"XX", u"00"}) {
+    for (const TextSpan day : {u"  ", u"XX", u"00"}) {
         tester.refresh(sampleScreen().put(history.dayLine, history.dayColumn, day).text());
         EXPECT_GT(tester.newest(Sales), 0);
         EXPECT_EQ(tester.newest(Sales, 1), 0);
@@ -246,7 +246,7 @@ TEST_P(SalesHistoryTest, ProjectsNothingWithoutADay)
 
 TEST_P(SalesHistoryTest, EndsTheProcessWhenTheNewestMonthHasNoName)
 {
-    for (const TextView name : {u"OKT", u"oct", u"---"}) {
+    for (const TextSpan name : {u"OKT", u"oct", u"---"}) {
         Session session;
         session.start(sampleScreen().put(GetParam().newestLine, 1, name).text());
         EXPECT_THAT(session.events(), Contains(StartsWith("error ")));

@@ -24,7 +24,7 @@ Text said(Action action)
 }
 
 // What happens when the G/L history has another text in the place of one of its own.
-Text saidOfHistory(TextView old, TextView other)
+Text saidOfHistory(TextSpan old, TextSpan other)
 {
     Text capture = test::sample("glhistory");
     capture.replace(capture.find(old), old.size(), other);
@@ -64,7 +64,7 @@ TEST(Sentences, OfTextThatIsTooLong)
 }
 
 // The error report after the start with this capture.
-std::string reported(TextView capture)
+std::string reported(TextSpan capture)
 {
     test::Session session;
     session.start(capture);
@@ -73,7 +73,7 @@ std::string reported(TextView capture)
 }
 
 // The sample with a line, counted from 1, in the place of its own.
-Text sampleWith(std::string_view name, std::size_t line, TextView text)
+Text sampleWith(std::string_view name, std::size_t line, TextSpan text)
 {
     Text capture = test::sample(name);
     std::size_t from = 0;
@@ -112,7 +112,7 @@ TEST(Sentences, CountEmptyLinesToo)
 TEST(Sentences, NameNoLineWhereNoneIsToBlame)
 {
     const Text capture = u"A\r\nB\r\n";
-    EXPECT_EQ(lineName(capture, TextView(capture).substr(3)), u"Line 2 of the copied text: ");
+    EXPECT_EQ(lineName(capture, TextSpan(capture).substr(3)), u"Line 2 of the copied text: ");
     EXPECT_EQ(lineName(capture, u"B"), u"") << "no part of it";
     EXPECT_EQ(lineName(capture, {}), u"");
     EXPECT_EQ(said([&] { readCapture(capture, [] { throw Failure{u"It is so."}; }); }), u"It is so.");
@@ -121,7 +121,7 @@ TEST(Sentences, NameNoLineWhereNoneIsToBlame)
 TEST(Sentences, NameTheInnermostLine)
 {
     const Text capture = u"A\r\nB\r\n";
-    const TextView text = capture;
+    const TextSpan text = capture;
     EXPECT_EQ(said([&] {
                   readCapture(text, [&] {
                       readLine(text, [&] { readLine(text.substr(3), [] { throw Failure{u"It is so."}; }); });

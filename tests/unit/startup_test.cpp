@@ -19,7 +19,7 @@ using testing::StartsWith;
 constexpr const char* needData = "message Need Data: Clipboard contains no data";
 
 // Long enough for every reader, with a product screen's headings and a month where it wants one.
-Text screen(TextView marker)
+Text screen(TextSpan marker)
 {
     return CaptureBuilder()
         .put(1, 1, marker)
@@ -29,7 +29,7 @@ Text screen(TextView marker)
         .text();
 }
 
-Text withSales(TextView sales)
+Text withSales(TextSpan sales)
 {
     return CaptureBuilder()
         .put(1, 1, u"QXM31H")
@@ -104,7 +104,7 @@ TEST(Startup, ItsLettersHaveTheirFamiliesAndSizes)
         if constexpr (requires { control.font; })
             fonts[control.name] = control.font;
     });
-    const TextView sans = u"MS Sans Serif";
+    const TextSpan sans = u"MS Sans Serif";
     EXPECT_EQ(fonts["Label1"], (Font{.family = u"Arial", .points = 48, .italic = true}));
     EXPECT_EQ(fonts["Label3"], (Font{.family = sans, .points = 9.75, .bold = true}));
     EXPECT_EQ(fonts["Label4"], Font{});
@@ -135,7 +135,7 @@ TEST(Startup, AnEmptyClipboardNeedsDataBeforeTheUserHasDoneAnything)
 
 TEST(Startup, ATextWithoutMarkerNeedsDataInTheSameWords)
 {
-    for (const TextView text : {u"HELLO", u"qxm31h 10", u"\r\n", u"QXM12P2 PAGE 1", u"QXM855DH PAGE 1"}) {
+    for (const TextSpan text : {u"HELLO", u"qxm31h 10", u"\r\n", u"QXM12P2 PAGE 1", u"QXM855DH PAGE 1"}) {
         Session session;
         session.start(text);
         EXPECT_THAT(session.events(),
@@ -306,7 +306,7 @@ TEST(ScratchFile, HoldsTheLastCaptureOnly)
 
 TEST(ScratchFile, NoOtherScreenTouchesIt)
 {
-    for (const TextView marker :
+    for (const TextSpan marker :
          {u"QXM31H", u"QXM21D", u"QXM12E1", u"QXM12P2 0", u"QXMLCHIST", u"NO MARKER", u""}) {
         Session session;
         std::ofstream("pvuscrn.txt") << "old";

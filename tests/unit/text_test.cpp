@@ -177,7 +177,7 @@ TEST(Utf8, TheFirstAndTheLastOfEachLength)
 TEST(Utf8, NothingBehindTheTextIsLookedAt)
 {
     const Text pair = u"\U0001F6E2";
-    EXPECT_EQ(toUtf8(TextView(pair).substr(0, 1)), "\xED\xA0\xBD");
+    EXPECT_EQ(toUtf8(TextSpan(pair).substr(0, 1)), "\xED\xA0\xBD");
 }
 
 TEST(Utf8, AnAccentIsOneCharacterSoThatColumnsStay)

@@ -11,7 +11,7 @@ const Texts oldestFirst{u"OCT98", u"NOV98", u"DEC98", u"JAN99", u"FEB99", u"MAR9
                         u"MAY99", u"JUN99", u"JUL99", u"AUG99", u"SEP99", u"OCT99"};
 
 struct Opened : Session {
-    explicit Opened(TextView capture, int row = 1)
+    explicit Opened(TextSpan capture, int row = 1)
     {
         start(capture);
         events();
@@ -110,7 +110,7 @@ INSTANTIATE_TEST_SUITE_P(
 // Thirteen figures beside each other; a column to the left or right gives other figures.
 TEST(VendorChart, EveryFieldHasItsColumns)
 {
-    const auto line = [](char16_t mark, TextView tail) {
+    const auto line = [](char16_t mark, TextSpan tail) {
         Text text = Text(1, mark) + u"9";
         for (char16_t month = u'A'; month < u'A' + 13; ++month) {
             const int number = month - u'A' + 1;

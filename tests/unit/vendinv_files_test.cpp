@@ -9,7 +9,7 @@ constexpr Name list = "frmVendInv";
 constexpr Name drillDown = "frmVendInvA";
 
 struct Opened : Session {
-    explicit Opened(TextView capture, int row)
+    explicit Opened(TextSpan capture, int row)
     {
         start(capture);
         clickRow(list, "MSFlexGrid1", row);

@@ -5,11 +5,11 @@
 
 namespace plotvue::test {
 
-inline constexpr TextView vendorTitle = u"VENDOR INVENTORY ANALYSIS";
-inline constexpr TextView vendorTotal = u"Total EOM 1,234,567";
+inline constexpr TextSpan vendorTitle = u"VENDOR INVENTORY ANALYSIS";
+inline constexpr TextSpan vendorTotal = u"Total EOM 1,234,567";
 
 // Vendor and category of 30 characters each.
-inline Text vendorLine(TextView rank, TextView vendor, TextView category)
+inline Text vendorLine(TextSpan rank, TextSpan vendor, TextSpan category)
 {
     return CaptureBuilder(1)
         .put(1, 1, u"RANK:" + Text(3 - rank.size(), u' ') + Text(rank))
@@ -19,15 +19,15 @@ inline Text vendorLine(TextView rank, TextView vendor, TextView category)
 }
 
 // Thirteen figures of eight columns from column 3 on.
-inline Text months(TextView mark, const Lines& figures)
+inline Text months(TextSpan mark, const Lines& figures)
 {
     Text line = Text(mark) + Text(2 - mark.size(), u' ');
-    for (const TextView figure : figures)
+    for (const TextSpan figure : figures)
         line += Text(8 - figure.size(), u' ') + Text(figure);
     return line;
 }
 
-inline Text padded30(TextView text)
+inline Text padded30(TextSpan text)
 {
     return Text(text) + Text(30 - text.size(), u' ');
 }

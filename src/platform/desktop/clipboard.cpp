@@ -27,7 +27,7 @@ void waitForFocus()
     waiting.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-Text mendLineEnds(TextView text)
+Text mendLineEnds(TextSpan text)
 {
     Text result;
     result.reserve(text.size() + text.size() / 40);

@@ -15,6 +15,6 @@ void waitForFocus();
 
 // `text` with CR LF in place of each bare line feed. An empty line that such a line feed ends becomes a
 // blank: many terminals leave out a line's trailing blanks, and the readers skip empty lines.
-Text mendLineEnds(TextView text);
+Text mendLineEnds(TextSpan text);
 
 } // namespace plotvue

@@ -67,7 +67,7 @@ void waitUntilPlaced(const QWidget& window)
     }
 }
 
-void showBox(QMessageBox::Icon icon, TextView title, TextView text, const QString& button)
+void showBox(QMessageBox::Icon icon, TextSpan title, TextSpan text, const QString& button)
 {
     QWidget* window = windowInFront();
     if (window)
@@ -144,13 +144,13 @@ void DesktopPlatform::printView(View& view)
     printing_.print(static_cast<DesktopView&>(view).window());
 }
 
-void DesktopPlatform::showMessage(TextView title, TextView text)
+void DesktopPlatform::showMessage(TextSpan title, TextSpan text)
 {
     stage_.settle();
     showBox(QMessageBox::NoIcon, title, text, QMessageBox::tr("OK"));
 }
 
-void DesktopPlatform::reportError(TextView sentence)
+void DesktopPlatform::reportError(TextSpan sentence)
 {
     sayToTerminal(sentence);
     stage_.settle();

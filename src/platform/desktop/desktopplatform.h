@@ -31,9 +31,9 @@ public:
     void settle() { stage_.settle(); }
 
 protected:
-    void showMessage(TextView title, TextView text) override;
+    void showMessage(TextSpan title, TextSpan text) override;
     void printView(View& view) override;
-    void reportError(TextView sentence) override;
+    void reportError(TextSpan sentence) override;
     void spin(int lines) override;
     void finish() override;
 

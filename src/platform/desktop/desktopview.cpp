@@ -102,12 +102,12 @@ Controls& DesktopView::controls() const
     return controls_;
 }
 
-void DesktopView::setCaption(TextView caption)
+void DesktopView::setCaption(TextSpan caption)
 {
     window().setWindowTitle(toQString(caption));
 }
 
-void DesktopView::setText(Name control, TextView text)
+void DesktopView::setText(Name control, TextSpan text)
 {
     const auto label = controls().labels.find(control);
     if (label == controls_.labels.end()) {

@@ -20,8 +20,8 @@ public:
     bool visible() const override { return wanted_; }
     void settle();
 
-    void setCaption(TextView caption) override;
-    void setText(Name control, TextView text) override;
+    void setCaption(TextSpan caption) override;
+    void setText(Name control, TextSpan text) override;
     ChartControl& chart(Name control) override { return controls().charts.at(control); }
     OptionsControl& options(Name group) override { return controls().options.at(group); }
     GridControl& grid(Name control) override;

@@ -15,8 +15,8 @@ public:
     explicit GridModel(const GridBox& declared, QObject* parent = nullptr);
 
     void setRows(int rows) override;
-    void setFormat(TextView format) override;
-    void setCell(int row, int column, TextView text) override;
+    void setFormat(TextSpan format) override;
+    void setCell(int row, int column, TextSpan text) override;
     Text cell(int row, int column) const override;
 
     GridState state() const;

@@ -22,7 +22,7 @@ void GridModel::setRows(int rows)
     endResetModel();
 }
 
-void GridModel::setFormat(TextView format)
+void GridModel::setFormat(TextSpan format)
 {
     beginResetModel();
     format_ = format;
@@ -32,7 +32,7 @@ void GridModel::setFormat(TextView format)
     endResetModel();
 }
 
-void GridModel::setCell(int row, int column, TextView text)
+void GridModel::setCell(int row, int column, TextSpan text)
 {
     cells_.at(static_cast<std::size_t>(row) - 1).at(static_cast<std::size_t>(column)) = text;
     const QModelIndex changed = index(row - 1, column);

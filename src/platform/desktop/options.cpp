@@ -17,7 +17,7 @@ namespace {
 constexpr int widestCaption = 28; // in average characters
 
 // A caption from a capture may be a whole screen line: it is shown as far as the side column reaches.
-void showCaption(QRadioButton& button, TextView caption)
+void showCaption(QRadioButton& button, TextSpan caption)
 {
     keepText(button, caption);
     const QString whole = shownOnOneLine(caption);
@@ -72,7 +72,7 @@ int DesktopOptions::chosen(int frame) const
     throw std::out_of_range("no option is chosen");
 }
 
-void DesktopOptions::setCaption(int index, TextView caption)
+void DesktopOptions::setCaption(int index, TextSpan caption)
 {
     showCaption(button(index), caption);
 }

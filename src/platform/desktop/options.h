@@ -18,7 +18,7 @@ public:
     QGroupBox* addFrame(const OptionFrame& declared, Window& window);
 
     int chosen(int frame) const override;
-    void setCaption(int index, TextView caption) override;
+    void setCaption(int index, TextSpan caption) override;
     void setVisible(int index, bool visible) override;
 
     void choose(int index); // as a person does it

@@ -1,4 +1,4 @@
-#include "platform/desktop/chart/chart_widget.h"
+#include "platform/desktop/chart/chartwidget.h"
 #include "platform/desktop/printing.h"
 
 #include <QAbstractScrollArea>

@@ -10,7 +10,7 @@ namespace plotvue {
 void enterWorkingDirectory();
 
 // Says the sentence where the program was started, if something there can listen.
-void sayToTerminal(TextView sentence);
+void sayToTerminal(TextSpan sentence);
 
 // At once: taking the toolkit down in good order would only keep the person waiting.
 [[noreturn]] void endProcess(int status);

@@ -11,7 +11,7 @@ void enterWorkingDirectory()
     // The menu starts a script, which sees to the folder.
 }
 
-void sayToTerminal(TextView sentence)
+void sayToTerminal(TextSpan sentence)
 {
     std::fprintf(stderr, "PlotVue: %s\n", toUtf8(sentence).c_str());
 }

@@ -84,7 +84,7 @@ void enterWorkingDirectory()
     }
 }
 
-void sayToTerminal(TextView)
+void sayToTerminal(TextSpan)
 {
     // A program with windows has no standard error there: the box alone tells.
 }

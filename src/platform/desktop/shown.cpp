@@ -15,7 +15,7 @@ Text toText(const QString& text)
     return Text(reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size()));
 }
 
-QString shown(TextView text)
+QString shown(TextSpan text)
 {
     QString lines = toQString(text);
     lines.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
@@ -25,7 +25,7 @@ QString shown(TextView text)
     return lines;
 }
 
-QString shownOnOneLine(TextView text)
+QString shownOnOneLine(TextSpan text)
 {
     return shown(text).replace(u'\n', u' ');
 }
@@ -35,7 +35,7 @@ QString withoutMnemonic(QString text)
     return text.replace(u'&', QLatin1String("&&"));
 }
 
-void keepText(QObject& widget, TextView text)
+void keepText(QObject& widget, TextSpan text)
 {
     widget.setProperty(keptAs, toQString(text));
 }

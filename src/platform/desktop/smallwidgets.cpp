@@ -18,7 +18,7 @@ TextLine::TextLine(const TextBox& declared, QWidget* parent) : QLineEdit(parent)
     setPalette(flat);
 }
 
-void TextLine::show(TextView text)
+void TextLine::show(TextSpan text)
 {
     keepText(*this, text);
     setText(shownOnOneLine(text));

@@ -16,7 +16,7 @@ class TextLine : public QLineEdit {
 
 public:
     explicit TextLine(const TextBox& declared, QWidget* parent = nullptr);
-    void show(TextView text);
+    void show(TextSpan text);
 };
 
 // A list to be read: its rows cannot be copied over the screen that the clipboard holds.

@@ -83,7 +83,7 @@ void Builder::place(const Item& item, QBoxLayout& layout)
     }
 }
 
-QList<QKeySequence> shortcuts(TextView text)
+QList<QKeySequence> shortcuts(TextSpan text)
 {
     QList<QKeySequence> keys;
     const QStringList apart = toQString(text).split(QLatin1String(", "), Qt::SkipEmptyParts);
@@ -161,7 +161,7 @@ QWidget* Builder::make(const ListBox& declared)
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFont(*list, declared.font);
     const int rowHeight = list->fontMetrics().height() + listRowPadding;
-    for (const TextView text : declared.items) {
+    for (const TextSpan text : declared.items) {
         auto* item = new QListWidgetItem(toQString(text), list);
         item->setSizeHint({list->fontMetrics().horizontalAdvance(item->text()) + margin, rowHeight});
     }

@@ -1,7 +1,7 @@
 // Makes a window's widgets from its declaration.
 #pragma once
 
-#include "platform/desktop/chart/chart_widget.h"
+#include "platform/desktop/chart/chartwidget.h"
 #include "platform/desktop/options.h"
 
 #include <memory>

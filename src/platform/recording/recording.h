@@ -21,9 +21,9 @@ public:
     double choosePrinter(View& view) override;
 
 protected:
-    void showMessage(TextView, TextView) override {} // acknowledged at once
+    void showMessage(TextSpan, TextSpan) override {} // acknowledged at once
     void printView(View& view) override;
-    void reportError(TextView) override {}
+    void reportError(TextSpan) override {}
     void spin(int) override {}
     void finish() override {}
 };

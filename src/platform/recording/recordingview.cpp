@@ -39,7 +39,7 @@ OptionState& RecordingOptions::option(int index)
     return *at;
 }
 
-void RecordingOptions::setCaption(int index, TextView caption)
+void RecordingOptions::setCaption(int index, TextSpan caption)
 {
     option(index).caption = caption;
 }
@@ -56,7 +56,7 @@ void RecordingGrid::setRows(int rows)
                         std::vector<Text>(static_cast<std::size_t>(state_.columns)));
 }
 
-void RecordingGrid::setFormat(TextView format)
+void RecordingGrid::setFormat(TextSpan format)
 {
     state_.format = format;
     state_.columns = columnsOf(format);
@@ -64,7 +64,7 @@ void RecordingGrid::setFormat(TextView format)
         row.resize(static_cast<std::size_t>(state_.columns));
 }
 
-void RecordingGrid::setCell(int row, int column, TextView text)
+void RecordingGrid::setCell(int row, int column, TextSpan text)
 {
     state_.cells.at(static_cast<std::size_t>(row) - 1).at(static_cast<std::size_t>(column)) = text;
 }
@@ -127,7 +127,7 @@ void RecordingView::add(const GridBox& grid)
     control.setRows(1);
 }
 
-void RecordingView::setText(Name control, TextView text)
+void RecordingView::setText(Name control, TextSpan text)
 {
     ControlState& state = state_.controls.at(std::string(control));
     if (auto* label = std::get_if<LabelState>(&state))

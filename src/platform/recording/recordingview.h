@@ -13,7 +13,7 @@ public:
     void choose(int index); // the other options of its frame are no longer chosen
 
     int chosen(int frame) const override;
-    void setCaption(int index, TextView caption) override;
+    void setCaption(int index, TextSpan caption) override;
     void setVisible(int index, bool visible) override;
 
 private:
@@ -29,8 +29,8 @@ public:
     explicit RecordingGrid(GridState& state) : state_(state) {}
 
     void setRows(int rows) override;
-    void setFormat(TextView format) override;
-    void setCell(int row, int column, TextView text) override;
+    void setFormat(TextSpan format) override;
+    void setCell(int row, int column, TextSpan text) override;
     Text cell(int row, int column) const override;
 
 private:
@@ -44,8 +44,8 @@ public:
     void show() override { visible_ = true; }
     void hide() override { visible_ = false; }
     bool visible() const override { return visible_; }
-    void setCaption(TextView caption) override { state_.caption = caption; }
-    void setText(Name control, TextView text) override;
+    void setCaption(TextSpan caption) override { state_.caption = caption; }
+    void setText(Name control, TextSpan text) override;
     ChartControl& chart(Name control) override { return charts_.at(control); }
     OptionsControl& options(Name group) override { return options_.at(group); }
     GridControl& grid(Name control) override { return grids_.at(control); }

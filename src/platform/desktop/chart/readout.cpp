@@ -1,6 +1,6 @@
-#include "platform/chart/drawable.h"
-#include "platform/desktop/chart/bar_painter.h"
-#include "platform/desktop/chart/chart_painter.h"
+#include "chart/drawable.h"
+#include "platform/desktop/chart/barpainter.h"
+#include "platform/desktop/chart/chartpainter.h"
 
 #include <QPainter>
 
@@ -46,7 +46,7 @@ public:
         bold_ = fonts.font(TextRole::Small);
         bold_.setWeight(QFont::DemiBold);
         // A bold figure is a little wider than the plain one that is measured.
-        const auto width = [&](TextView text) { return fonts.width(text, TextRole::Small); };
+        const auto width = [&](TextSpan text) { return fonts.width(text, TextRole::Small); };
         const double most = layout.paper.width * .5;
         const auto fitted = [&](const Text& text) { return toQString(chart::elided(text, most, width)); };
         if (!figures.components())

@@ -1,7 +1,7 @@
 // The steps of the layout, from the top of the paper to the bars. Each adds its own to the layout.
 #pragma once
 
-#include "platform/chart/layout.h"
+#include "chart/layout.h"
 
 namespace plotvue::chart {
 
@@ -11,7 +11,7 @@ struct LayoutInput {
     const Figures& figures;
     const Metrics& metrics;
 
-    double width(TextView text) const { return metrics.width(text, TextRole::Small); }
+    double width(TextSpan text) const { return metrics.width(text, TextRole::Small); }
     Text fitted(Text text, double room, TextRole role) const;
 };
 

@@ -1,7 +1,7 @@
 // The value axis: where it begins and ends and which figures stand along it.
 #pragma once
 
-#include "platform/chart/figures.h"
+#include "chart/figures.h"
 
 namespace plotvue::chart {
 

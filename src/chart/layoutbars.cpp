@@ -1,4 +1,4 @@
-#include "platform/chart/layout_steps.h"
+#include "chart/layoutsteps.h"
 
 #include <algorithm>
 #include <cmath>

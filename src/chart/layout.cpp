@@ -1,7 +1,7 @@
-#include "platform/chart/layout.h"
+#include "chart/layout.h"
 
-#include "platform/chart/drawable.h"
-#include "platform/chart/layout_steps.h"
+#include "chart/drawable.h"
+#include "chart/layoutsteps.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,7 +10,7 @@ namespace plotvue::chart {
 
 Text LayoutInput::fitted(Text text, double room, TextRole role) const
 {
-    return elided(std::move(text), room, [&](TextView part) { return metrics.width(part, role); });
+    return elided(std::move(text), room, [&](TextSpan part) { return metrics.width(part, role); });
 }
 
 Box Layout::slotBox(int slot) const

@@ -1,4 +1,4 @@
-#include "platform/desktop/chart/bar_painter.h"
+#include "platform/desktop/chart/barpainter.h"
 
 #include <QList>
 #include <QPainter>

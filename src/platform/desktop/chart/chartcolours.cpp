@@ -1,4 +1,4 @@
-#include "platform/desktop/chart/chart_colours.h"
+#include "platform/desktop/chart/chartcolours.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 // The fonts of a chart: sizes of the window's own, and how much room text takes in them.
 #pragma once
 
-#include "platform/chart/layout.h"
+#include "chart/layout.h"
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -11,7 +11,7 @@
 
 namespace plotvue {
 
-QString toQString(TextView text);
+QString toQString(TextSpan text);
 
 class ChartFonts : public chart::Metrics {
 public:
@@ -19,7 +19,7 @@ public:
     ChartFonts(const QFont& base, int baseDpi, const QPaintDevice& device);
 
     const QFont& font(chart::TextRole role) const { return fonts_[static_cast<std::size_t>(role)]; }
-    double width(TextView text, chart::TextRole role) const override;
+    double width(TextSpan text, chart::TextRole role) const override;
     double height(chart::TextRole role) const override;
 
 private:

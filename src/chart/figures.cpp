@@ -1,7 +1,7 @@
-#include "platform/chart/figures.h"
+#include "chart/figures.h"
 
-#include "platform/chart/drawable.h"
-#include "platform/chart/figure_text.h"
+#include "chart/drawable.h"
+#include "chart/figuretext.h"
 
 #include <algorithm>
 #include <array>
@@ -43,7 +43,7 @@ bool Figures::nothingIn(const std::vector<double>& values) const
     return std::all_of(values.begin(), values.end(), [](double v) { return counted(v) == 0; });
 }
 
-TextView Figures::nameOf(int number, bool alone) const
+TextSpan Figures::nameOf(int number, bool alone) const
 {
     if (const auto own = content_.legends.find(number); own != content_.legends.end())
         return own->second;
@@ -111,14 +111,14 @@ bool Figures::legendTellsSomething() const
                                                    [](const Series& s) { return s.projection; }));
 }
 
-TextView Figures::label(int slot) const
+TextSpan Figures::label(int slot) const
 {
     const std::size_t i = static_cast<std::size_t>(slot);
     if (slot < 0 || slot >= slotCount_)
         return {};
     if (components_)
         return series_[i].name;
-    return i < content_.labels.size() ? TextView(content_.labels[i]) : TextView();
+    return i < content_.labels.size() ? TextSpan(content_.labels[i]) : TextSpan();
 }
 
 std::optional<double> Figures::value(std::size_t series, int slot) const

@@ -1,4 +1,4 @@
-#include "platform/chart/drawable.h"
+#include "chart/drawable.h"
 
 #include <algorithm>
 
@@ -21,7 +21,7 @@ bool isFirstOfPair(char16_t c)
 
 } // namespace
 
-Text drawable(TextView text)
+Text drawable(TextSpan text)
 {
     Text kept;
     for (const char16_t c : text) {
@@ -36,12 +36,12 @@ Text drawable(TextView text)
     return kept;
 }
 
-bool isBlank(TextView text)
+bool isBlank(TextSpan text)
 {
     return std::all_of(text.begin(), text.end(), [](char16_t c) { return c == u' ' || isControl(c); });
 }
 
-Text elided(Text text, double room, const std::function<double(TextView)>& widthOf)
+Text elided(Text text, double room, const std::function<double(TextSpan)>& widthOf)
 {
     if (widthOf(text) <= room)
         return text;

@@ -1,6 +1,6 @@
-#include "platform/desktop/chart/chart_painter.h"
+#include "platform/desktop/chart/chartpainter.h"
 
-#include "platform/desktop/chart/bar_painter.h"
+#include "platform/desktop/chart/barpainter.h"
 
 #include <QPainter>
 

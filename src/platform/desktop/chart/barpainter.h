@@ -1,7 +1,7 @@
 // One bar, or the swatch that stands for it.
 #pragma once
 
-#include "platform/desktop/chart/chart_colours.h"
+#include "platform/desktop/chart/chartcolours.h"
 
 #include <QRectF>
 

@@ -1,7 +1,7 @@
 // A chart in a window, with one current point that mouse, keys and assistive technology share.
 #pragma once
 
-#include "platform/desktop/chart/chart_fonts.h"
+#include "platform/desktop/chart/chartfonts.h"
 
 #include <QWidget>
 

@@ -1,7 +1,7 @@
 // Which of a chart's series and slots count, what they are called and how they are read out.
 #pragma once
 
-#include "platform/chart/content.h"
+#include "chart/content.h"
 
 #include <optional>
 #include <vector>
@@ -15,7 +15,7 @@ class Figures {
 public:
     struct Series {
         std::size_t number = 0; // in the content
-        TextView name;          // may be empty
+        TextSpan name;          // may be empty
         Colour colour;
         bool ownColour = false; // asked for by the content, not taken from the palette
         bool projection = false;
@@ -32,7 +32,7 @@ public:
 
     int slotCount() const { return slotCount_; }   // as wide as the chart is drawn
     int pointCount() const { return pointCount_; } // without an empty slot at the end
-    TextView label(int slot) const;                // raw; empty when there is none
+    TextSpan label(int slot) const;                // raw; empty when there is none
 
     // Absent where the series is too short; 0 for what is not a number; brought into what can be added up.
     std::optional<double> value(std::size_t series, int slot) const;
@@ -42,7 +42,7 @@ public:
 
 private:
     bool nothingIn(const std::vector<double>& values) const;
-    TextView nameOf(int number, bool alone) const; // alone: the only series shown
+    TextSpan nameOf(int number, bool alone) const; // alone: the only series shown
     void findSeries();
     void findSlots();
     int decimalsOfValues() const;

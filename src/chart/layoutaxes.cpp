@@ -1,6 +1,6 @@
-#include "platform/chart/drawable.h"
-#include "platform/chart/figure_text.h"
-#include "platform/chart/layout_steps.h"
+#include "chart/drawable.h"
+#include "chart/figuretext.h"
+#include "chart/layoutsteps.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // Where everything of a chart stands. Units are those of the paper; y grows downwards.
 #pragma once
 
-#include "platform/chart/scale.h"
+#include "chart/scale.h"
 
 namespace plotvue::chart {
 
@@ -13,7 +13,7 @@ inline constexpr std::size_t textRoles = 6;
 class Metrics {
 public:
     virtual ~Metrics() = default;
-    virtual double width(TextView text, TextRole role) const = 0;
+    virtual double width(TextSpan text, TextRole role) const = 0;
     virtual double height(TextRole role) const = 0; // of a line
 };
 

@@ -1,6 +1,6 @@
-#include "platform/chart/scale.h"
+#include "chart/scale.h"
 
-#include "platform/chart/figure_text.h"
+#include "chart/figuretext.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "platform/desktop/chart/chart_fonts.h"
+#include "platform/desktop/chart/chartfonts.h"
 
 #include <QPaintDevice>
 
@@ -53,7 +53,7 @@ std::array<QFontMetricsF, chart::textRoles> metricsFor(const std::array<QFont, c
 
 } // namespace
 
-QString toQString(TextView text)
+QString toQString(TextSpan text)
 {
     return QString(reinterpret_cast<const QChar*>(text.data()), static_cast<qsizetype>(text.size()));
 }
@@ -63,7 +63,7 @@ ChartFonts::ChartFonts(const QFont& base, int baseDpi, const QPaintDevice& devic
       metrics_(metricsFor(fonts_, device))
 {}
 
-double ChartFonts::width(TextView text, chart::TextRole role) const
+double ChartFonts::width(TextSpan text, chart::TextRole role) const
 {
     return metrics_[static_cast<std::size_t>(role)].horizontalAdvance(toQString(text));
 }

@@ -1,6 +1,6 @@
-#include "platform/desktop/chart/chart_accessible.h"
+#include "platform/desktop/chart/chartaccessible.h"
 
-#include "platform/desktop/chart/chart_widget.h"
+#include "platform/desktop/chart/chartwidget.h"
 
 #include <QAccessibleWidget>
 #include <QPointer>

@@ -1,8 +1,8 @@
 // Draws a chart that has been laid out.
 #pragma once
 
-#include "platform/chart/layout.h"
-#include "platform/desktop/chart/chart_fonts.h"
+#include "chart/layout.h"
+#include "platform/desktop/chart/chartfonts.h"
 
 #include <QPalette>
 #include <QRectF>

@@ -1,7 +1,7 @@
 // The colours of a chart, all but the bars' taken from the palette.
 #pragma once
 
-#include "platform/chart/figures.h"
+#include "chart/figures.h"
 
 #include <QColor>
 #include <QPalette>

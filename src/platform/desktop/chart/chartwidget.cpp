@@ -1,8 +1,8 @@
-#include "platform/desktop/chart/chart_widget.h"
+#include "platform/desktop/chart/chartwidget.h"
 
-#include "platform/desktop/chart/chart_accessible.h"
-#include "platform/desktop/chart/chart_colours.h"
-#include "platform/desktop/chart/chart_painter.h"
+#include "platform/desktop/chart/chartaccessible.h"
+#include "platform/desktop/chart/chartcolours.h"
+#include "platform/desktop/chart/chartpainter.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>

@@ -1,4 +1,4 @@
-#include "platform/chart/figure_text.h"
+#include "chart/figuretext.h"
 
 #include <algorithm>
 #include <array>

@@ -1,5 +1,5 @@
-#include "platform/chart/drawable.h"
-#include "platform/chart/layout_steps.h"
+#include "chart/drawable.h"
+#include "chart/layoutsteps.h"
 
 #include <algorithm>
 #include <array>
@@ -18,7 +18,7 @@ const std::array<TitlePlace, 3> titlePlaces{
      {2, {TextRole::LargeTitle, TextRole::MediumTitle, TextRole::BodyTitle}, true},
      {3, {TextRole::Body}, false}}};
 
-TextRole roleThatFits(const TitlePlace& place, TextView text, double room, const Metrics& metrics)
+TextRole roleThatFits(const TitlePlace& place, TextSpan text, double room, const Metrics& metrics)
 {
     const auto fits = [&](TextRole role) { return metrics.width(text, role) <= room; };
     const auto found = std::find_if(place.roles.begin(), place.roles.end(), fits);

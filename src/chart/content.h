@@ -37,7 +37,7 @@ struct ChartDesign {
     Bars bars = Bars::Stacked;
     Labels labels = Labels::Months;
     int projection = -1;               // the series that projects the one before it; -1: none
-    std::map<int, TextView> legends{}; // by series, of several shown together, until SetSeriesLegend gives
+    std::map<int, TextSpan> legends{}; // by series, of several shown together, until SetSeriesLegend gives
                                        // another; a series alone or without is called by the title at 1
 };
 
