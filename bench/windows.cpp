@@ -5,7 +5,7 @@
 #include "app/application.h"
 #include "captures.h"
 #include "platform/desktop/desktopplatform.h"
-#include "platform/desktop/desktopview.h"
+#include "platform/desktop/desktopwindow.h"
 #include "platform/desktop/window.h"
 #include "rounds.h"
 
@@ -27,7 +27,8 @@ public:
         application_.start();
     }
 
-    View& view(Name window) { return application_.window(window)->view(); }
+    Controls& controls(Name window) { return application_.window(window)->controls(); }
+    bool visible(Name window) { return application_.window(window)->visible(); }
 
     // Does it, and returns when that window has been painted.
     template <typename Action>
@@ -57,7 +58,10 @@ public:
     }
 
 private:
-    QWidget& widget(Name window) { return static_cast<DesktopView&>(view(window)).window(); }
+    QWidget& widget(Name window)
+    {
+        return static_cast<DesktopWindow&>(application_.window(window)->window()).widget();
+    }
 
     DesktopPlatform platform_;
     Application application_;
@@ -70,15 +74,17 @@ void optionClick(const char* group, const char* name, int rounds)
     Desk desk(sampleCapture("product.txt"));
     desk.untilPainted(window, [] {});
     int index = 0;
-    measure(
-        {.name = name,
-         .unit = "ms",
-         .nanosecondsAUnit = milliseconds,
-         .run =
-             [&] { desk.untilPainted(window, [&] { desk.view(window).choose(group, index = 1 - index); }); },
-         .referenceName = "repaint",
-         .reference = [&] { desk.repaint(window); }},
-        rounds);
+    measure({.name = name,
+             .unit = "ms",
+             .nanosecondsAUnit = milliseconds,
+             .run =
+                 [&] {
+                     desk.untilPainted(window,
+                                       [&] { desk.controls(window).choose(group, index = 1 - index); });
+                 },
+             .referenceName = "repaint",
+             .reference = [&] { desk.repaint(window); }},
+            rounds);
 }
 
 // Always from the 50th entry to the 51st: the files of the list are read from their beginning.
@@ -87,7 +93,7 @@ void down(int rounds)
     constexpr Name list = "frmM2Mpft", window = "frmM2MpftA";
     Desk desk(rankedCapture());
     desk.untilPainted(list, [] {});
-    const auto open = [&] { desk.view(list).clickRow("MSFlexGrid1", 50); };
+    const auto open = [&] { desk.controls(list).clickRow("MSFlexGrid1", 50); };
     desk.untilPainted(window, open);
     const auto reopen = [&] {
         open();
@@ -96,7 +102,7 @@ void down(int rounds)
     measure({.name = "Down in a list of 100",
              .unit = "ms",
              .nanosecondsAUnit = milliseconds,
-             .run = [&] { desk.untilPainted(window, [&] { desk.view(window).press("cmdNext"); }); },
+             .run = [&] { desk.untilPainted(window, [&] { desk.controls(window).press("cmdNext"); }); },
              .referenceName = "repaint",
              .reference = [&] { desk.repaint(window); },
              .prepare = reopen},
@@ -108,11 +114,11 @@ void fillList(int rounds)
     constexpr Name list = "frmM2Mpft", startup = "startup";
     Desk desk(rankedCapture());
     desk.untilPainted(list, [] {});
-    const auto refresh = [&] { desk.view(startup).press("Command1"); };
+    const auto refresh = [&] { desk.controls(startup).press("Command1"); };
     const auto leave = [&] {
-        if (desk.view(startup).visible())
+        if (desk.visible(startup))
             return;
-        desk.untilPainted(startup, [&] { desk.view(list).press("cmdExit"); });
+        desk.untilPainted(startup, [&] { desk.controls(list).press("cmdExit"); });
     };
     measure({.name = "Refresh to a list of 100",
              .unit = "ms",

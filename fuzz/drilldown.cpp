@@ -38,17 +38,17 @@ void play(const DrillDownDesign& design)
         fuzz::always(event.kind != Event::Kind::Error || !event.text.starts_with(u"PlotVue made a mistake"));
     };
     DrillDownWindow window(platform, design);
-    platform.run([&] { window.Show(); });
+    platform.run([&] { window.show(); });
     const auto use = [&](auto action) {
         if (!platform.over() && window.loaded())
-            action(window.view());
+            action(window.controls());
     };
     for (int type = static_cast<int>(design.types.size()) - 1; type >= 0; --type)
-        use([&](View& view) { view.choose("optSales", type); });
+        use([&](Controls& controls) { controls.choose("optSales", type); });
     for (const DrillDownDesign::Explanation& explanation : design.explanations)
-        use([&](View& view) { view.press(explanation.button.name); });
+        use([&](Controls& controls) { controls.press(explanation.button.name); });
     for (const Name button : {"cmdNext", "cmdNext", "cmdBack", "cmdBack", "cmdBack"})
-        use([&](View& view) { view.press(button); });
+        use([&](Controls& controls) { controls.press(button); });
 }
 
 } // namespace

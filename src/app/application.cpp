@@ -82,7 +82,7 @@ Application::Application(Platform& platform) : platform_(platform), startup_(pla
 
 void Application::start()
 {
-    platform_.run([this] { startup_.Show(); });
+    platform_.run([this] { startup_.show(); });
 }
 
 Form* Application::window(Name name)

@@ -76,15 +76,15 @@ Handlers Startup::handlers()
 
 void Startup::Form_Load()
 {
-    Show();
+    show();
     Form& window = windowFor(IdentifyScreen());
-    Hide();
-    window.Show();
+    hide();
+    window.show();
 }
 
 void Startup::ReloadScreen()
 {
-    Show();
+    show();
     Form_Load();
 }
 

@@ -30,12 +30,12 @@ double counted(double value)
 
 } // namespace
 
-Figures::Figures(const ChartContent& content, const ChartDesign& design) : content_(content), design_(design)
+Figures::Figures(const Chart& chart) : chart_(chart)
 {
     findSeries();
     findSlots();
-    stacked_ = components_ || design_.bars == ChartDesign::Bars::Stacked;
-    decimals_ = content_.decimals ? *content_.decimals : decimalsOfValues();
+    stacked_ = components_ || chart_.design.bars == ChartDesign::Bars::Stacked;
+    decimals_ = chart_.decimals ? *chart_.decimals : decimalsOfValues();
 }
 
 bool Figures::nothingIn(const std::vector<double>& values) const
@@ -45,11 +45,12 @@ bool Figures::nothingIn(const std::vector<double>& values) const
 
 TextSpan Figures::nameOf(int number, bool alone) const
 {
-    if (const auto own = content_.legends.find(number); own != content_.legends.end())
+    if (const auto own = chart_.legends.find(number); own != chart_.legends.end())
         return own->second;
-    if (const auto designed = design_.legends.find(number); designed != design_.legends.end() && !alone)
+    if (const auto designed = chart_.design.legends.find(number);
+        designed != chart_.design.legends.end() && !alone)
         return designed->second;
-    if (const auto caption = content_.titles.find(1); caption != content_.titles.end())
+    if (const auto caption = chart_.titles.find(1); caption != chart_.titles.end())
         return caption->second;
     return {};
 }
@@ -57,18 +58,18 @@ TextSpan Figures::nameOf(int number, bool alone) const
 void Figures::findSeries()
 {
     std::size_t colours = 0;
-    for (std::size_t i = 0; i < content_.series.size(); ++i) {
+    for (std::size_t i = 0; i < chart_.series.size(); ++i) {
         const int number = static_cast<int>(i);
-        const bool projection = number == design_.projection;
+        const bool projection = number == chart_.design.projection;
         // Counted before anything is left out: hiding a series changes no other one's colour.
         const std::size_t colour = projection ? colours - 1 : colours++;
-        if (content_.hidden.contains(number) || (projection && nothingIn(content_.series[i])))
+        if (chart_.hidden.contains(number) || (projection && nothingIn(chart_.series[i])))
             continue;
         Series found{i, nameOf(number, false), palette[colour % palette.size()], false, projection};
-        auto own = content_.colours.find(number);
-        if (own == content_.colours.end() && projection)
-            own = content_.colours.find(number - 1);
-        if (own != content_.colours.end()) {
+        auto own = chart_.colours.find(number);
+        if (own == chart_.colours.end() && projection)
+            own = chart_.colours.find(number - 1);
+        if (own != chart_.colours.end()) {
             found.colour = own->second;
             found.ownColour = true;
         }
@@ -80,20 +81,20 @@ void Figures::findSeries()
         std::any_of(series_.begin(), series_.end(), [](const Series& s) { return !isBlank(s.name); });
     if (anyNamed)
         std::erase_if(series_, [this](const Series& s) {
-            return isBlank(s.name) && nothingIn(content_.series[s.number]);
+            return isBlank(s.name) && nothingIn(chart_.series[s.number]);
         });
 }
 
 void Figures::findSlots()
 {
-    std::size_t longest = content_.labels.size();
+    std::size_t longest = chart_.labels.size();
     for (const Series& s : series_)
-        longest = std::max(longest, content_.series[s.number].size());
-    components_ = content_.labels.empty() && longest == 1 && series_.size() > 1;
+        longest = std::max(longest, chart_.series[s.number].size());
+    components_ = chart_.labels.empty() && longest == 1 && series_.size() > 1;
     slotCount_ = static_cast<int>(components_ ? series_.size() : longest);
     pointCount_ = slotCount_;
     const int last = slotCount_ - 1;
-    if (content_.labels.empty() || last < 1 || !isBlank(label(last)))
+    if (chart_.labels.empty() || last < 1 || !isBlank(label(last)))
         return;
     for (std::size_t s = 0; s < series_.size(); ++s)
         if (value(s, last).value_or(0) != 0)
@@ -118,12 +119,12 @@ TextSpan Figures::label(int slot) const
         return {};
     if (components_)
         return series_[i].name;
-    return i < content_.labels.size() ? TextSpan(content_.labels[i]) : TextSpan();
+    return i < chart_.labels.size() ? TextSpan(chart_.labels[i]) : TextSpan();
 }
 
 std::optional<double> Figures::value(std::size_t series, int slot) const
 {
-    const std::vector<double>& values = content_.series[series_[series].number];
+    const std::vector<double>& values = chart_.series[series_[series].number];
     if (components_ && static_cast<std::size_t>(slot) != series)
         return {};
     const std::size_t i = components_ ? 0 : static_cast<std::size_t>(slot);
@@ -136,7 +137,7 @@ int Figures::decimalsOfValues() const
 {
     int decimals = 0;
     for (const Series& s : series_)
-        for (const double v : content_.series[s.number])
+        for (const double v : chart_.series[s.number])
             decimals = std::max(decimals, decimalsNeeded(counted(v), decimalsUnasked));
     return decimals;
 }
@@ -165,12 +166,12 @@ Text Figures::sentence(int slot) const
     return text;
 }
 
-Text titlesInOneLine(const ChartContent& content)
+Text titlesInOneLine(const Chart& chart)
 {
     Text line;
     for (int position = 1; position <= 3; ++position) {
-        const auto title = content.titles.find(position);
-        const Text text = title == content.titles.end() ? Text() : drawable(title->second);
+        const auto title = chart.titles.find(position);
+        const Text text = title == chart.titles.end() ? Text() : drawable(title->second);
         if (!text.empty())
             line += (line.empty() ? u"" : u", ") + text;
     }

@@ -1,27 +1,29 @@
 // Which of a chart's series and slots count, what they are called and how they are read out.
 #pragma once
 
-#include "chart/content.h"
+#include "chart/chart.h"
 
 #include <optional>
 #include <vector>
 
 namespace plotvue::chart {
 
-// A view: content and design must outlive it. Slots count from 0, and so do the series here, in which those
+// A view: the chart must outlive it. Slots count from 0, and so do the series here, in which those
 // that do not count are left out: hidden ones, a projection of nothing, and a series without name and figures
 // beside named ones (a group that the screen does not have).
 class Figures {
 public:
     struct Series {
-        std::size_t number = 0; // in the content
+        std::size_t number = 0; // in the chart
         TextSpan name;          // may be empty
         Colour colour;
-        bool ownColour = false; // asked for by the content, not taken from the palette
+        bool ownColour = false; // asked for by the chart, not taken from the palette
         bool projection = false;
     };
 
-    Figures(const ChartContent& content, const ChartDesign& design);
+    explicit Figures(const Chart& chart);
+
+    const Chart& chart() const { return chart_; }
 
     const std::vector<Series>& series() const { return series_; }
     // A chart of one point a series and no labels compares its series: each gets a slot and its name as
@@ -47,14 +49,13 @@ private:
     void findSlots();
     int decimalsOfValues() const;
 
-    const ChartContent& content_;
-    const ChartDesign& design_;
+    const Chart& chart_;
     std::vector<Series> series_;
     bool components_ = false, stacked_ = false;
     int slotCount_ = 0, pointCount_ = 0, decimals_ = 0;
 };
 
 // The titles in the order in which they are drawn, joined by ", ".
-Text titlesInOneLine(const ChartContent& content);
+Text titlesInOneLine(const Chart& chart);
 
 } // namespace plotvue::chart

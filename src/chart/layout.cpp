@@ -37,11 +37,9 @@ double Layout::snapped(double length) const
     return pixel > 0 ? std::round(length / pixel) * pixel : length;
 }
 
-Layout layoutChart(const ChartContent& content, const ChartDesign& design, Size paper, const Metrics& metrics,
-                   double deviceScale)
+Layout layoutChart(const Figures& figures, Size paper, const Metrics& metrics, double deviceScale)
 {
-    const Figures figures(content, design);
-    const LayoutInput input{content, design, figures, metrics};
+    const LayoutInput input{figures, metrics};
     Layout layout;
     layout.paper = paper;
     layout.em = metrics.height(TextRole::Small);

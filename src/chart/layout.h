@@ -19,6 +19,7 @@ public:
 
 struct Size {
     double width = 0, height = 0;
+    bool operator==(const Size&) const = default;
 };
 
 struct Box {
@@ -33,20 +34,24 @@ struct Box {
 struct Line { // of text, drawn from the left of its box
     Box box;
     Text text;
+    bool operator==(const Line&) const = default;
 };
 
 struct Title : Line {
     TextRole role = TextRole::Small;
     bool main = false;
+    bool operator==(const Title&) const = default;
 };
 struct LegendEntry {
     std::size_t series = 0; // of Figures
     Box swatch;
     Line name;
+    bool operator==(const LegendEntry&) const = default;
 };
 struct Tick {
     double y = 0;
     Line figure;
+    bool operator==(const Tick&) const = default;
 };
 // Of a slanted label the box is where it would lie unturned; it is turned by -45 degrees about its right end.
 // A January whose months are set as initials has two labels: "J" and, below it, its year.
@@ -54,6 +59,7 @@ struct SlotLabel {
     int slot = 0;
     Line name;
     bool strong = true; // false: one of the months between the Januaries
+    bool operator==(const SlotLabel&) const = default;
 };
 struct Bar {
     std::size_t series = 0; // of Figures
@@ -61,10 +67,12 @@ struct Bar {
     Box box;
     bool up = true;
     bool end = true; // false: another part of the stack stands on it
+    bool operator==(const Bar&) const = default;
 };
 struct SlotValue {
     int slot = 0;
     Line figure;
+    bool operator==(const SlotValue&) const = default;
 };
 
 struct Layout {
@@ -93,10 +101,11 @@ struct Layout {
     int slotAt(double x, double y) const; // the point whose slot, label included, is there; -1: none
     double y(double value) const;         // what lies off the axis is at its end
     double snapped(double length) const;
+
+    bool operator==(const Layout&) const = default;
 };
 
 // `deviceScale`: device pixels a unit; 0 for paper, on which nothing is snapped.
-Layout layoutChart(const ChartContent& content, const ChartDesign& design, Size paper, const Metrics& metrics,
-                   double deviceScale);
+Layout layoutChart(const Figures& figures, Size paper, const Metrics& metrics, double deviceScale);
 
 } // namespace plotvue::chart

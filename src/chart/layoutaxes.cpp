@@ -44,7 +44,7 @@ Labels readLabels(const LayoutInput& input)
             ++without;
         }
     }
-    if (withYear < without && input.design.labels == ChartDesign::Labels::Months &&
+    if (withYear < without && input.chart().design.labels == ChartDesign::Labels::Months &&
         !input.figures.components())
         labels.january = january;
     return labels;
@@ -168,7 +168,8 @@ void placeAxes(const LayoutInput& input, Layout& layout, const Box& inner, doubl
 {
     const double em = layout.em;
     const Range reach = reachOf(input.figures);
-    ScaleWishes wishes{input.content.axisMin, input.content.axisMax, input.content.decimals};
+    const Chart& chart = input.chart();
+    ScaleWishes wishes{chart.axisMin, chart.axisMax, chart.decimals};
     wishes.mostSteps = std::clamp(static_cast<int>((inner.bottom() - top - em * 2) / (em * linesPerStep)),
                                   fewestSteps, mostSteps);
     layout.scale = scaleFor(reach, wishes);
@@ -182,7 +183,8 @@ void placeAxes(const LayoutInput& input, Layout& layout, const Box& inner, doubl
     layout.slotWidth = layout.plot.width / layout.slotCount;
 
     const Labels labels = readLabels(input);
-    const bool names = input.design.labels == ChartDesign::Labels::Names || input.figures.components();
+    const bool names =
+        input.chart().design.labels == ChartDesign::Labels::Names || input.figures.components();
     const double longestName = names ? widest(input, labels, {}) : 0;
     layout.slanted = names && longestName + em * .5 > layout.slotWidth;
     const LabelStyle style = names

@@ -30,8 +30,8 @@ TextRole roleThatFits(const TitlePlace& place, TextSpan text, double room, const
 double placeTitles(const LayoutInput& input, Layout& layout, const Box& inner, double top)
 {
     for (const TitlePlace& place : titlePlaces) {
-        const auto title = input.content.titles.find(place.position);
-        if (title == input.content.titles.end())
+        const auto title = input.chart().titles.find(place.position);
+        if (title == input.chart().titles.end())
             continue;
         Text text = drawable(title->second);
         const TextRole role = roleThatFits(place, text, inner.width, input.metrics);

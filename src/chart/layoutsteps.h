@@ -6,10 +6,10 @@
 namespace plotvue::chart {
 
 struct LayoutInput {
-    const ChartContent& content;
-    const ChartDesign& design;
     const Figures& figures;
     const Metrics& metrics;
+
+    const Chart& chart() const { return figures.chart(); }
 
     double width(TextSpan text) const { return metrics.width(text, TextRole::Small); }
     Text fitted(Text text, double room, TextRole role) const;

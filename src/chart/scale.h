@@ -17,6 +17,7 @@ struct Scale {
     double min = 0, max = 1;
     int decimals = 0;
     std::vector<double> ticks{0, 1}; // ascending, within min and max
+    bool operator==(const Scale&) const = default;
 };
 
 // Steps of 1, 2, 2.5 or 5 times a power of ten that `decimals` can write exactly, at most about `mostSteps`

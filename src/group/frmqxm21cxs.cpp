@@ -29,16 +29,18 @@ Declaration frmQXM21CXS::declare() const
     std::vector<Item> side{{groupTypeFrame()}, {groups}, {Space{}, 1}};
     for (Item& button : groupButtons())
         side.push_back(std::move(button));
-    return {.name = name(),
-            .caption = u"Plotvue!",
-            .content = {Box::Direction::Row,
-                        {{ChartBox{.name = "ChartFX1", .design = {.labels = ChartDesign::Labels::Names}}, 3},
-                         {GridBox{.name = "MSFlexGrid1",
-                                  .spokenName = u"Figures charted",
-                                  .format = u"<Sales Rep|>",
-                                  .figures = {1}},
-                          1},
-                         column(std::move(side))}}};
+    return {
+        .name = name(),
+        .caption = u"Plotvue!",
+        .content = {
+            Box::Direction::Row,
+            {{ChartBox{.name = "ChartFX1", .chart = {.design = {.labels = ChartDesign::Labels::Names}}}, 3},
+             {GridBox{.name = "MSFlexGrid1",
+                      .spokenName = u"Figures charted",
+                      .format = u"<Sales Rep|>",
+                      .figures = {1}},
+              1},
+             column(std::move(side))}}};
 }
 
 void frmQXM21CXS::drawChart(TextSpan capture)
@@ -50,8 +52,6 @@ void frmQXM21CXS::drawChart(TextSpan capture)
                          (group == total || group == firstGroup + i / figuresAGroup));
     const GroupScreen screen = readCapture(capture, [&] { return readGroups(capture, wanted); });
 
-    ChartControl& ChartFX1 = view().chart("ChartFX1");
-    ChartFX1.SetTitle(2, screen.subject);
     Text title(types.at(static_cast<std::size_t>(type)));
     title += u" - ";
     title += nameGroups(screen);
@@ -69,36 +69,41 @@ void frmQXM21CXS::drawChart(TextSpan capture)
     ChartArrayData data;
     data.AddArray(values);
     data.AddArray(labels);
-    ChartFX1.SetChartData(data);
-    ChartFX1.SetTitle(3, title);
+    controls().chart("ChartFX1").change([&](Chart& ChartFX1) {
+        ChartFX1.SetTitle(2, screen.subject);
+        ChartFX1.SetTitle(3, title);
+        ChartFX1.SetChartData(data);
+    });
 }
 
 TextSpan frmQXM21CXS::nameGroups(const GroupScreen& screen)
 {
-    OptionsControl& optSales = view().options("optSales");
     const int group = chosenGroup();
     TextSpan chosen;
-    for (int i = 0; i < mostGroups; ++i) {
-        const bool there = i < screen.groups;
-        const TextSpan caption = there ? screen.names[static_cast<std::size_t>(i)] : TextSpan{};
-        optSales.setCaption(firstGroup + i, caption);
-        optSales.setVisible(firstGroup + i, there);
-        if (group == firstGroup + i)
-            chosen = caption;
-    }
+    controls().options("optSales").change([&](OptionGroup& optSales) {
+        for (int i = 0; i < mostGroups; ++i) {
+            const bool there = i < screen.groups;
+            const TextSpan caption = there ? screen.names[static_cast<std::size_t>(i)] : TextSpan{};
+            optSales.setCaption(firstGroup + i, caption);
+            optSales.setVisible(firstGroup + i, there);
+            if (group == firstGroup + i)
+                chosen = caption;
+        }
+    });
     return group == total ? totalName : chosen;
 }
 
 void frmQXM21CXS::fillGrid(const std::vector<Text>& labels, const std::vector<double>& values, TextSpan title)
 {
-    GridControl& MSFlexGrid1 = view().grid("MSFlexGrid1");
-    MSFlexGrid1.setRows(static_cast<int>(values.size()));
-    MSFlexGrid1.setFormat(u"<Sales Rep|>" + Text(title));
-    for (std::size_t i = 0; i + 1 < values.size(); ++i) {
-        const int row = static_cast<int>(i) + 1;
-        MSFlexGrid1.setCell(row, 0, labels[i]);
-        MSFlexGrid1.setCell(row, 1, plainNumber(values[i]));
-    }
+    controls().grid("MSFlexGrid1").change([&](Grid& MSFlexGrid1) {
+        MSFlexGrid1.setRows(static_cast<int>(values.size()));
+        MSFlexGrid1.setFormat(u"<Sales Rep|>" + Text(title));
+        for (std::size_t i = 0; i + 1 < values.size(); ++i) {
+            const int row = static_cast<int>(i) + 1;
+            MSFlexGrid1.setCell(row, 0, labels[i]);
+            MSFlexGrid1.setCell(row, 1, plainNumber(values[i]));
+        }
+    });
 }
 
 } // namespace plotvue

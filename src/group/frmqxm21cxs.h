@@ -16,7 +16,7 @@ protected:
     void drawChart(TextSpan capture) override;
 
 private:
-    int chosenGroup() const { return view().options("optSales").chosen(1); }
+    int chosenGroup() const { return controls().options("optSales")->chosenIn(1); }
     // Captions of the group options, and the name of the chosen group.
     TextSpan nameGroups(const GroupScreen& screen);
     void fillGrid(const std::vector<Text>& labels, const std::vector<double>& values, TextSpan title);

@@ -30,8 +30,8 @@ Declaration frmQXM21SXC::declare() const
             .caption = u"Plotvue!",
             .content = {Box::Direction::Row,
                         {{ChartBox{.name = "ChartFX1",
-                                   .design = {.bars = ChartDesign::Bars::Grouped,
-                                              .labels = ChartDesign::Labels::Names}},
+                                   .chart = {.design = {.bars = ChartDesign::Bars::Grouped,
+                                                        .labels = ChartDesign::Labels::Names}}},
                           1},
                          column(std::move(side))}}};
 }
@@ -43,12 +43,6 @@ void frmQXM21SXC::drawChart(TextSpan capture)
     for (int i = 0; i < mostGroups * figuresAGroup; ++i)
         wanted.push_back(i % figuresAGroup == type.place);
     const GroupScreen screen = readCapture(capture, [&] { return readGroups(capture, wanted); });
-
-    ChartControl& ChartFX1 = view().chart("ChartFX1");
-    ChartFX1.ClearLegends();
-    ChartFX1.SetTitle(2, screen.subject);
-    if (screen.groups > 0 && !screen.salesmen.empty())
-        ChartFX1.SetTitle(3, type.title);
 
     const std::size_t slots = screen.salesmen.size() + 1;
     std::vector<std::vector<double>> series(mostGroups, std::vector<double>(slots));
@@ -65,10 +59,16 @@ void frmQXM21SXC::drawChart(TextSpan capture)
     for (const std::vector<double>& figures : series)
         data.AddArray(figures);
     data.AddArray(labels);
-    ChartFX1.SetChartData(data);
 
-    for (std::size_t i = 0; i < screen.names.size(); ++i)
-        ChartFX1.SetSeriesLegend(static_cast<int>(i), screen.names[i]);
+    controls().chart("ChartFX1").change([&](Chart& ChartFX1) {
+        ChartFX1.clearLegends();
+        ChartFX1.SetTitle(2, screen.subject);
+        if (screen.groups > 0 && !screen.salesmen.empty())
+            ChartFX1.SetTitle(3, type.title);
+        ChartFX1.SetChartData(data);
+        for (std::size_t i = 0; i < screen.names.size(); ++i)
+            ChartFX1.SetSeriesLegend(static_cast<int>(i), screen.names[i]);
+    });
 }
 
 } // namespace plotvue

@@ -20,7 +20,7 @@ protected:
     virtual void drawChart(TextSpan capture) = 0;
     virtual TextSpan identifier() const = 0;
 
-    int chosenType() const { return view().options("optSales").chosen(); }
+    int chosenType() const { return controls().options("optSales")->chosenIn(0); }
 
 private:
     void optSales_Click() { RefreshChart(); }

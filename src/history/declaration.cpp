@@ -50,8 +50,9 @@ Declaration declareHistoryWindow(const MonthlyScreen& screen)
 
     return {.name = screen.window,
             .caption = u"Plotvue!",
-            .content = {Box::Direction::Row,
-                        {{ChartBox{.name = "ChartFX1", .design = design}, 1}, column(std::move(side))}}};
+            .content = {
+                Box::Direction::Row,
+                {{ChartBox{.name = "ChartFX1", .chart = {.design = design}}, 1}, column(std::move(side))}}};
 }
 
 } // namespace plotvue

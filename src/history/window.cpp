@@ -22,7 +22,7 @@ Handlers HistoryWindow::handlers()
 void HistoryWindow::Form_Load()
 {
     if (!screen_.captionOnLoad.empty())
-        view().setCaption(screen_.captionOnLoad);
+        controls().caption.set(Text(screen_.captionOnLoad));
     RefreshChart();
 }
 
@@ -41,32 +41,33 @@ void HistoryWindow::RefreshChart()
     const MonthlyFigures figures = readCapture(
         capture, [&] { return readMonths(screen_, capture, acceptance.identifier, chosenMonths(), type); });
 
-    ChartControl& ChartFX1 = view().chart("ChartFX1");
-    if (screen_.second == SecondSeries::OwnValue)
-        ChartFX1.ShowSeries(1, type.second.is != Value::Is::Nothing);
-    if (!type.caption.empty()) {
-        ChartFX1.SetTitle(1, type.caption);
-        ChartFX1.SetValueDecimals(type.decimals);
-    }
-    ChartFX1.SetTitle(2, figures.subject);
-    if (!screen_.subject2.empty())
-        ChartFX1.SetTitle(3, figures.subject2);
-    ChartArrayData data;
-    data.AddArray(figures.values);
-    if (screen_.second != SecondSeries::None)
-        data.AddArray(figures.second);
-    data.AddArray(figures.labels);
-    ChartFX1.SetChartData(data);
+    controls().chart("ChartFX1").change([&](Chart& ChartFX1) {
+        if (screen_.second == SecondSeries::OwnValue)
+            ChartFX1.showSeries(1, type.second.is != Value::Is::Nothing);
+        if (!type.caption.empty()) {
+            ChartFX1.SetTitle(1, type.caption);
+            ChartFX1.SetValueDecimals(type.decimals);
+        }
+        ChartFX1.SetTitle(2, figures.subject);
+        if (!screen_.subject2.empty())
+            ChartFX1.SetTitle(3, figures.subject2);
+        ChartArrayData data;
+        data.AddArray(figures.values);
+        if (screen_.second != SecondSeries::None)
+            data.AddArray(figures.second);
+        data.AddArray(figures.labels);
+        ChartFX1.SetChartData(data);
+    });
 }
 
 int HistoryWindow::chosenMonths() const
 {
-    return screen_.periods.at(static_cast<std::size_t>(view().options("opt12").chosen())).months;
+    return screen_.periods.at(static_cast<std::size_t>(controls().options("opt12")->chosenIn(0))).months;
 }
 
 const DataType& HistoryWindow::chosenType() const
 {
-    const int index = screen_.typeOrder.empty() ? 0 : view().options("optSales").chosen();
+    const int index = screen_.typeOrder.empty() ? 0 : controls().options("optSales")->chosenIn(0);
     return screen_.types.at(static_cast<std::size_t>(index));
 }
 

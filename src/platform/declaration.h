@@ -2,7 +2,7 @@
 // Names and captions must outlive the window (literals do).
 #pragma once
 
-#include "chart/content.h"
+#include "chart/chart.h"
 
 #include <map>
 #include <string_view>
@@ -63,8 +63,7 @@ struct OptionFrame {
 
 struct ChartBox {
     Name name;
-    ChartDesign design{};
-    std::map<int, TextSpan> titles{}; // by position, until SetTitle gives another
+    Chart chart{}; // what it shows at first
 };
 
 struct GridBox {

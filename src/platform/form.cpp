@@ -1,10 +1,11 @@
 #include "platform/form.h"
 
 #include <stdexcept>
+#include <utility>
 
 namespace plotvue {
 
-void Form::Show()
+void Form::show()
 {
     if (!loaded() || (loadsAnew() && !visible())) {
         hiddenWhileLoading_ = false;
@@ -12,35 +13,41 @@ void Form::Show()
         if (hiddenWhileLoading_)
             return;
     }
-    const bool wasVisible = visible();
-    view().show(); // a visible window comes to the front
-    if (!wasVisible)
-        platform_.listener({.kind = Event::Kind::Show, .window = name()});
+    window().show();
+    if (!std::exchange(visible_, true))
+        platform_.tell({.kind = Event::Kind::Show, .window = name()});
 }
 
-void Form::Hide()
+void Form::hide()
 {
     hiddenWhileLoading_ = true;
-    if (!visible())
+    if (!std::exchange(visible_, false))
         return;
-    view_->hide();
-    platform_.listener({.kind = Event::Kind::Hide, .window = name()});
+    window().hide();
+    platform_.tell({.kind = Event::Kind::Hide, .window = name()});
 }
 
-void Form::Unload()
+void Form::unload()
 {
-    Hide();
+    hide();
     if (!loaded())
         return;
-    view_.reset();
-    platform_.listener({.kind = Event::Kind::Unload, .window = name()});
+    window_.reset();
+    controls_.reset();
+    platform_.tell({.kind = Event::Kind::Unload, .window = name()});
 }
 
-View& Form::view() const
+Controls& Form::controls() const
 {
-    if (!view_)
+    if (!controls_)
         throw std::out_of_range("a window is used before it is loaded");
-    return *view_;
+    return *controls_;
+}
+
+Window& Form::window() const
+{
+    controls();
+    return *window_;
 }
 
 void Form::load()
@@ -48,23 +55,25 @@ void Form::load()
     Handlers guarded = handlers();
     for (auto& [control, handler] : guarded)
         handler = [this, inner = std::move(handler)](int index) { platform_.run([&] { inner(index); }); };
-    view_ = platform_.build(declare(), guarded, [this] { platform_.run([this] { wayOut(); }); });
-    platform_.listener({.kind = Event::Kind::Load, .window = name()});
+    controls_ = std::make_shared<Controls>(declare(), std::move(guarded),
+                                           [this] { platform_.run([this] { wayOut(); }); });
+    window_ = platform_.build(controls_);
+    platform_.tell({.kind = Event::Kind::Load, .window = name()});
     Form_Load();
 }
 
 void Form::leaveFor(Form& home)
 {
-    Hide();
-    home.Show();
+    hide();
+    home.show();
 }
 
 void Form::printWindow()
 {
     try {
-        const int copies = toInt16(platform_.choosePrinter(view()), u"The number of copies");
+        const int copies = toInt16(platform_.choosePrinter(window()), u"The number of copies");
         for (int copy = 1; copy <= copies; ++copy)
-            platform_.print(view(), name());
+            platform_.print(window(), name());
     } catch (const Failure&) {
     }
 }

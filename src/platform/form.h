@@ -15,15 +15,16 @@ public:
 
     // Shows the window; a window that is not loaded is loaded first. A window that hides itself while it
     // loads stays hidden.
-    void Show();
-    void Hide();
-    void Unload();
+    void show();
+    void hide();
+    void unload();
 
-    bool loaded() const { return view_ != nullptr; }
-    bool visible() const { return view_ && view_->visible(); }
+    bool loaded() const { return window_ != nullptr; }
+    bool visible() const { return visible_; }
 
     // Throws std::out_of_range while the window is not loaded.
-    View& view() const;
+    Controls& controls() const;
+    Window& window() const;
 
 protected:
     virtual Declaration declare() const = 0;
@@ -47,7 +48,9 @@ private:
     void load();
 
     Platform& platform_;
-    std::unique_ptr<View> view_;
+    std::shared_ptr<Controls> controls_; // the platform's window has a share as long as anything shows them
+    std::unique_ptr<Window> window_;
+    bool visible_ = false;
     bool hiddenWhileLoading_ = false;
 };
 

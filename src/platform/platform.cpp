@@ -6,14 +6,14 @@ namespace plotvue {
 
 void Platform::message(TextSpan title, TextSpan text)
 {
-    listener({.kind = Event::Kind::Message, .title = title, .text = text});
+    tell({.kind = Event::Kind::Message, .title = title, .text = text});
     showMessage(title, text);
 }
 
-void Platform::print(View& view, Name window)
+void Platform::print(Window& window, Name name)
 {
-    printView(view);
-    listener({.kind = Event::Kind::Print, .window = window});
+    printWindow(window);
+    tell({.kind = Event::Kind::Print, .window = name});
 }
 
 void Platform::run(const std::function<void()>& handler)
@@ -24,11 +24,11 @@ void Platform::run(const std::function<void()>& handler)
         handler();
     } catch (const EndOfProcess&) {
         over_ = true;
-        listener({.kind = Event::Kind::End});
+        tell({.kind = Event::Kind::End});
         finish();
     } catch (const EndlessRead& read) {
         over_ = true;
-        listener({.kind = Event::Kind::Spin});
+        tell({.kind = Event::Kind::Spin});
         spin(read.lines);
     } catch (const Failure& failure) {
         fail(failure.sentence);
@@ -43,7 +43,7 @@ void Platform::run(const std::function<void()>& handler)
 void Platform::fail(TextSpan sentence)
 {
     over_ = true;
-    listener({.kind = Event::Kind::Error, .text = sentence});
+    tell({.kind = Event::Kind::Error, .text = sentence});
     reportError(sentence);
 }
 

@@ -3,47 +3,44 @@
 #pragma once
 
 #include "capture/failure.h"
-#include "platform/view.h"
+#include "platform/controls.h"
+#include "platform/events.h"
 
 #include <functional>
 #include <memory>
 
 namespace plotvue {
 
-// What a platform tells whoever listens, in the order in which it happens.
-struct Event {
-    enum class Kind { Load, Show, Hide, Unload, Message, Print, Spin, Error, End } kind;
-    Name window{};    // of Load, Show, Hide, Unload, Print
-    TextSpan title{}; // of Message; empty where the box has none
-    TextSpan text{};  // of Message and Error
-};
-
 // Thrown by end(): nothing of the handler that ended the process runs any more.
 struct EndOfProcess {};
 
-class Platform {
+// A window on the desktop.
+class Window {
+public:
+    virtual ~Window() = default;
+    virtual void show() = 0; // comes to the front when it is visible already
+    virtual void hide() = 0;
+};
+
+class Platform : public EventSource {
 public:
     virtual ~Platform() = default;
-
-    std::function<void(const Event&)> listener = [](const Event&) {};
 
     // The clipboard's text; empty when it holds none.
     virtual Text clipboardText() = 0;
 
-    // Makes a window, hidden. `close` runs when a person closes it with the title bar; it stays unless that
-    // hides it.
-    virtual std::unique_ptr<View> build(const Declaration& declaration, const Handlers& handlers,
-                                        std::function<void()> close) = 0;
+    // Makes the window that shows these controls, hidden.
+    virtual std::unique_ptr<Window> build(std::shared_ptr<Controls> controls) = 0;
 
     // Shows a box with an OK button and waits for it.
     void message(TextSpan title, TextSpan text);
 
     // Shows the printer dialog, makes the choice the default printer and returns the number of copies.
     // Throws Failure when the dialog is cancelled or fails.
-    virtual double choosePrinter(View& view) = 0;
+    virtual double choosePrinter(Window& window) = 0;
 
     // Prints the window's client area as one job. Throws Failure when that fails.
-    void print(View& view, Name window);
+    void print(Window& window, Name name);
 
     [[noreturn]] void end() { throw EndOfProcess{}; }
 
@@ -56,7 +53,7 @@ public:
 
 protected:
     virtual void showMessage(TextSpan title, TextSpan text) = 0;
-    virtual void printView(View& view) = 0;
+    virtual void printWindow(Window& window) = 0;
     virtual void reportError(TextSpan sentence) = 0; // then the process ends with status 1
     virtual void spin(int lines) = 0; // waits for ever; the text has that many lines that are not empty
     virtual void finish() = 0;        // the process ends with status 0

@@ -52,10 +52,10 @@ Handlers DrillDownWindow::handlers()
 
 void DrillDownWindow::drawChart()
 {
-    const int type = design_.types.empty() ? 0 : view().options("optSales").chosen();
+    const int type = design_.types.empty() ? 0 : controls().options("optSales")->chosenIn(0);
     ListFile list(design_.analysis);
     drawn_ = list.find(readChosenRow(design_.analysis), design_.mostRecordsToDraw);
-    design_.draw(view(), drawn_, type);
+    design_.draw(controls(), drawn_, type);
 }
 
 void DrillDownWindow::explain(const DrillDownDesign::Explanation& explanation)
@@ -96,7 +96,7 @@ void DrillDownWindow::choose(const Record& record)
 void DrillDownWindow::endOfList()
 {
     platform().message({}, u"End of list");
-    Unload();
+    unload();
 }
 
 } // namespace plotvue

@@ -22,7 +22,7 @@ struct DrillDownDesign {
     std::vector<Item> charts;      // side by side
     std::vector<TextSpan> types{}; // captions of the data types by index; empty: no choice
     // Draws the record; `type` is the index of the chosen data type, 0 where there is no choice.
-    void (*draw)(View&, const Record&, int type);
+    void (*draw)(Controls&, const Record&, int type);
 
     struct Explanation {
         Button button;
@@ -47,7 +47,7 @@ protected:
 private:
     void cmdBack_Click();
     void cmdNext_Click();
-    void cmdExit_Click() { Unload(); }
+    void cmdExit_Click() { unload(); }
     void cmdPrint_Click() { printWindow(); }
     void optSales_Click() { drawChart(); }
     void explain(const DrillDownDesign::Explanation& explanation);

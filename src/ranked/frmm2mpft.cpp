@@ -61,7 +61,8 @@ const DrillDownDesign frmM2MpftA{
     .width = 1100,
     .charts = charts(),
     .types = monthTypeOptions(),
-    .draw = [](View& view, const Record& record, int type) { draw(view, record, type, record[2]); },
+    .draw = [](Controls& controls, const Record& record,
+               int type) { draw(controls, record, type, record[2]); },
 };
 
 } // namespace plotvue

@@ -59,7 +59,7 @@ int bucketsIn(TextSpan captions)
     return j;
 }
 
-void draw(View& view, const Record& record, int)
+void draw(Controls& controls, const Record& record, int)
 {
     const TextSpan entry = record[1], captions = record[2];
     const int buckets = bucketsIn(captions);
@@ -80,18 +80,19 @@ void draw(View& view, const Record& record, int)
         largest = std::max(largest, sum);
     }
 
-    ChartControl& ChartFX1 = view.chart("ChartFX1");
-    ChartFX1.SetTitle(2, Text(mid(entry, 14, 5)) + u" - " + Text(mid(entry, 20, 30)) + u' ' +
-                             Text(mid(entry, 51, 15)) + u' ' + Text(mid(entry, 67, 2)));
-    ChartFX1.SetTitle(3, u"Accounts Receivable Analysis");
-    ChartFX1.SetAxisMax(largest);
-    ChartArrayData data;
-    for (const std::vector<double>& amounts : series)
-        data.AddArray(amounts);
-    data.AddArray(labels);
-    ChartFX1.SetChartData(data);
-    for (int j = 0; j < buckets; ++j)
-        ChartFX1.SetSeriesLegend(j, mid(captions, 8 + 8 * j, 8));
+    controls.chart("ChartFX1").change([&](Chart& ChartFX1) {
+        ChartFX1.SetTitle(2, Text(mid(entry, 14, 5)) + u" - " + Text(mid(entry, 20, 30)) + u' ' +
+                                 Text(mid(entry, 51, 15)) + u' ' + Text(mid(entry, 67, 2)));
+        ChartFX1.SetTitle(3, u"Accounts Receivable Analysis");
+        ChartFX1.SetAxisMax(largest);
+        ChartArrayData data;
+        for (const std::vector<double>& amounts : series)
+            data.AddArray(amounts);
+        data.AddArray(labels);
+        ChartFX1.SetChartData(data);
+        for (int j = 0; j < buckets; ++j)
+            ChartFX1.SetSeriesLegend(j, mid(captions, 8 + 8 * j, 8));
+    });
 }
 
 using To = Taken::To;

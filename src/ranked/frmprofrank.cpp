@@ -69,8 +69,8 @@ const DrillDownDesign frmProfRankA{
     .width = 1100,
     .charts = charts(),
     .types = monthTypeOptions(),
-    .draw = [](View& view, const Record& record,
-               int type) { draw(view, record, type, componentLine(record)); },
+    .draw = [](Controls& controls, const Record& record,
+               int type) { draw(controls, record, type, componentLine(record)); },
 };
 
 } // namespace plotvue

@@ -86,7 +86,7 @@ double monthValue(const Record& record, int month)
     return leadingNumber(mid(record[first ? 1 : 2], 14 * place - 5, valueLength));
 }
 
-void draw(View& view, const Record& record, int)
+void draw(Controls& controls, const Record& record, int)
 {
     std::vector<double> values(monthColumns);
     std::vector<Text> labels(monthColumns);
@@ -102,13 +102,14 @@ void draw(View& view, const Record& record, int)
     for (const std::size_t line : {4u, 5u, 6u})
         textOf(record, line);
 
-    ChartControl& ChartFX1 = view.chart("ChartFX1");
-    ChartFX1.SetTitle(2, ownName(record[3]).value_or(ratioOrComponentName(codeOf(record[2]))));
-    ChartFX1.SetAxisMax(largest);
-    ChartArrayData data;
-    data.AddArray(values);
-    data.AddArray(labels);
-    ChartFX1.SetChartData(data);
+    controls.chart("ChartFX1").change([&](Chart& ChartFX1) {
+        ChartFX1.SetTitle(2, ownName(record[3]).value_or(ratioOrComponentName(codeOf(record[2]))));
+        ChartFX1.SetAxisMax(largest);
+        ChartArrayData data;
+        data.AddArray(values);
+        data.AddArray(labels);
+        ChartFX1.SetChartData(data);
+    });
 }
 
 void countEntry(RankedReading& reading, TextSpan)

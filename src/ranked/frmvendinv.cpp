@@ -50,7 +50,7 @@ Text dollars(double amount)
     return (whole < 0 ? u"-$" : u"$") + digits;
 }
 
-void drawAges(ChartControl& ChartFX2, TextSpan line)
+void drawAges(Chart& ChartFX2, TextSpan line)
 {
     std::vector<double> ages;
     std::vector<Text> labels;
@@ -67,18 +67,19 @@ void drawAges(ChartControl& ChartFX2, TextSpan line)
     ChartFX2.SetChartData(data);
 }
 
-void draw(View& view, const Record& record, int type)
+void draw(Controls& controls, const Record& record, int type)
 {
     const TextSpan entry = record[1];
-    drawAges(view.chart("ChartFX2"), record[2]);
+    controls.chart("ChartFX2").change([&](Chart& ChartFX2) { drawAges(ChartFX2, record[2]); });
 
-    ChartControl& ChartFX1 = view.chart("ChartFX1");
     const ChartArrayData months =
         monthSeries(record[0], {.volume = record[3], .sales = record[4], .profit = record[5]}, type);
-    ChartFX1.SetTitle(1, monthTypes()[static_cast<std::size_t>(type)].title);
-    ChartFX1.SetTitle(2, u"Vendor: " + Text(mid(entry, 17, 30)));
-    ChartFX1.SetTitle(3, u"Category: " + Text(mid(entry, 54, 30)));
-    ChartFX1.SetChartData(months);
+    controls.chart("ChartFX1").change([&](Chart& ChartFX1) {
+        ChartFX1.SetTitle(1, monthTypes()[static_cast<std::size_t>(type)].title);
+        ChartFX1.SetTitle(2, u"Vendor: " + Text(mid(entry, 17, 30)));
+        ChartFX1.SetTitle(3, u"Category: " + Text(mid(entry, 54, 30)));
+        ChartFX1.SetChartData(months);
+    });
 }
 
 using To = Taken::To;
@@ -133,8 +134,8 @@ const DrillDownDesign frmVendInvA{
     .width = 1100,
     .charts = {{ChartBox{.name = "ChartFX1"}, 2},
                {ChartBox{.name = "ChartFX2",
-                         .design = {.labels = ChartDesign::Labels::Names},
-                         .titles = {{2, u"FIFO Age"}}},
+                         .chart = {.design = {.labels = ChartDesign::Labels::Names},
+                                   .titles = {{2, u"FIFO Age"}}}},
                 1}},
     .types = monthTypeOptions(),
     .draw = draw,

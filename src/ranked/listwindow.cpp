@@ -45,42 +45,43 @@ void RankedListWindow::Form_Load()
     if (!reading_.accepted)
         return cmdExit_Click();
     for (const auto& [control, text] : analysis_.summary)
-        view().setText(control, text(reading_));
+        controls().text(control).set(text(reading_));
     for (const RankedGrid& grid : analysis_.grids)
         fill(grid);
 }
 
 void RankedListWindow::fill(const RankedGrid& grid)
 {
-    GridControl& control = view().grid(grid.box.name);
     const std::vector<int> ranks = ranksIn(grid, reading_);
-    control.setRows(static_cast<int>(ranks.size()) + 1);
-    for (std::size_t i = 0; i < ranks.size(); ++i) {
-        const Entry& entry = reading_.entry(ranks[i]);
-        const int row = static_cast<int>(i) + 1;
-        for (std::size_t c = 0; c < grid.columns.size(); ++c) {
-            const GridColumn& column = grid.columns[c];
-            const auto slot = static_cast<std::size_t>(column.slot);
-            const bool isText = column.shows == GridColumn::Shows::TextSlot;
-            const bool isRow = column.shows == GridColumn::Shows::RowNumber;
-            control.setCell(row, static_cast<int>(c),
-                            isText ? entry.texts[slot] : plainNumber(isRow ? row : entry.numbers[slot]));
+    controls().grid(grid.box.name).change([&](Grid& control) {
+        control.setRows(static_cast<int>(ranks.size()) + 1);
+        for (std::size_t i = 0; i < ranks.size(); ++i) {
+            const Entry& entry = reading_.entry(ranks[i]);
+            const int row = static_cast<int>(i) + 1;
+            for (std::size_t c = 0; c < grid.columns.size(); ++c) {
+                const GridColumn& column = grid.columns[c];
+                const auto slot = static_cast<std::size_t>(column.slot);
+                const bool isText = column.shows == GridColumn::Shows::TextSlot;
+                const bool isRow = column.shows == GridColumn::Shows::RowNumber;
+                control.setCell(row, static_cast<int>(c),
+                                isText ? entry.texts[slot] : plainNumber(isRow ? row : entry.numbers[slot]));
+            }
         }
-    }
+    });
 }
 
 void RankedListWindow::MSFlexGrid_Click(const RankedGrid& grid, int row)
 {
     writeChosenRow(grid, row);
     writeList(grid);
-    drillDown_.Show();
+    drillDown_.show();
 }
 
 void RankedListWindow::writeChosenRow(const RankedGrid& grid, int row)
 {
     RecordWriter record;
     for (const KeyPart& part : analysis_.key.parts) {
-        const Text cell = view().grid(grid.box.name).cell(row, part.gridColumn);
+        const Text cell = controls().grid(grid.box.name)->cell(row, part.gridColumn);
         part.number ? record.number(leadingNumber(cell)) : record.text(cell);
     }
     record.endRecord().writeTo(chosenRowFile);

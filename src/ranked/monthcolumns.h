@@ -1,7 +1,7 @@
 // Thirteen months side by side on a line of the host: labels, figures, and the data types made of them.
 #pragma once
 
-#include "platform/chartcontrol.h"
+#include "chart/chart.h"
 #include "ranked/drilldown.h"
 
 namespace plotvue {

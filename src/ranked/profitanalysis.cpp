@@ -96,41 +96,43 @@ std::vector<Item> charts()
 {
     return {{ChartBox{.name = "ChartFX1"}, 2},
             {ChartBox{.name = "ChartFX2",
-                      .design = {.bars = ChartDesign::Bars::Grouped, .labels = ChartDesign::Labels::Names},
-                      .titles = {{2, u"Volume/Margin components"}}},
+                      .chart = {.design = {.bars = ChartDesign::Bars::Grouped,
+                                           .labels = ChartDesign::Labels::Names},
+                                .titles = {{2, u"Volume/Margin components"}}}},
              1}};
 }
 
-void draw(View& view, const Record& record, int type, TextSpan componentLine)
+void draw(Controls& controls, const Record& record, int type, TextSpan componentLine)
 {
     const double volume = leadingNumber(mid(componentLine, 19, 9));
     const double margin = leadingNumber(mid(componentLine, 32, 9));
-    ChartControl& ChartFX2 = view.chart("ChartFX2");
-    ChartFX2.SetAxisMax(std::max({volume, margin, 0.0}));
-    ChartFX2.SetAxisMin(std::min({volume, margin, 0.0}));
-    constexpr Colour green{0, 255, 0}, red{255, 0, 0};
-    ChartFX2.SetSeriesColor(0, volume > 0 ? green : red);
-    ChartFX2.SetSeriesColor(1, margin > 0 ? green : red);
-
     const TextSpan entry = record[1];
     const MonthType& chosen = monthTypes()[static_cast<std::size_t>(type)];
     // The percentage reads its profit one character wider than the column is.
     const ChartArrayData months = monthSeries(
         record[0], {.volume = record[3], .sales = record[4], .profit = record[5], .profitWidthOfPercent = 9},
         type);
-    ChartControl& ChartFX1 = view.chart("ChartFX1");
-    ChartFX1.SetTitle(1, chosen.title);
-    ChartFX1.SetValueDecimals(chosen.decimals);
-    ChartFX1.SetTitle(2, u"Customer: " + Text(mid(entry, 14, 5)) + u" - " + Text(mid(entry, 20, 30)));
-    ChartFX1.SetTitle(3, u"Product: " + Text(mid(entry, 51, 10)));
-    ChartFX1.SetChartData(months);
+    controls.chart("ChartFX1").change([&](Chart& ChartFX1) {
+        ChartFX1.SetTitle(1, chosen.title);
+        ChartFX1.SetValueDecimals(chosen.decimals);
+        ChartFX1.SetTitle(2, u"Customer: " + Text(mid(entry, 14, 5)) + u" - " + Text(mid(entry, 20, 30)));
+        ChartFX1.SetTitle(3, u"Product: " + Text(mid(entry, 51, 10)));
+        ChartFX1.SetChartData(months);
+    });
 
     ChartArrayData components;
     components.AddArray(std::vector<double>{volume});
     components.AddArray(std::vector<double>{margin});
-    ChartFX2.SetChartData(components);
-    ChartFX2.SetSeriesLegend(0, u"Volume");
-    ChartFX2.SetSeriesLegend(1, u"Margin");
+    controls.chart("ChartFX2").change([&](Chart& ChartFX2) {
+        constexpr Colour green{0, 255, 0}, red{255, 0, 0};
+        ChartFX2.SetAxisMax(std::max({volume, margin, 0.0}));
+        ChartFX2.SetAxisMin(std::min({volume, margin, 0.0}));
+        ChartFX2.SetSeriesColor(0, volume > 0 ? green : red);
+        ChartFX2.SetSeriesColor(1, margin > 0 ? green : red);
+        ChartFX2.SetChartData(components);
+        ChartFX2.SetSeriesLegend(0, u"Volume");
+        ChartFX2.SetSeriesLegend(1, u"Margin");
+    });
 }
 
 } // namespace plotvue::profit

@@ -30,6 +30,6 @@ Key key();
 // Charts and data types of both drill-down windows. `componentLine` is the line that holds the components
 // of the change.
 std::vector<Item> charts();
-void draw(View& view, const Record& record, int type, TextSpan componentLine);
+void draw(Controls& controls, const Record& record, int type, TextSpan componentLine);
 
 } // namespace plotvue::profit

@@ -49,11 +49,11 @@ TEST(ChartAccessible, NewContentIsReadAnew)
     ShownChart chart;
     QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&chart);
     QAccessibleInterface* third = told->child(2);
-    ChartContent shorter = threeMonths();
+    Chart shorter = threeMonths();
     shorter.series = {{7, 8}};
     shorter.labels = {u"AUG99", u"SEP99"};
     shorter.titles[1] = u"Profit";
-    chart.setContent(shorter, projectingDesign);
+    chart.setChart(shorter);
     EXPECT_EQ(told->childCount(), 2);
     EXPECT_EQ(told->text(QAccessible::Name), "Profit, Product: 4711");
     EXPECT_EQ(told->child(1)->text(QAccessible::Name), "SEP99: Profit 8");

@@ -110,13 +110,14 @@ TEST(ChartPainting, TheProjectionIsLighterThanWhatItStandsOn)
 struct Components : ShownChart {
     Components(double volume, double margin)
     {
-        ChartContent content;
+        Chart content;
+        content.design = {ChartDesign::Bars::Grouped, ChartDesign::Labels::Names};
         content.series = {{volume}, {margin}};
         content.legends = {{0, u"Volume"}, {1, u"Margin"}};
         content.colours = {{0, volume > 0 ? green : red}, {1, margin > 0 ? green : red}};
         content.axisMax = std::max({volume, margin, 0.});
         content.axisMin = std::min({volume, margin, 0.});
-        setContent(content, {ChartDesign::Bars::Grouped, ChartDesign::Labels::Names});
+        setChart(content);
     }
 
     // How many pixels of the bar have just this colour.
@@ -169,7 +170,7 @@ TEST(ChartPainting, SurvivesEverySizeAndNoContent)
         chart.resize(size);
         chart.press(Qt::Key_Home);
         EXPECT_EQ(chart.grab().toImage().size(), size);
-        chart.setContent({}, {});
+        chart.setChart({});
         EXPECT_EQ(chart.grab().toImage().size(), size);
     }
 }

@@ -9,24 +9,20 @@
 
 namespace plotvue {
 
-inline ChartContent threeMonths()
+inline Chart threeMonths()
 {
-    ChartContent content;
-    content.titles = {{1, u"Sales"}, {2, u"Product: 4711\r"}};
-    content.decimals = 0;
-    content.series = {{1110, 963, 512, 0}, {0, 0, 388, 0}};
-    content.labels = {u"AUG99", u"SEP99", u"OCT99", u""};
-    return content;
+    return {.design = {.projection = 1, .legends = {{1, u"Projected"}}},
+            .titles = {{1, u"Sales"}, {2, u"Product: 4711\r"}},
+            .decimals = 0,
+            .series = {{1110, 963, 512, 0}, {0, 0, 388, 0}},
+            .labels = {u"AUG99", u"SEP99", u"OCT99", u""}};
 }
-
-inline const ChartDesign projectingDesign{
-    ChartDesign::Bars::Stacked, ChartDesign::Labels::Months, 1, {{1, u"Projected"}}};
 
 struct ShownChart : ChartWidget {
     ShownChart()
     {
         resize(600, 400);
-        setContent(threeMonths(), projectingDesign);
+        setChart(threeMonths());
         show();
         activateWindow();
         setFocus();

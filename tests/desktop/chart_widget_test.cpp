@@ -45,7 +45,7 @@ TEST(ChartWidget, OtherKeysPropagate)
     EXPECT_FALSE(chart.press(Qt::Key_Return));
     EXPECT_FALSE(chart.press(Qt::Key_Left, Qt::AltModifier));
     EXPECT_TRUE(chart.press(Qt::Key_Left, Qt::KeypadModifier));
-    chart.setContent({}, {});
+    chart.setChart({});
     EXPECT_FALSE(chart.press(Qt::Key_Home));
 }
 
@@ -90,10 +90,10 @@ TEST(ChartWidget, ForgetsAPointThatNewContentDoesNotHave)
 {
     ShownChart chart;
     chart.press(Qt::Key_End);
-    ChartContent shorter = threeMonths();
+    Chart shorter = threeMonths();
     shorter.labels.resize(1);
     shorter.series = {{1}};
-    chart.setContent(shorter, {});
+    chart.setChart(shorter);
     EXPECT_EQ(chart.currentPoint(), -1);
     chart.setCurrentPoint(7);
     EXPECT_EQ(chart.currentPoint(), -1);

@@ -2,6 +2,7 @@
 // filled with them. Whatever the terminal does, the windows look the same.
 #include "desktop/samples_fixture.h"
 #include "platform/desktop/chart/chartwidget.h"
+#include "platform/desktop/chart/qtext.h"
 #include "platform/desktop/grid.h"
 
 #include <QLabel>
@@ -36,11 +37,11 @@ protected:
         seen_.clear();
         QGuiApplication::clipboard()->setText(capture);
         pressed("startup", "Command1");
-        Window& window = *windows().front();
+        WindowWidget& window = *windows().front();
         forEveryChoice(window, [&] { look(window); });
         for (auto* grid : window.findChildren<GridTable*>()) {
             emit grid->rowChosen(1);
-            for (Window* other : windows())
+            for (WindowWidget* other : windows())
                 if (other != &window)
                     stepThrough(*other);
         }
@@ -59,11 +60,11 @@ protected:
 private:
     void pressed(Name form, Name button)
     {
-        app.window(form)->view().press(button);
+        app.window(form)->controls().press(button);
         platform.settle();
     }
 
-    void pressed(const Window& window, const char* caption)
+    void pressed(const WindowWidget& window, const char* caption)
     {
         for (auto* button : window.findChildren<QPushButton*>())
             if (button->text().remove(u'&') == QLatin1String(caption))
@@ -73,7 +74,7 @@ private:
 
     void note(const QString& text) { seen_.push_back(text.trimmed().toStdString()); }
 
-    void look(const Window& window)
+    void look(const WindowWidget& window)
     {
         for (const auto* label : window.findChildren<QLabel*>())
             note(label->text());
@@ -84,8 +85,8 @@ private:
                 for (int column = 0; column < grid->model()->columnCount(); ++column)
                     note(grid->model()->index(row, column).data().toString());
         for (const auto* chart : window.findChildren<ChartWidget*>()) {
-            const chart::Figures figures(chart->content(), chart->design());
-            note(toQString(chart::titlesInOneLine(chart->content())));
+            const chart::Figures& figures = chart->figures();
+            note(toQString(chart::titlesInOneLine(chart->chart())));
             for (int point = 0; point < figures.pointCount(); ++point)
                 note(toQString(figures.sentence(point)));
             for (const chart::LegendEntry& entry : chart->chartLayout().legend)
@@ -93,7 +94,7 @@ private:
         }
     }
 
-    void stepThrough(const Window& charts)
+    void stepThrough(const WindowWidget& charts)
     {
         const std::size_t messages = platform.messages.size();
         for (int row = 0; platform.messages.size() == messages; ++row) { // until "End of list"

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "platform/desktop/desktopplatform.h"
-#include "platform/desktop/desktopview.h"
-#include "platform/desktop/window.h"
+#include "platform/desktop/desktopwindow.h"
 
 #include <QCoreApplication>
 
@@ -29,31 +28,6 @@ protected:
     void finish() override { endings.emplace_back("end"); }
 };
 
-class DesktopTest : public testing::Test {
-protected:
-    // Notes "control index" for each handler that runs.
-    Handlers noting(std::initializer_list<Name> controls)
-    {
-        Handlers handlers;
-        for (const Name control : controls)
-            handlers[control] = [this, control](int index) {
-                ran.push_back(std::string(control) + ' ' + std::to_string(index));
-            };
-        return handlers;
-    }
-
-    std::unique_ptr<View> build(const Declaration& declaration)
-    {
-        return platform.build(declaration, noting({"cmdGo", "cmdBack", "opt", "Grid1"}),
-                              [this] { ran.emplace_back("close"); });
-    }
-
-    static Window& windowOf(View& view) { return static_cast<DesktopView&>(view).window(); }
-
-    PlayedDesktop platform;
-    std::vector<std::string> ran;
-};
-
 inline Declaration everyControl()
 {
     return {
@@ -71,7 +45,7 @@ inline Declaration everyControl()
                                    .format = u"<Rank |Name        |Total  ",
                                    .figures = {2}},
                            1}}),
-                     {ChartBox{.name = "Chart1", .titles = {{2, u"By design"}}}, 1}},
+                     {ChartBox{.name = "Chart1", .chart = {.titles = {{2, u"By design"}}}}, 1}},
                     1),
              column({{OptionFrame{.name = "Frame1",
                                   .caption = u"Months",
@@ -92,5 +66,44 @@ inline Declaration everyControl()
                              .spokenName = u"Back",
                              .picture = Button::Picture::Arrow}}})}}};
 }
+
+class DesktopTest : public testing::Test {
+protected:
+    // Notes "control index" for each handler that runs.
+    Handlers noting(std::initializer_list<Name> controls)
+    {
+        Handlers handlers;
+        for (const Name control : controls)
+            handlers[control] = [this, control](int index) {
+                ran.push_back(std::string(control) + ' ' + std::to_string(index));
+            };
+        return handlers;
+    }
+
+    struct Built {
+        std::shared_ptr<Controls> controls;
+        std::unique_ptr<Window> window;
+
+        WindowWidget& widget() const { return static_cast<DesktopWindow&>(*window).widget(); }
+    };
+
+    Built build(const Declaration& declaration = everyControl())
+    {
+        const auto controls = std::make_shared<Controls>(
+            declaration, noting({"cmdGo", "cmdBack", "opt", "Grid1"}), [this] { ran.emplace_back("close"); });
+        return {controls, platform.build(controls)};
+    }
+
+    Built shown(const Declaration& declaration = everyControl())
+    {
+        Built built = build(declaration);
+        built.window->show();
+        platform.settle();
+        return built;
+    }
+
+    PlayedDesktop platform;
+    std::vector<std::string> ran;
+};
 
 } // namespace plotvue::test

@@ -1,6 +1,7 @@
 // In the size in which a window opens, no label and no title of its charts is left out or cut off.
 #include "desktop/samples_fixture.h"
 #include "platform/desktop/chart/chartwidget.h"
+#include "platform/desktop/chart/qtext.h"
 #include "platform/desktop/grid.h"
 
 #include <QRegularExpression>
@@ -34,16 +35,16 @@ protected:
     }
 
     // The window that the capture opens, or the charts of its first row.
-    Window* opened(const QString& capture)
+    WindowWidget* opened(const QString& capture)
     {
         QGuiApplication::clipboard()->setText(capture);
         app.start();
-        Window* window = windows().front();
+        WindowWidget* window = windows().front();
         auto* grid = window->findChild<GridTable*>();
         if (!grid || window->findChild<ChartWidget*>())
             return window;
         emit grid->rowChosen(1);
-        for (Window* other : windows())
+        for (WindowWidget* other : windows())
             if (other != window)
                 return other;
         return nullptr;
@@ -71,7 +72,7 @@ protected:
         EXPECT_GE(font.pointSizeF(), minPoints - 1e-9);
     }
 
-    static std::size_t labelled(const Window& window)
+    static std::size_t labelled(const WindowWidget& window)
     {
         std::set<int> labelledSlots;
         for (const chart::SlotLabel& label : window.findChild<ChartWidget*>()->chartLayout().labels)
@@ -87,12 +88,11 @@ protected:
         QImage paper(1, 1, QImage::Format_RGB32);
         paper.setDotsPerMeterX(11811);
         paper.setDotsPerMeterY(11811);
-        return chart::layoutChart(chart.content(), chart.design(),
-                                  {double(chart.width()), double(chart.height())},
+        return chart::layoutChart(chart.figures(), {double(chart.width()), double(chart.height())},
                                   ChartFonts(chart.font(), chart.logicalDpiY(), paper), 0);
     }
 
-    static void expectWhole(const Window& window)
+    static void expectWhole(const WindowWidget& window)
     {
         const auto charts = window.findChildren<ChartWidget*>();
         EXPECT_FALSE(charts.isEmpty());
@@ -104,7 +104,7 @@ protected:
         }
     }
 
-    static void expectWholeWhateverIsChosen(const Window& window)
+    static void expectWholeWhateverIsChosen(const WindowWidget& window)
     {
         forEveryChoice(window, [&] { expectWhole(window); });
     }
@@ -115,7 +115,7 @@ private:
 
 TEST_P(FirstSize, EveryPointHasItsLabelWhateverIsChosen)
 {
-    const Window* window = opened(sample(GetParam()));
+    const WindowWidget* window = opened(sample(GetParam()));
     ASSERT_NE(window, nullptr);
     expectWholeWhateverIsChosen(*window);
 }
@@ -123,7 +123,7 @@ TEST_P(FirstSize, EveryPointHasItsLabelWhateverIsChosen)
 TEST_P(FirstSize, InLettersOf11PointsToo)
 {
     setLetters(11);
-    const Window* window = opened(sample(GetParam()));
+    const WindowWidget* window = opened(sample(GetParam()));
     ASSERT_NE(window, nullptr);
     expectWholeWhateverIsChosen(*window);
 }
@@ -131,14 +131,14 @@ TEST_P(FirstSize, InLettersOf11PointsToo)
 TEST_P(FirstSize, InLettersOf12PointsToo)
 {
     setLetters(12);
-    const Window* window = opened(sample(GetParam()));
+    const WindowWidget* window = opened(sample(GetParam()));
     ASSERT_NE(window, nullptr);
     expectWholeWhateverIsChosen(*window);
 }
 
 TEST_P(FirstSize, OnAScreenOf960By540Too) // 1920 by 1080 at 200 %
 {
-    Window* window = opened(sample(GetParam()));
+    WindowWidget* window = opened(sample(GetParam()));
     ASSERT_NE(window, nullptr);
     window->resize(window->size().boundedTo({960, 540}));
     QCoreApplication::processEvents();
@@ -150,15 +150,15 @@ INSTANTIATE_TEST_SUITE_P(Samples, FirstSize, testing::ValuesIn(test::samples()),
 
 TEST_F(FirstSize, TwentyFourMonthsAreTwentyFiveLabels)
 {
-    const Window* window = opened(sample("product"));
-    app.window("frmProduct")->view().choose("opt12", 1);
+    const WindowWidget* window = opened(sample("product"));
+    app.window("frmProduct")->controls().choose("opt12", 1);
     EXPECT_EQ(labelled(*window), 25U);
 }
 
 TEST_F(FirstSize, FiveYearsAreSixtyLabels)
 {
-    const Window* window = opened(sample("glhistory"));
-    app.window("frmGLarch")->view().choose("opt12", 4);
+    const WindowWidget* window = opened(sample("glhistory"));
+    app.window("frmGLarch")->controls().choose("opt12", 4);
     EXPECT_EQ(labelled(*window), 60U);
 }
 
@@ -172,9 +172,9 @@ TEST_F(FirstSize, ThirtyCharactersOfACustomersNameAreWhole)
     QString capture = sample("monthtomonth");
     static const QRegularExpression name(QStringLiteral("(RANK:  1.{11}).{30}"));
     capture.replace(name, QStringLiteral("\\1NORTHWESTERN CONSOLIDATED FARM"));
-    const Window* window = opened(capture);
+    const WindowWidget* window = opened(capture);
     const auto* chart = window->findChild<ChartWidget*>();
-    ASSERT_TRUE(chart::titlesInOneLine(chart->content()).find(u"CONSOLIDATED FARM") != Text::npos);
+    ASSERT_TRUE(chart::titlesInOneLine(chart->chart()).find(u"CONSOLIDATED FARM") != Text::npos);
     expectWhole(*window);
 }
 

@@ -43,20 +43,20 @@ protected:
     static void copySample(const std::string& name) { QGuiApplication::clipboard()->setText(sample(name)); }
 
     // Those that are shown, laid out.
-    std::vector<Window*> windows()
+    std::vector<WindowWidget*> windows()
     {
         platform.settle();
         QCoreApplication::processEvents();
-        std::vector<Window*> shown;
+        std::vector<WindowWidget*> shown;
         for (QWidget* widget : QApplication::topLevelWidgets())
-            if (auto* window = qobject_cast<Window*>(widget); window && window->isVisible())
+            if (auto* window = qobject_cast<WindowWidget*>(widget); window && window->isVisible())
                 shown.push_back(window);
         return shown;
     }
 
     // Calls `look` with one option chosen in each frame of the window, in every way; from `frame` on.
     template <typename Look>
-    static void forEveryChoice(const Window& window, const Look& look, qsizetype frame = 0)
+    static void forEveryChoice(const WindowWidget& window, const Look& look, qsizetype frame = 0)
     {
         const auto frames = window.findChildren<QGroupBox*>();
         if (frame == frames.size())

@@ -78,8 +78,8 @@ protected:
     // Checks the windows that are shown; returns how many.
     std::size_t expectAllInOrder(QSize screen = smallScreen)
     {
-        const std::vector<Window*> shown = windows();
-        for (Window* window : shown) {
+        const std::vector<WindowWidget*> shown = windows();
+        for (WindowWidget* window : shown) {
             SCOPED_TRACE(window->windowTitle().toStdString());
             const QSize least = window->minimumSize();
             EXPECT_LE(least.width(), screen.width());

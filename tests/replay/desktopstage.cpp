@@ -1,4 +1,5 @@
 #include "platform/desktop/desktopplatform.h"
+#include "replay/desktopwidgets.h"
 #include "replay/player.h"
 
 #include <QApplication>
@@ -13,7 +14,7 @@ class AnsweringDesktop : public DesktopPlatform {
 public:
     PrinterAnswer printer;
 
-    double choosePrinter(View&) override
+    double choosePrinter(Window&) override
     {
         if (printer.kind == PrinterAnswer::Kind::Cancel)
             throw Failure{u"The printer dialog was cancelled."};
@@ -23,7 +24,7 @@ public:
 protected:
     void showMessage(TextSpan, TextSpan) override { settle(); }
 
-    void printView(View&) override
+    void printWindow(Window&) override
     {
         if (printer.kind == PrinterAnswer::Kind::Fail)
             throw Failure{u"The printer does not answer."};
@@ -61,6 +62,12 @@ public:
         // Outside an event loop nothing else deletes the windows that have retired.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
+
+    SeenWindow look(const Form& form) override { return seenOnWidgets(form); }
+    void press(const Form& form, Name button) override { pressWidget(form, button); }
+    void choose(const Form& form, Name group, int index) override { chooseWidget(form, group, index); }
+    void clickRow(const Form& form, Name grid, int row) override { clickRowOfWidget(form, grid, row); }
+    void close(const Form& form) override { closeWidget(form); }
 
 private:
     std::optional<QApplication> application_;

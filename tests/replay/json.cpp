@@ -88,37 +88,37 @@ std::string hexColour(const Colour& colour)
 }
 
 struct ControlWriter {
-    std::string operator()(const ButtonState& button) const
+    std::string operator()(const SeenText& seen) const
     {
-        return R"("kind":"button","caption":)" + quoted(button.caption);
+        switch (seen.of) {
+        case SeenText::Of::Button:
+            return R"("kind":"button","caption":)" + quoted(seen.text);
+        case SeenText::Of::Label:
+            return R"("kind":"label","text":)" + quoted(seen.text);
+        case SeenText::Of::TextBox:
+            return R"("kind":"text","text":)" + quoted(seen.text);
+        }
+        return {};
     }
-    std::string operator()(const LabelState& label) const
+    std::string operator()(const SeenList& items) const
     {
-        return R"("kind":"label","text":)" + quoted(label.text);
+        return R"("kind":"list","items":)" + writeTexts(items);
     }
-    std::string operator()(const TextBoxState& box) const
+    std::string operator()(const OptionGroup& group) const
     {
-        return R"("kind":"text","text":)" + quoted(box.text);
-    }
-    std::string operator()(const ListState& items) const
-    {
-        return R"("kind":"list","items":)" + writeTexts(items.items);
-    }
-    std::string operator()(const OptionsState& group) const
-    {
-        const auto option = [](const OptionState& state) {
+        const auto option = [](const OptionGroup::Option& state) {
             return R"({"index":)" + number(state.index) + R"(,"caption":)" + quoted(state.caption) +
                    R"(,"visible":)" + (state.visible ? "true" : "false") + "}";
         };
         return R"("kind":"options","chosen":)" + list(group.chosen, writeNumber) + R"(,"options":)" +
                list(group.options, option);
     }
-    std::string operator()(const GridState& grid) const
+    std::string operator()(const Grid& grid) const
     {
         return R"("kind":"grid","format":)" + quoted(grid.format) + R"(,"columns":)" + number(grid.columns) +
                R"(,"rows":)" + number(grid.rows) + R"(,"cells":)" + list(grid.cells, writeTexts);
     }
-    std::string operator()(const ChartContent& chart) const
+    std::string operator()(const Chart& chart) const
     {
         std::string text = R"("kind":"chart","titles":)" + object(chart.titles, writeText);
         if (chart.decimals)
@@ -165,13 +165,13 @@ std::string toJson(const Event& event)
     return {};
 }
 
-std::string toJson(Name window, bool visible, const ViewState& state)
+std::string toJson(Name window, bool visible, const SeenWindow& seen)
 {
     std::string text = R"({"window":)" + quoted(window) + R"(,"loaded":true,"visible":)" +
-                       (visible ? "true" : "false") + R"(,"caption":)" + quoted(state.caption) +
+                       (visible ? "true" : "false") + R"(,"caption":)" + quoted(seen.caption) +
                        R"(,"controls":{)";
     bool first = true;
-    for (const auto& [name, control] : state.controls) {
+    for (const auto& [name, control] : seen.controls) {
         text += (first ? "" : ",") + quoted(name) + ":{" + std::visit(ControlWriter{}, control) + "}";
         first = false;
     }

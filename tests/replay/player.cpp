@@ -71,24 +71,21 @@ void Player::command(const std::vector<std::string>& words)
             throw BadLine("the process has started already");
         app_.start();
     } else if (is("click", 3)) {
-        control<ButtonState>(words[1], words[2], view(words[1]).state());
-        view(words[1]).press(words[2]);
+        control<SeenText>(words[1], words[2]);
+        stage_.press(loadedForm(words[1]), words[2]);
     } else if (is("choose", 4)) {
         const int index = wholeNumber(words[3]);
-        const ViewState state = view(words[1]).state();
-        const auto& options = control<OptionsState>(words[1], words[2], state).options;
-        if (std::none_of(options.begin(), options.end(),
-                         [&](const auto& option) { return option.index == index; }))
+        const auto options = control<OptionGroup>(words[1], words[2]).options;
+        if (std::ranges::find(options, index, &OptionGroup::Option::index) == options.end())
             throw BadLine(words[2] + " has no option " + words[3]);
-        view(words[1]).choose(words[2], index);
+        stage_.choose(loadedForm(words[1]), words[2], index);
     } else if (is("row", 4)) {
         const int row = wholeNumber(words[3]);
-        const ViewState state = view(words[1]).state();
-        if (row < 1 || row >= control<GridState>(words[1], words[2], state).rows)
+        if (row < 1 || row >= control<Grid>(words[1], words[2]).rows)
             throw BadLine(words[2] + " has no row " + words[3]);
-        view(words[1]).clickRow(words[2], row);
+        stage_.clickRow(loadedForm(words[1]), words[2], row);
     } else if (is("close", 2)) {
-        view(words[1]).close();
+        stage_.close(loadedForm(words[1]));
     } else if (is("dump", 2)) {
         dump(words[1]);
     } else {
@@ -127,7 +124,7 @@ void Player::dump(Name window)
 {
     const Form& shown = form(window);
     if (shown.loaded())
-        out_ << toJson(window, shown.visible(), shown.view().state()) << '\n';
+        out_ << toJson(window, shown.visible(), stage_.look(shown)) << '\n';
     else
         out_ << unloadedJson(window) << '\n';
 }
@@ -140,20 +137,22 @@ Form& Player::form(Name window)
     return *found;
 }
 
-View& Player::view(Name window)
+Form& Player::loadedForm(Name window)
 {
-    if (!form(window).loaded())
+    Form& found = form(window);
+    if (!found.loaded())
         throw BadLine(std::string(window) + " is not loaded");
-    return form(window).view();
+    return found;
 }
 
-template <typename State>
-const State& Player::control(Name window, Name name, const ViewState& state)
+template <typename Value>
+Value Player::control(Name window, Name name)
 {
-    const auto at = state.controls.find(name);
-    if (at == state.controls.end() || !std::holds_alternative<State>(at->second))
+    const SeenWindow seen = stage_.look(loadedForm(window));
+    const auto at = seen.controls.find(name);
+    if (at == seen.controls.end() || !std::holds_alternative<Value>(at->second))
         throw BadLine(std::string(window) + " has no such control " + std::string(name));
-    return std::get<State>(at->second);
+    return std::get<Value>(at->second);
 }
 
 } // namespace plotvue::replay

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/application.h"
+#include "replay/seen.h"
 
 #include <iosfwd>
 #include <optional>
@@ -22,6 +23,13 @@ public:
     virtual void setClipboard(const Text& text) = 0; // empty: no text
     virtual void setPrinter(PrinterAnswer answer) = 0;
     virtual void settle() {} // lets what was shown and hidden take effect
+
+    virtual SeenWindow look(const Form& form) = 0;
+    // As a person does it; what is used is there.
+    virtual void press(const Form& form, Name button) = 0;
+    virtual void choose(const Form& form, Name group, int index) = 0;
+    virtual void clickRow(const Form& form, Name grid, int row) = 0;
+    virtual void close(const Form& form) = 0;
 };
 
 std::unique_ptr<Stage> recordingStage();
@@ -47,10 +55,11 @@ private:
     void printer(const std::vector<std::string>& words);
     void dump(Name window);
     Form& form(Name window);
-    View& view(Name window);
+    Form& loadedForm(Name window);
 
-    template <typename State>
-    const State& control(Name window, Name name, const ViewState& state);
+    // Throws BadLine when the window shows no such control.
+    template <typename Value>
+    Value control(Name window, Name name);
 
     Stage& stage_;
     Application app_;

@@ -19,6 +19,12 @@ public:
                                                                               : Answer::Cancel;
     }
 
+    SeenWindow look(const Form& form) override { return seenIn(form.controls()); }
+    void press(const Form& form, Name button) override { form.controls().press(button); }
+    void choose(const Form& form, Name group, int index) override { form.controls().choose(group, index); }
+    void clickRow(const Form& form, Name grid, int row) override { form.controls().clickRow(grid, row); }
+    void close(const Form& form) override { form.controls().close(); }
+
 private:
     RecordingPlatform platform_;
 };

@@ -157,15 +157,17 @@ std::vector<Walk::Offer> Walk::offers(const std::string& window)
     if (manner_.talkative)
         play("dump " + window);
     std::vector<Offer> all;
-    for (const auto& [name, control] : player_.application().window(window)->view().state().controls) {
+    const Form& form = *player_.application().window(window);
+    for (const auto& [name, seen] : stage_.look(form).controls) {
         Offer offer;
-        if (std::holds_alternative<ButtonState>(control))
+        if (const auto* text = std::get_if<replay::SeenText>(&seen);
+            text && text->of == replay::SeenText::Of::Button)
             offer.push_back("click " + window + " " + name);
-        if (const auto* options = std::get_if<OptionsState>(&control))
-            for (const OptionState& option : options->options)
+        if (const auto* group = std::get_if<OptionGroup>(&seen))
+            for (const OptionGroup::Option& option : group->options)
                 if (option.visible)
                     offer.push_back("choose " + window + " " + name + " " + std::to_string(option.index));
-        if (const auto* grid = std::get_if<GridState>(&control))
+        if (const auto* grid = std::get_if<Grid>(&seen))
             for (int row = 1; row < grid->rows; ++row)
                 offer.push_back("row " + window + " " + name + " " + std::to_string(row));
         if (!offer.empty())

@@ -4,7 +4,9 @@
 
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <random>
+#include <set>
 #include <sstream>
 #include <stdexcept>
 #include <utility>
@@ -72,32 +74,32 @@ void Session::start(TextSpan clipboard)
     start();
 }
 
-View& Session::view(Name window)
+Controls& Session::controls(Name window)
 {
     Form* form = app.window(window);
     if (!form)
         throw std::runtime_error("no window " + std::string(window));
-    return form->view();
+    return form->controls();
 }
 
 void Session::press(Name window, Name button)
 {
-    view(window).press(button);
+    controls(window).press(button);
 }
 
 void Session::choose(Name window, Name group, int index)
 {
-    view(window).choose(group, index);
+    controls(window).choose(group, index);
 }
 
 void Session::clickRow(Name window, Name grid, int row)
 {
-    view(window).clickRow(grid, row);
+    controls(window).clickRow(grid, row);
 }
 
 void Session::close(Name window)
 {
-    view(window).close();
+    controls(window).close();
 }
 
 bool Session::loaded(Name window)
@@ -112,33 +114,46 @@ bool Session::visible(Name window)
 
 Text Session::caption(Name window)
 {
-    return view(window).state().caption;
+    return *controls(window).caption;
 }
 
-ChartContent Session::chart(Name window, Name control)
+Chart Session::chart(Name window, Name control)
 {
-    return view(window).chart(control).content();
+    return *controls(window).chart(control);
 }
 
-OptionsState Session::options(Name window, Name group)
+OptionGroup Session::options(Name window, Name group)
 {
-    return std::get<OptionsState>(view(window).state().controls.find(group)->second);
+    return *controls(window).options(group);
 }
 
-GridState Session::grid(Name window, Name control)
+Grid Session::grid(Name window, Name control)
 {
-    return std::get<GridState>(view(window).state().controls.find(control)->second);
+    return *controls(window).grid(control);
 }
 
 Text Session::text(Name window, Name control)
 {
-    const ViewState state = view(window).state();
-    const ControlState& found = state.controls.find(control)->second;
-    if (const auto* button = std::get_if<ButtonState>(&found))
-        return button->caption;
-    if (const auto* label = std::get_if<LabelState>(&found))
-        return label->text;
-    return std::get<TextBoxState>(found).text;
+    std::optional<Text> caption;
+    forEachControl(controls(window).declaration.content, [&](const auto& declared) {
+        if constexpr (std::is_same_v<decltype(declared), const Button&>)
+            if (declared.name == control)
+                caption = declared.caption;
+    });
+    return caption ? *caption : *controls(window).text(control);
+}
+
+std::vector<std::string> Session::controlNames(Name window)
+{
+    std::set<std::string> names;
+    forEachControl(controls(window).declaration.content, [&](const auto& declared) {
+        if constexpr (requires { declared.group; })
+            names.emplace(declared.group);
+        else if constexpr (requires { declared.name; } &&
+                           !std::is_same_v<decltype(declared), const PictureBox&>)
+            names.emplace(declared.name);
+    });
+    return {names.begin(), names.end()};
 }
 
 bool Session::fileExists(const std::string& name) const

@@ -33,16 +33,18 @@ public:
     bool loaded(Name window);
     bool visible(Name window);
     Text caption(Name window);
-    ChartContent chart(Name window, Name control = "ChartFX1");
-    OptionsState options(Name window, Name group);
-    GridState grid(Name window, Name control = "MSFlexGrid1");
+    Chart chart(Name window, Name control = "ChartFX1");
+    OptionGroup options(Name window, Name group);
+    Grid grid(Name window, Name control = "MSFlexGrid1");
     Text text(Name window, Name control); // of a label or a text box; the caption of a button
+
+    std::vector<std::string> controlNames(Name window); // ascending; an option group once, pictures none
 
     bool fileExists(const std::string& name) const;
     std::string file(const std::string& name) const; // bytes; "" when there is none
 
 private:
-    View& view(Name window);
+    Controls& controls(Name window);
 
     std::vector<std::string> events_;
     std::string directory_, before_;

@@ -6,21 +6,21 @@ namespace plotvue::chart {
 
 namespace {
 
-ChartContent twoSlots(std::vector<std::vector<double>> series)
+Chart twoSlots(std::vector<std::vector<double>> series)
 {
-    ChartContent content;
-    content.decimals = 0;
-    content.series = std::move(series);
-    content.labels = {u"A", u"B"};
-    return content;
+    Chart chart;
+    chart.decimals = 0;
+    chart.series = std::move(series);
+    chart.labels = {u"A", u"B"};
+    return chart;
 }
 
 } // namespace
 
 TEST(ChartBars, StackNegativePartsDownwards)
 {
-    const ChartContent content = twoSlots({{10, -10}, {30, -20}});
-    const Layout layout = laidOut(content, {}, {448, 260});
+    const Chart chart = twoSlots({{10, -10}, {30, -20}});
+    const Layout layout = laidOut(chart, {}, {448, 260});
     EXPECT_EQ(describe(layout.plot), "36,24 400x200");
     EXPECT_EQ(describeBars(layout), "0/0 82,99 108x25 up\n"
                                     "0/1 82,24 108x75 up end\n"
@@ -34,8 +34,8 @@ TEST(ChartBars, StackNegativePartsDownwards)
 
 TEST(ChartBars, OfAGroupStandSideBySide)
 {
-    ChartContent content = twoSlots({{10, 20}, {30, 40}});
-    const Layout layout = laidOut(content, {ChartDesign::Bars::Grouped}, plot400x200);
+    Chart chart = twoSlots({{10, 20}, {30, 40}});
+    const Layout layout = laidOut(chart, {ChartDesign::Bars::Grouped}, plot400x200);
     EXPECT_EQ(describeBars(layout), "0/0 76,174 53x50 up end\n"
                                     "0/1 130,74 53x150 up end\n"
                                     "1/0 276,124 53x100 up end\n"
@@ -44,17 +44,17 @@ TEST(ChartBars, OfAGroupStandSideBySide)
                                       "30 @ 150.5,60.5 12x12\n"
                                       "20 @ 296.5,110.5 12x12\n"
                                       "40 @ 350.5,10.5 12x12\n");
-    content.hidden = {0};
-    EXPECT_EQ(describeBars(laidOut(content, {ChartDesign::Bars::Grouped}, plot400x200)),
+    chart.hidden = {0};
+    EXPECT_EQ(describeBars(laidOut(chart, {ChartDesign::Bars::Grouped}, plot400x200)),
               "0/0 76,74 107x150 up end\n"
               "1/0 276,24 107x200 up end\n");
 }
 
 TEST(ChartBars, StandApartInGroupsWhenWiderThanSeven)
 {
-    const ChartContent content = twoSlots({{10, 20}, {30, 40}});
+    const Chart chart = twoSlots({{10, 20}, {30, 40}});
     for (const auto& [slotWidth, gap] : {std::pair(18, 0), std::pair(20, 1)}) { // 82 %: 7 each, 8 each
-        const auto bars = laidOut(content, {ChartDesign::Bars::Grouped}, {42.0 + 2 * slotWidth, 251}).bars;
+        const auto bars = laidOut(chart, {ChartDesign::Bars::Grouped}, {42.0 + 2 * slotWidth, 251}).bars;
         EXPECT_EQ(bars[0].box.width, 7);
         EXPECT_EQ(bars[1].box.left - bars[0].box.right(), gap);
     }
@@ -62,35 +62,35 @@ TEST(ChartBars, StandApartInGroupsWhenWiderThanSeven)
 
 TEST(ChartBars, OfUpToThreeSlotsMayBeWider)
 {
-    ChartContent content = fourBars();
-    EXPECT_EQ(laidOut(content, {}, {42 + 4 * 200, 251}).bars[0].box.width, 6 * 12);
-    content.series[0].pop_back();
-    content.labels.pop_back();
-    EXPECT_EQ(laidOut(content, {}, {42 + 3 * 200, 251}).bars[0].box.width, 9 * 12);
+    Chart chart = fourBars();
+    EXPECT_EQ(laidOut(chart, {}, {42 + 4 * 200, 251}).bars[0].box.width, 6 * 12);
+    chart.series[0].pop_back();
+    chart.labels.pop_back();
+    EXPECT_EQ(laidOut(chart, {}, {42 + 3 * 200, 251}).bars[0].box.width, 9 * 12);
 }
 
 TEST(ChartBars, OfZeroInAGroupHaveTheirFigureAboveTheLine)
 {
-    const ChartContent content = twoSlots({{0, 20}, {30, 40}});
-    const Layout layout = laidOut(content, {ChartDesign::Bars::Grouped}, plot400x200);
+    const Chart chart = twoSlots({{0, 20}, {30, 40}});
+    const Layout layout = laidOut(chart, {ChartDesign::Bars::Grouped}, plot400x200);
     EXPECT_EQ(describe(layout.values[0].figure), "0 @ 99.5,210.5 6x12");
 }
 
 TEST(ChartBars, OfLossesHangFromTheTop)
 {
-    ChartContent content = fourBars();
-    content.series = {{-10, -20, -30, -40}};
-    const Layout layout = laidOut(content, {}, plot400x200);
+    Chart chart = fourBars();
+    chart.series = {{-10, -20, -30, -40}};
+    const Layout layout = laidOut(chart, {}, plot400x200);
     EXPECT_EQ(layout.zero, layout.plot.top);
     EXPECT_EQ(layout.bars[0].box.top, layout.plot.top);
 }
 
 TEST(ChartBars, OfTheNewestMonthCarryTheProjection)
 {
-    ChartContent content = fourBars();
-    content.labels.back() = u"";
-    content.series = {{10, 20, 20, 0}, {0, 0, 20, 0}};
-    const Layout layout = laidOut(content, {{}, {}, 1, {}}, plot400x200);
+    Chart chart = fourBars();
+    chart.labels.back() = u"";
+    chart.series = {{10, 20, 20, 0}, {0, 0, 20, 0}};
+    const Layout layout = laidOut(chart, {{}, {}, 1, {}}, plot400x200);
     EXPECT_EQ(describeBars(layout), "0/0 45,174 70x50 up end\n"
                                     "1/0 145,124 70x100 up end\n"
                                     "2/0 245,124 70x100 up\n"
@@ -102,20 +102,20 @@ TEST(ChartBars, OfTheNewestMonthCarryTheProjection)
 
 TEST(ChartBars, HaveFiguresOnlyWhereAllFit)
 {
-    ChartContent content = fourBars();
-    content.series = {{10, 20, 30, 123456789}};
+    Chart chart = fourBars();
+    chart.series = {{10, 20, 30, 123456789}};
     const double left = 12 + 11 * 6 + 6; // "150,000,000"
-    EXPECT_EQ(laidOut(content, {}, {left + 4 * 70 + 12, 251}).values.size(), 4U);
-    EXPECT_TRUE(laidOut(content, {}, {left + 4 * 69 + 12, 251}).values.empty());
+    EXPECT_EQ(laidOut(chart, {}, {left + 4 * 70 + 12, 251}).values.size(), 4U);
+    EXPECT_TRUE(laidOut(chart, {}, {left + 4 * 69 + 12, 251}).values.empty());
 }
 
 TEST(ChartBars, OfComponentsHaveTheirLegendBelow)
 {
-    ChartContent content;
-    content.decimals = 0;
-    content.series = {{40}, {-40}};
-    content.legends = {{0, u"Volume"}, {1, u"Margin"}};
-    const Layout layout = laidOut(content, {ChartDesign::Bars::Grouped}, {448, 260});
+    Chart chart;
+    chart.decimals = 0;
+    chart.series = {{40}, {-40}};
+    chart.legends = {{0, u"Volume"}, {1, u"Margin"}};
+    const Layout layout = laidOut(chart, {ChartDesign::Bars::Grouped}, {448, 260});
     EXPECT_EQ(describeBars(layout), "0/0 82,24 108x100 up end\n"
                                     "1/1 282,124 108x100 down end\n");
     EXPECT_EQ(describeValues(layout), "40 @ 130,10.5 12x12\n"
@@ -127,22 +127,22 @@ TEST(ChartBars, OfComponentsHaveTheirLegendBelow)
 
 TEST(ChartBars, OfAComponentThatIsZeroAreFlat)
 {
-    ChartContent content;
-    content.decimals = 0;
-    content.series = {{0}, {-20}};
-    content.legends = {{0, u"Volume"}, {1, u"Margin"}};
-    content.axisMax = 0;
-    content.axisMin = -20;
+    Chart chart;
+    chart.decimals = 0;
+    chart.series = {{0}, {-20}};
+    chart.legends = {{0, u"Volume"}, {1, u"Margin"}};
+    chart.axisMax = 0;
+    chart.axisMin = -20;
     const Layout layout =
-        laidOut(content, {ChartDesign::Bars::Grouped, ChartDesign::Labels::Names}, {448, 260});
+        laidOut(chart, {ChartDesign::Bars::Grouped, ChartDesign::Labels::Names}, {448, 260});
     ASSERT_EQ(layout.bars.size(), 2U);
     EXPECT_EQ(layout.bars[0].box.bottom(), layout.zero);
     EXPECT_EQ(layout.bars[0].box.height, 2);
     EXPECT_GT(layout.bars[0].box.width, 20);
     EXPECT_EQ(layout.bars[1].box.top, layout.zero);
 
-    content.labels = {u"A"}; // two series at one point, no components
-    EXPECT_EQ(laidOut(content, {}, {448, 260}).bars.size(), 1U);
+    chart.labels = {u"A"}; // two series at one point, no components
+    EXPECT_EQ(laidOut(chart, {}, {448, 260}).bars.size(), 1U);
 }
 
 } // namespace plotvue::chart

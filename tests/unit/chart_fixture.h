@@ -22,19 +22,19 @@ public:
     double height(TextRole) const override { return 12; }
 };
 
-inline Layout laidOut(const ChartContent& content, const ChartDesign& design, Size paper,
-                      double deviceScale = 1)
+inline Layout laidOut(Chart chart, const ChartDesign& design, Size paper, double deviceScale = 1)
 {
-    return layoutChart(content, design, paper, SixByTwelve(), deviceScale);
+    chart.design = design;
+    return layoutChart(Figures(chart), paper, SixByTwelve(), deviceScale);
 }
 
-inline ChartContent fourBars()
+inline Chart fourBars()
 {
-    ChartContent content;
-    content.decimals = 0;
-    content.series = {{10, 20, 30, 40}};
-    content.labels = {u"A", u"B\r", u"C", u"D"};
-    return content;
+    Chart chart;
+    chart.decimals = 0;
+    chart.series = {{10, 20, 30, 40}};
+    chart.labels = {u"A", u"B\r", u"C", u"D"};
+    return chart;
 }
 
 inline constexpr Size plot400x200{442, 251}; // with ticks of two digits and nothing above

@@ -6,13 +6,13 @@ namespace plotvue::chart {
 
 namespace {
 
-ChartContent bars(std::vector<Text> labels)
+Chart bars(std::vector<Text> labels)
 {
-    ChartContent content;
-    content.decimals = 0;
-    content.series = {std::vector<double>(labels.size(), 40)};
-    content.labels = std::move(labels);
-    return content;
+    Chart chart;
+    chart.decimals = 0;
+    chart.series = {std::vector<double>(labels.size(), 40)};
+    chart.labels = std::move(labels);
+    return chart;
 }
 
 std::string slotsLabelled(const Layout& layout)
@@ -31,7 +31,7 @@ std::string slotsLabelled(const Layout& layout)
 TEST(ChartLabels, AreSetInTinyTypeOrTwoLinesBeforeOneIsLeftOut)
 {
     // 30 wide, in tiny type 25; the name of the month alone 18 and 15.
-    const ChartContent content = bars(std::vector<Text>(12, u"OCT98"));
+    const Chart chart = bars(std::vector<Text>(12, u"OCT98"));
     struct Expected {
         int slotWidth;
         TextRole role;
@@ -45,13 +45,13 @@ TEST(ChartLabels, AreSetInTinyTypeOrTwoLinesBeforeOneIsLeftOut)
                                                  {20, TextRole::Tiny, 24},
                                                  {18, TextRole::Tiny, 24},
                                                  {17, TextRole::Small, 4}}) {
-        const Layout layout = laidOut(content, {}, {42.0 + 12 * slotWidth, 251});
+        const Layout layout = laidOut(chart, {}, {42.0 + 12 * slotWidth, 251});
         EXPECT_EQ(layout.labelRole, role) << slotWidth;
         EXPECT_EQ(layout.labels.size(), lines) << slotWidth;
     }
-    const Layout tiny = laidOut(content, {}, {42.0 + 12 * 28, 251});
+    const Layout tiny = laidOut(chart, {}, {42.0 + 12 * 28, 251});
     EXPECT_EQ(describe(tiny.labels[0].name), "OCT98 @ 31.5,230 25x12");
-    const Layout broken = laidOut(content, {}, {42.0 + 12 * 22, 251});
+    const Layout broken = laidOut(chart, {}, {42.0 + 12 * 22, 251});
     EXPECT_EQ(describe(broken.labels[0].name), "OCT @ 32,218 18x12");
     EXPECT_EQ(describe(broken.labels[1].name), "98 @ 35,230 12x12");
     EXPECT_EQ(broken.plot.bottom(), 212) << "a line higher than over one line";
@@ -59,7 +59,7 @@ TEST(ChartLabels, AreSetInTinyTypeOrTwoLinesBeforeOneIsLeftOut)
 
 TEST(ChartLabels, AreThinnedToEverySecondThirdFourthSixthTwelfth)
 {
-    const ChartContent content = bars(std::vector<Text>(12, u"OCTOBR")); // 36 wide, and cannot be broken
+    const Chart chart = bars(std::vector<Text>(12, u"OCTOBR")); // 36 wide, and cannot be broken
     const std::pair<int, const char*> expected[] = {{33, "0 1 2 3 4 5 6 7 8 9 10 11"},
                                                     {32, "0 2 4 6 8 10"},
                                                     {21, "0 2 4 6 8 10"},
@@ -71,15 +71,15 @@ TEST(ChartLabels, AreThinnedToEverySecondThirdFourthSixthTwelfth)
                                                     {7, "0 6"},
                                                     {6, "0"}};
     for (const auto& [slotWidth, labels] : expected)
-        EXPECT_EQ(slotsLabelled(laidOut(content, {}, {42.0 + 12 * slotWidth, 251})), labels) << slotWidth;
-    EXPECT_FALSE(laidOut(content, {}, {242, 251}).slanted);
+        EXPECT_EQ(slotsLabelled(laidOut(chart, {}, {42.0 + 12 * slotWidth, 251})), labels) << slotWidth;
+    EXPECT_FALSE(laidOut(chart, {}, {242, 251}).slanted);
 }
 
 TEST(ChartLabels, WithAYearEachAreThinnedBeyondAYear)
 {
-    const ChartContent content = bars(std::vector<Text>(25, u"OCT98"));
-    EXPECT_EQ(slotsLabelled(laidOut(content, {}, {42 + 25 * 3, 251})), "0 12 24");
-    EXPECT_EQ(slotsLabelled(laidOut(content, {}, {42 + 25 * 2, 251})), "0 24");
+    const Chart chart = bars(std::vector<Text>(25, u"OCT98"));
+    EXPECT_EQ(slotsLabelled(laidOut(chart, {}, {42 + 25 * 3, 251})), "0 12 24");
+    EXPECT_EQ(slotsLabelled(laidOut(chart, {}, {42 + 25 * 2, 251})), "0 24");
 }
 
 // From a November to a December two years later.
@@ -161,10 +161,10 @@ TEST(ChartLabels, RuleNoYearsWhereEveryLabelHasItsYear)
 TEST(ChartLabels, OfNamesAreSlantedNotThinned)
 {
     const ChartDesign names{ChartDesign::Bars::Stacked, ChartDesign::Labels::Names};
-    const ChartContent content = bars({u"ABCDEFGHIJKLMNOP", u"B", u"C", u"D"}); // 96 wide
-    EXPECT_FALSE(laidOut(content, names, {42 + 4 * 102, 251}).slanted);
+    const Chart chart = bars({u"ABCDEFGHIJKLMNOP", u"B", u"C", u"D"}); // 96 wide
+    EXPECT_FALSE(laidOut(chart, names, {42 + 4 * 102, 251}).slanted);
 
-    const Layout layout = laidOut(content, names, {42 + 4 * 100, 251});
+    const Layout layout = laidOut(chart, names, {42 + 4 * 100, 251});
     EXPECT_TRUE(layout.slanted);
     EXPECT_EQ(describeLabels(layout), "0 ABCDEFGHIJKL~\n1 B\n2 C\n3 D\n");
     EXPECT_EQ(layout.labels[0].name.box.right(), 30 + 50 + 3);
@@ -174,12 +174,12 @@ TEST(ChartLabels, OfNamesAreSlantedNotThinned)
 TEST(ChartLabels, SlantedAreThinnedBeforeTheyOverlap)
 {
     const ChartDesign names{ChartDesign::Bars::Stacked, ChartDesign::Labels::Names};
-    const ChartContent content = bars(std::vector<Text>(6, u"ABCDEFGHIJKL"));
+    const Chart chart = bars(std::vector<Text>(6, u"ABCDEFGHIJKL"));
     // Three quarters of a line, 9, lie between slanted labels whose slots are 12.7 apart.
     const std::pair<int, const char*> expected[] = {
         {13, "0 1 2 3 4 5"}, {12, "0 2 4"}, {7, "0 2 4"}, {6, "0 3"}};
     for (const auto& [slotWidth, labels] : expected) {
-        const Layout layout = laidOut(content, names, {42.0 + 6 * slotWidth, 2510});
+        const Layout layout = laidOut(chart, names, {42.0 + 6 * slotWidth, 2510});
         EXPECT_TRUE(layout.slanted);
         EXPECT_EQ(slotsLabelled(layout), labels) << slotWidth;
     }

@@ -32,21 +32,21 @@ TEST(ChartLayout, StandsToThePixel)
 
 TEST(ChartLayout, SnapsToDevicePixelsOnTheScreenOnly)
 {
-    ChartContent content = fourBars();
-    content.series = {{11.3, 7.7, 3.1, 39.9}};
+    Chart chart = fourBars();
+    chart.series = {{11.3, 7.7, 3.1, 39.9}};
     for (const double scale : {1.0, 1.5, 2.0})
-        for (const Bar& bar : laidOut(content, {}, {451, 263}, scale).bars)
+        for (const Bar& bar : laidOut(chart, {}, {451, 263}, scale).bars)
             for (const double edge : {bar.box.left, bar.box.right(), bar.box.top, bar.box.bottom()})
                 EXPECT_NEAR(edge * scale, std::round(edge * scale), 1e-9) << scale;
     // Bars take 70 % of a slot: 71.575, less what is no whole device pixel.
-    EXPECT_EQ(laidOut(content, {}, {451, 263}, 1).bars[0].box.width, 71);
-    EXPECT_EQ(laidOut(content, {}, {451, 263}, 2).bars[0].box.width, 71.5);
+    EXPECT_EQ(laidOut(chart, {}, {451, 263}, 1).bars[0].box.width, 71);
+    EXPECT_EQ(laidOut(chart, {}, {451, 263}, 2).bars[0].box.width, 71.5);
     EXPECT_EQ(describe(laidOut(fourBars(), {}, plot400x200, 2).plot), "30,24 400x200");
-    const Layout paper = laidOut(content, {}, {451, 263}, 0);
+    const Layout paper = laidOut(chart, {}, {451, 263}, 0);
     EXPECT_DOUBLE_EQ(paper.bars[1].box.left, 30 + 1.5 * 409 / 4 - 409 / 4. * .35);
     EXPECT_NEAR(paper.bars[0].box.height, 11.3 / 40 * 212, 1e-9);
-    EXPECT_EQ(laidOut(content, {}, {451, 263}, 1.5).hairline, 1 / 1.5);
-    EXPECT_EQ(laidOut(content, {}, {451, 263}, 2).hairline, 1);
+    EXPECT_EQ(laidOut(chart, {}, {451, 263}, 1.5).hairline, 1 / 1.5);
+    EXPECT_EQ(laidOut(chart, {}, {451, 263}, 2).hairline, 1);
 }
 
 TEST(ChartLayout, AStepIsAtLeastThreeAndAHalfLinesHigh)
@@ -58,18 +58,18 @@ TEST(ChartLayout, AStepIsAtLeastThreeAndAHalfLinesHigh)
 
 TEST(ChartLayout, TheAxisTakesAtMostHalfOfTheWidth)
 {
-    ChartContent content = fourBars();
-    content.series = {{10, 20, 30, 123456789}};
+    Chart chart = fourBars();
+    chart.series = {{10, 20, 30, 123456789}};
     // The axis has 38 of 76, and half a line parts it from the bars.
-    EXPECT_EQ(describe(laidOut(content, {}, {100, 251}).plot), "56,24 32x200");
+    EXPECT_EQ(describe(laidOut(chart, {}, {100, 251}).plot), "56,24 32x200");
 }
 
 TEST(ChartLayout, LeavesAGapForTheEmptySlotAtTheEnd)
 {
-    ChartContent content = fourBars();
-    content.labels.back() = u"\r";
-    content.series = {{10, 0, 40, 0}};
-    const Layout layout = laidOut(content, {}, plot400x200);
+    Chart chart = fourBars();
+    chart.labels.back() = u"\r";
+    chart.series = {{10, 0, 40, 0}};
+    const Layout layout = laidOut(chart, {}, plot400x200);
     EXPECT_EQ(layout.slotWidth, 100);
     EXPECT_EQ(describeValues(layout), "10 @ 74,160.5 12x12\n"
                                       "0 @ 177,210.5 6x12\n"
@@ -94,14 +94,14 @@ TEST(ChartLayout, TheWholeSlotIsTheTarget)
 
 TEST(ChartLayout, KeepsAForcedAxisAsFarAsEveryBarIsWhole)
 {
-    ChartContent content = fourBars();
-    content.axisMax = 80;
-    const Layout kept = laidOut(content, {}, plot400x200);
+    Chart chart = fourBars();
+    chart.axisMax = 80;
+    const Layout kept = laidOut(chart, {}, plot400x200);
     EXPECT_EQ(kept.scale.max, 80);
     EXPECT_EQ(describe(kept.bars[3].box), "345,124 70x100");
     for (const double tooLow : {20, 0}) {
-        content.axisMax = tooLow;
-        const Layout layout = laidOut(content, {}, plot400x200);
+        chart.axisMax = tooLow;
+        const Layout layout = laidOut(chart, {}, plot400x200);
         EXPECT_EQ(layout.scale.max, 40) << tooLow;
         EXPECT_EQ(describe(layout.bars[3].box), "345,24 70x200") << tooLow;
     }
@@ -109,10 +109,10 @@ TEST(ChartLayout, KeepsAForcedAxisAsFarAsEveryBarIsWhole)
 
 TEST(ChartLayout, ACreditHidesNoOtherPartOfItsStack)
 {
-    ChartContent content = fourBars();
-    content.series = {{10600, 0, 0, 0}, {-6000, 0, 0, 0}};
-    content.axisMax = 4600; // what is owed in all
-    const Layout layout = laidOut(content, {}, plot400x200);
+    Chart chart = fourBars();
+    chart.series = {{10600, 0, 0, 0}, {-6000, 0, 0, 0}};
+    chart.axisMax = 4600; // what is owed in all
+    const Layout layout = laidOut(chart, {}, plot400x200);
     EXPECT_GE(layout.scale.max, 10600);
     EXPECT_LE(layout.scale.min, -6000);
     ASSERT_EQ(layout.bars.size(), 2U);
@@ -122,9 +122,9 @@ TEST(ChartLayout, ACreditHidesNoOtherPartOfItsStack)
 
 TEST(ChartLayout, WithoutDataThereAreOnlyTitles)
 {
-    ChartContent content;
-    content.titles = {{2, u"No figures"}};
-    const Layout layout = laidOut(content, {}, plot400x200);
+    Chart chart;
+    chart.titles = {{2, u"No figures"}};
+    const Layout layout = laidOut(chart, {}, plot400x200);
     EXPECT_EQ(layout.titles.size(), 1U);
     EXPECT_TRUE(layout.ticks.empty());
     EXPECT_EQ(layout.slotAt(100, 100), -1);
@@ -133,12 +133,12 @@ TEST(ChartLayout, WithoutDataThereAreOnlyTitles)
 
 TEST(ChartLayout, StaysFiniteOnAnyPaperWithAnyFigures)
 {
-    ChartContent content = fourBars();
+    Chart chart = fourBars();
     const double infinity = std::numeric_limits<double>::infinity();
-    content.series = {{infinity, -infinity, std::nan(""), 1e308}, {1e308, -1e308, 1e308, 1e308}};
+    chart.series = {{infinity, -infinity, std::nan(""), 1e308}, {1e308, -1e308, 1e308, 1e308}};
     for (const Size paper : {Size{0, 0}, Size{1, 1}, Size{50, 400}, Size{442, 251}})
         for (const auto bars : {ChartDesign::Bars::Stacked, ChartDesign::Bars::Grouped}) {
-            const Layout layout = laidOut(content, {bars}, paper);
+            const Layout layout = laidOut(chart, {bars}, paper);
             EXPECT_GT(layout.plot.width, 0);
             EXPECT_GT(layout.plot.height, 0);
             for (const Bar& bar : layout.bars)

@@ -64,12 +64,12 @@ TEST(ChartScale, ReachesBelowZero)
 
 TEST(ChartScale, ReachesAsFarAsStacksOrTheLongestOfABunchEachWay)
 {
-    ChartContent content;
-    content.series = {{-5, 3}, {10, -7}, {0, 0}, {4, -2}};
-    content.labels = {u"A", u"B"};
-    const ChartDesign grouped{ChartDesign::Bars::Grouped};
-    EXPECT_EQ(reachOf(Figures(content, {})), (Range{-9, 14}));
-    EXPECT_EQ(reachOf(Figures(content, grouped)), (Range{-7, 10}));
+    Chart chart;
+    chart.series = {{-5, 3}, {10, -7}, {0, 0}, {4, -2}};
+    chart.labels = {u"A", u"B"};
+    EXPECT_EQ(reachOf(Figures(chart)), (Range{-9, 14}));
+    chart.design.bars = ChartDesign::Bars::Grouped;
+    EXPECT_EQ(reachOf(Figures(chart)), (Range{-7, 10}));
 }
 
 TEST(ChartScale, WithoutAnyFigureEndsAtOne)

@@ -7,14 +7,14 @@ namespace plotvue::chart {
 
 namespace {
 
-ChartContent salesAndProjection()
+Chart salesAndProjection()
 {
-    ChartContent content;
-    content.decimals = 0;
-    content.titles = {{1, u"Sales"}};
-    content.series = {{40, 20}, {0, 10}};
-    content.labels = {u"A", u"B"};
-    return content;
+    Chart chart;
+    chart.decimals = 0;
+    chart.titles = {{1, u"Sales"}};
+    chart.series = {{40, 20}, {0, 10}};
+    chart.labels = {u"A", u"B"};
+    return chart;
 }
 
 const ChartDesign projecting{ChartDesign::Bars::Stacked, ChartDesign::Labels::Months, 1, {{1, u"Projected"}}};
@@ -36,9 +36,9 @@ std::string describeLegend(const Layout& layout)
 
 TEST(ChartTitles, StandBelowEachOther)
 {
-    ChartContent content;
-    content.titles = {{1, u"Sales"}, {2, u"Product: 4711\r"}, {3, u"WH: 1"}, {4, u"nowhere"}};
-    const Layout layout = laidOut(content, {}, {224, 200});
+    Chart chart;
+    chart.titles = {{1, u"Sales"}, {2, u"Product: 4711\r"}, {3, u"WH: 1"}, {4, u"nowhere"}};
+    const Layout layout = laidOut(chart, {}, {224, 200});
     EXPECT_EQ(describeTitles(layout), "Sales @ 12,9 200x12\n"
                                       "Product: 4711 @ 12,22.5 200x12 main\n"
                                       "WH: 1 @ 12,36 200x12\n");
@@ -49,26 +49,26 @@ TEST(ChartTitles, StandBelowEachOther)
 
 TEST(ChartTitles, LeaveNoGapWhenAbsent)
 {
-    ChartContent content;
-    content.titles = {{1, u""}, {3, u"WH: 1"}};
-    EXPECT_EQ(describeTitles(laidOut(content, {}, {224, 200})), "WH: 1 @ 12,9 200x12\n");
+    Chart chart;
+    chart.titles = {{1, u""}, {3, u"WH: 1"}};
+    EXPECT_EQ(describeTitles(laidOut(chart, {}, {224, 200})), "WH: 1 @ 12,9 200x12\n");
 }
 
 TEST(ChartTitles, TheMainOneIsSetSmallerBeforeItIsElided)
 {
-    ChartContent content;
-    content.titles = {{2, u"Product: 4711"}}; // 104, 91 or 78 wide, between margins of 12
+    Chart chart;
+    chart.titles = {{2, u"Product: 4711"}}; // 104, 91 or 78 wide, between margins of 12
     const std::tuple<double, TextRole, const char*> expected[] = {
         {128, TextRole::LargeTitle, "Product: 4711"},  {127, TextRole::MediumTitle, "Product: 4711"},
         {115, TextRole::MediumTitle, "Product: 4711"}, {114, TextRole::BodyTitle, "Product: 4711"},
         {102, TextRole::BodyTitle, "Product: 4711"},   {101, TextRole::BodyTitle, "Product: 47~"}};
     for (const auto& [width, role, text] : expected) {
-        const Layout layout = laidOut(content, {}, {width, 200});
+        const Layout layout = laidOut(chart, {}, {width, 200});
         EXPECT_EQ(layout.titles.at(0).role, role) << width;
         EXPECT_EQ(narrow(layout.titles.at(0).text), text) << width;
     }
-    content.titles = {{1, u"Product: 4711"}, {3, u"Product: 4711"}};
-    const Layout layout = laidOut(content, {}, {101, 200});
+    chart.titles = {{1, u"Product: 4711"}, {3, u"Product: 4711"}};
+    const Layout layout = laidOut(chart, {}, {101, 200});
     EXPECT_EQ(layout.titles.at(0).role, TextRole::Small);
     EXPECT_EQ(layout.titles.at(1).role, TextRole::Body);
 }
@@ -78,10 +78,10 @@ TEST(ChartTitles, KeepTheirHeightWhateverTheirSize)
     struct HighTitles : SixByTwelve {
         double height(TextRole role) const override { return role == TextRole::LargeTitle ? 20 : 12; }
     };
-    ChartContent content;
-    content.titles = {{2, u"Product: 4711"}, {3, u"WH: 1"}};
+    Chart chart;
+    chart.titles = {{2, u"Product: 4711"}, {3, u"WH: 1"}};
     for (const double width : {128, 102}) {
-        const Layout layout = layoutChart(content, {}, {width, 200}, HighTitles(), 1);
+        const Layout layout = layoutChart(Figures(chart), {width, 200}, HighTitles(), 1);
         EXPECT_EQ(layout.titles.at(0).box.height, 20);
         EXPECT_EQ(layout.titles.at(1).box.top, 9 + 20 + 1.5);
     }
@@ -89,9 +89,9 @@ TEST(ChartTitles, KeepTheirHeightWhateverTheirSize)
 
 TEST(ChartTitles, AreElidedNeverWrapped)
 {
-    ChartContent content;
-    content.titles = {{2, u"Product: 4711"}};
-    EXPECT_EQ(describeTitles(laidOut(content, {}, {84, 200})), "Product:~ @ 12,9 60x12 main\n");
+    Chart chart;
+    chart.titles = {{2, u"Product: 4711"}};
+    EXPECT_EQ(describeTitles(laidOut(chart, {}, {84, 200})), "Product:~ @ 12,9 60x12 main\n");
 }
 
 TEST(ChartLegend, StandsBelowTheTitles)
@@ -122,9 +122,9 @@ TEST(ChartLegend, ANameIsElidedToTheLine)
 
 TEST(ChartLegend, IsAbsentWhereItTellsNothing)
 {
-    ChartContent content = salesAndProjection();
-    content.series[1] = {0, 0};
-    const Layout layout = laidOut(content, projecting, {442, 251});
+    Chart chart = salesAndProjection();
+    chart.series[1] = {0, 0};
+    const Layout layout = laidOut(chart, projecting, {442, 251});
     EXPECT_TRUE(layout.legend.empty());
     EXPECT_EQ(layout.plot.top, 38);
 }

@@ -3,8 +3,6 @@
 #include "platform/recording/recording.h"
 #include "window_fixture.h"
 
-#include <filesystem>
-
 namespace plotvue::test {
 namespace {
 
@@ -12,35 +10,23 @@ using Said = std::vector<std::pair<Name, TextSpan>>; // of the controls that say
 
 class Declarations : public testing::Test {
 protected:
-    // Keeps what it is told to build.
-    struct Keeping : RecordingPlatform {
-        std::map<Name, Declaration> built;
-
-        std::unique_ptr<View> build(const Declaration& declaration, const Handlers& handlers,
-                                    std::function<void()> close) override
-        {
-            built[declaration.name] = declaration;
-            return RecordingPlatform::build(declaration, handlers, std::move(close));
-        }
-    };
-
     void open(std::string_view capture)
     {
         platform.clipboard = sample(capture);
         Form* startup = app.window("startup");
-        startup->loaded() ? startup->view().press("Command1") : app.start();
+        startup->loaded() ? startup->controls().press("Command1") : app.start();
     }
 
     void openChart(std::string_view capture, Name list)
     {
         open(capture);
-        app.window(list)->view().clickRow("MSFlexGrid1", 1);
+        app.window(list)->controls().clickRow("MSFlexGrid1", 1);
     }
 
     Said spoken(Name window)
     {
         Said said;
-        forEachControl(platform.built.at(window).content, [&](const auto& control) {
+        forEachControl(app.window(window)->controls().declaration.content, [&](const auto& control) {
             if constexpr (requires { control.spokenName; })
                 if (!control.spokenName.empty())
                     said.emplace_back(control.name, control.spokenName);
@@ -51,9 +37,9 @@ protected:
     ChartDesign chart(Name window)
     {
         ChartDesign design;
-        forEachControl(platform.built.at(window).content, [&](const auto& control) {
+        forEachControl(app.window(window)->controls().declaration.content, [&](const auto& control) {
             if constexpr (std::is_same_v<std::decay_t<decltype(control)>, ChartBox>)
-                design = control.design;
+                design = control.chart.design;
         });
         return design;
     }
@@ -62,7 +48,7 @@ protected:
     std::vector<int> figures(Name window)
     {
         std::vector<int> columns;
-        forEachControl(platform.built.at(window).content, [&](const auto& control) {
+        forEachControl(app.window(window)->controls().declaration.content, [&](const auto& control) {
             if constexpr (requires { control.figures; })
                 columns = control.figures;
         });
@@ -72,7 +58,7 @@ protected:
     Said keys(Name window)
     {
         Said said;
-        forEachControl(platform.built.at(window).content, [&](const auto& control) {
+        forEachControl(app.window(window)->controls().declaration.content, [&](const auto& control) {
             if constexpr (requires { control.shortcut; })
                 said.emplace_back(control.name, control.shortcut);
         });
@@ -80,7 +66,7 @@ protected:
     }
 
     Session directory; // the files of the ranked windows go there
-    Keeping platform;
+    RecordingPlatform platform;
     Application app{platform};
 };
 

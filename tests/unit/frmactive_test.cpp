@@ -13,7 +13,7 @@ HostScreen active()
     return hostScreen("active");
 }
 
-ChartContent chart(Session& session, Type type)
+Chart chart(Session& session, Type type)
 {
     session.choose(window, "optSales", type);
     return session.chart(window);
@@ -37,7 +37,7 @@ TEST(FrmActive, ShowsEveryCountOfEveryMonth)
         session.choose(window, "opt12", period);
         for (const auto& type : types) {
             SCOPED_TRACE(testing::Message() << months << " months, data type " << type.type);
-            const ChartContent shown = chart(session, type.type);
+            const Chart shown = chart(session, type.type);
             EXPECT_EQ(shown.series, std::vector<Numbers>{slots(table.numbers(type.columns, months))});
             EXPECT_EQ(shown.labels, slots(table.labels(months)));
             EXPECT_EQ(shown.titles, (std::map<int, Text>{{2, Text(type.title)},
@@ -64,7 +64,7 @@ TEST(FrmActive, CommasAreDropped)
 {
     Session session;
     session.start(active().put(5, 6, u"   1,204").put(6, 6, u"       -").put(7, 6, u"        ").text());
-    const ChartContent shown = session.chart(window);
+    const Chart shown = session.chart(window);
     EXPECT_EQ(valueOf(shown, 13, 1), 1204);
     EXPECT_EQ(valueOf(shown, 13, 2), 0);
     EXPECT_EQ(valueOf(shown, 13, 3), 0);
@@ -82,7 +82,7 @@ TEST(FrmActive, SixMonthsLeaveOutTheTopRow)
     Session session;
     session.start(active().text());
     session.choose(window, "opt12", 2);
-    const ChartContent shown = session.chart(window);
+    const Chart shown = session.chart(window);
     EXPECT_EQ(shown.labels, (Texts{u"JUL99", u"AUG99", u"SEP99", u"OCT99", u"NOV99", u"DEC99", u""}));
     EXPECT_EQ(shown.series, (std::vector<Numbers>{{1089, 1115, 1287, 1502, 1733, 1865, 0}}));
 }
@@ -92,7 +92,7 @@ TEST(FrmActive, TwoYearsGoOnInTheRightHalf)
     Session session;
     session.start(active().text());
     session.choose(window, "opt12", 1);
-    const ChartContent shown = session.chart(window);
+    const Chart shown = session.chart(window);
     EXPECT_EQ(valueOf(shown, 25, 13), 1809); // DEC98, line 17, left
     EXPECT_EQ(valueOf(shown, 25, 14), 1651); // NOV98, line 6, right
     EXPECT_EQ(valueOf(shown, 25, 25), 1780); // DEC97, line 17, right
@@ -115,7 +115,7 @@ TEST(FrmActive, OptionsStandInTheirOrder)
     EXPECT_EQ(session.events(), opening("frmActive"));
     expectButtons(session, window);
     expectMonthsFrame(session, window);
-    const OptionsState types = session.options(window, "optSales");
+    const OptionGroup types = session.options(window, "optSales");
     EXPECT_EQ(fromTheTop(types), (Texts{u"All", u"Lubes/Other", u"Fuels", u"Cardlock"}));
     EXPECT_EQ(indicesFromTheTop(types), (std::vector{3, 1, 0, 2}));
     EXPECT_EQ(types.chosen, std::vector{0});

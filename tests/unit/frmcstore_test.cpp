@@ -124,7 +124,7 @@ TEST(FrmCSTORE, SixMonthsAreTheSixNewestLines)
     Session session;
     session.start(store().text());
     session.choose(window, "opt12", 2);
-    const ChartContent chart = session.chart(window);
+    const Chart chart = session.chart(window);
     EXPECT_EQ(chart.labels, (Texts{u"FEB99", u"MAR99", u"APR99", u"MAY99", u"JUN99", u"JUL99", u""}));
     EXPECT_EQ(chart.series[0],
               (Numbers{115561.63, 132788.45, 140495.66, 160204.94, 166583.21, 128060.18, 0}));
@@ -135,7 +135,7 @@ TEST(FrmCSTORE, TwoYearsGoOnInTheRightHalf)
     Session session;
     session.start(store().text());
     session.choose(window, "opt12", 1);
-    const ChartContent chart = session.chart(window);
+    const Chart chart = session.chart(window);
     EXPECT_EQ(valueOf(chart, 25, 13), 153250.29);
     EXPECT_EQ(valueOf(chart, 25, 14), 147155.78);
     EXPECT_EQ(valueOf(chart, 25, 25), 138691.30);

@@ -38,7 +38,7 @@ TEST_F(FrmCustomerE, NamesTheCustomerAndTheProduct)
 TEST_F(FrmCustomerE, ReadsTheNewestMonthFromLine6AndThe14thFromLine7)
 {
     tester.choose(Volume, Months24);
-    const ChartContent chart = tester.chart();
+    const Chart chart = tester.chart();
     EXPECT_EQ(chart.series[0][24], 101728.55);
     EXPECT_EQ(chart.series[0][11], 158825.34);
     EXPECT_EQ(chart.series[0][0], 126728.06);

@@ -38,7 +38,7 @@ TEST_F(FrmCustP2, NamesTheCustomerTheProductThePackAndTheWarehouse)
 TEST_F(FrmCustP2, ChartsItsSample)
 {
     tester.choose(Volume, Months24);
-    const ChartContent chart = tester.chart();
+    const Chart chart = tester.chart();
     EXPECT_EQ(chart.series[0][24], 7544.31);
     EXPECT_EQ(chart.series[0][11], 8991.43);
     EXPECT_EQ(chart.series[0][0], 8151.31);

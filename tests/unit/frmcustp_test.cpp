@@ -44,7 +44,7 @@ TEST_F(FrmCustP, NamesTheCustomerAndTheCategory)
 TEST_F(FrmCustP, ChartsItsSample)
 {
     tester.choose(Profit, Months24);
-    const ChartContent chart = tester.chart();
+    const Chart chart = tester.chart();
     EXPECT_EQ(chart.series[0][24], 5083.72);
     EXPECT_EQ(chart.series[0][11], 9839.33);
     EXPECT_EQ(chart.series[0][0], 10423.02);

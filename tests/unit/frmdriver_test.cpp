@@ -123,7 +123,7 @@ TEST_P(DeliveryWindow, WithoutItsIdentifierTheHiddenWindowIsCharted)
     EXPECT_EQ(session.events(), left());
     EXPECT_FALSE(session.visible(name));
     EXPECT_FALSE(session.platform.over());
-    const ChartContent chart = session.chart(name);
+    const Chart chart = session.chart(name);
     EXPECT_EQ(valueOf(chart, 13, 1), 111.11);
     EXPECT_NEAR(valueOf(chart, 13, 1, 1), 166.665, 1e-9); // day 12 of 30, from columns 16 and 17
     EXPECT_EQ(chart.titles.at(2), delivery.subject);
@@ -141,7 +141,7 @@ TEST_P(DeliveryWindow, SixMonthsAreTheSixNewestLines)
 {
     session.start(host.put(6, 17, u"     6.00").put(11, 17, u"    11.00").text());
     session.choose(name, "opt12", 2);
-    const ChartContent chart = session.chart(name);
+    const Chart chart = session.chart(name);
     EXPECT_EQ(chart.series[0].size(), 7u);
     EXPECT_EQ(chart.series[0][5], 6);
     EXPECT_EQ(chart.series[0][0], 11);
@@ -153,7 +153,7 @@ TEST_P(DeliveryWindow, TwoYearsGoOnInTheRightHalf)
 {
     session.start(host.put(18, 17, u"    13.00").put(7, 58, u"    14.00").put(18, 58, u"    25.00").text());
     session.choose(name, "opt12", 1);
-    const ChartContent chart = session.chart(name);
+    const Chart chart = session.chart(name);
     EXPECT_EQ(valueOf(chart, 25, 13), 13);
     EXPECT_EQ(valueOf(chart, 25, 14), 14);
     EXPECT_EQ(chart.series[0][0], 25);
@@ -173,7 +173,7 @@ TEST(DriverAndTruck, TheSameScreenDiffersInNothingButTheTitle)
     Session driver, truck;
     driver.start(host.text());
     truck.start(host.put(1, 1, u"QXM855TH").text());
-    const ChartContent one = driver.chart("frmDriver"), other = truck.chart("frmTruck");
+    const Chart one = driver.chart("frmDriver"), other = truck.chart("frmTruck");
     EXPECT_EQ(one.series, other.series);
     EXPECT_EQ(one.labels, other.labels);
     EXPECT_EQ(one.titles.at(2), u"Driver: 031 T. OAKHALLOW");

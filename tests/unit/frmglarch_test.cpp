@@ -66,7 +66,7 @@ TEST(FrmGLarch, ShowsEveryAmountOfEveryYearTurned)
             amounts.push_back(-std::nearbyint(amount));
         newestFirst.insert(newestFirst.end(), months.begin(), months.end());
         newestFirst.push_back(Text(u"J9") + static_cast<char16_t>(u'9' + 1 - years));
-        const ChartContent chart = session.chart(window);
+        const Chart chart = session.chart(window);
         EXPECT_EQ(chart.series, std::vector<Numbers>{slots(amounts)});
         EXPECT_EQ(chart.labels, slots(newestFirst));
     }
@@ -86,7 +86,7 @@ TEST(FrmGLarch, FiveYearsBeginInTheOldestColumn)
     Session session;
     session.start(ledger().text());
     session.choose(window, "opt12", 4);
-    const ChartContent chart = session.chart(window);
+    const Chart chart = session.chart(window);
     ASSERT_EQ(chart.series[0].size(), 61u);
     EXPECT_EQ(chart.series[0][0], 1010295);  // JAN95, line 6
     EXPECT_EQ(chart.series[0][11], 1025889); // DEC95, line 17
@@ -219,7 +219,7 @@ TEST(FrmGLarch, TitlesNameTheAccountAndTheLocation)
 {
     Session session;
     session.start(ledger().text());
-    const ChartContent chart = session.chart(window);
+    const Chart chart = session.chart(window);
     EXPECT_EQ(chart.titles, (std::map<int, Text>{{2, u"G/L History for Acct: 4010-00 HEATING OIL SALES"},
                                                  {3, u"ALL TERMINALS"}}));
     EXPECT_FALSE(chart.decimals);
@@ -243,12 +243,12 @@ TEST(FrmGLarch, OptionsAreYearsAndNothingElse)
     session.start(ledger().text());
     EXPECT_EQ(session.events(), opening("frmGLarch"));
     expectButtons(session, window);
-    const OptionsState years = session.options(window, "opt12");
+    const OptionGroup years = session.options(window, "opt12");
     EXPECT_EQ(fromTheTop(years), (Texts{u"1", u"2", u"3", u"4", u"5"}));
     EXPECT_EQ(indicesFromTheTop(years), (std::vector{0, 1, 2, 3, 4}));
     EXPECT_EQ(years.chosen, std::vector{0});
     EXPECT_EQ(frameCaptions(frmGLarch), Texts{u"Years"});
-    EXPECT_FALSE(session.app.window(window)->view().state().controls.contains("optSales"));
+    EXPECT_THROW(session.options(window, "optSales"), std::out_of_range);
     EXPECT_EQ(session.caption(window), u"Plotvue!");
 }
 

@@ -32,7 +32,7 @@ TEST(FrmGLexpense, ShowsEveryFigureOfEveryMonth)
         for (const auto& type : types) {
             SCOPED_TRACE(testing::Message() << months << " months, data type " << type.type);
             session.choose(window, "optSales", type.type);
-            const ChartContent chart = session.chart(window);
+            const Chart chart = session.chart(window);
             EXPECT_EQ(chart.series, std::vector<Numbers>{slots(table.numbers(type.columns, months))});
             EXPECT_EQ(chart.labels, slots(table.labels(months)));
             EXPECT_EQ(chart.titles.at(1), type.caption);
@@ -98,7 +98,7 @@ TEST(FrmGLexpense, OptionsStandInTheirOrder)
     EXPECT_EQ(session.events(), opening("frmGLexpense"));
     expectButtons(session, window);
     expectMonthsFrame(session, window);
-    const OptionsState types = session.options(window, "optSales");
+    const OptionGroup types = session.options(window, "optSales");
     EXPECT_EQ(fromTheTop(types), (Texts{u"Cents/Gallon", u"Dollars", u"Volume"}));
     EXPECT_EQ(indicesFromTheTop(types), (std::vector{2, 0, 1}));
     EXPECT_EQ(types.chosen, std::vector{0});
@@ -111,7 +111,7 @@ TEST(FrmGLexpense, SixMonthsLeaveOutTheTopRow)
     Session session;
     session.start(expense().text());
     session.choose(window, "opt12", 2);
-    const ChartContent chart = session.chart(window);
+    const Chart chart = session.chart(window);
     EXPECT_EQ(chart.labels, (Texts{u"APR99", u"MAY99", u"JUN99", u"JUL99", u"AUG99", u"SEP99", u""}));
     EXPECT_EQ(chart.series,
               (std::vector<Numbers>{{56966.65, 43541.25, 41455.73, 44131.99, 36343.37, 53526.38, 0}}));
@@ -122,7 +122,7 @@ TEST(FrmGLexpense, TwoYearsEndOnLineNineteenOfTheRightHalf)
     Session session;
     session.start(expense().text());
     session.choose(window, "opt12", 1);
-    const ChartContent chart = session.chart(window);
+    const Chart chart = session.chart(window);
     EXPECT_EQ(chart.series[0][0], 45972.73);
     EXPECT_EQ(chart.labels[0], u"S97");
     EXPECT_EQ(chart.series[0][12], 49425.37); // line 7, right

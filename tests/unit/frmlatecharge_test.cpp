@@ -13,7 +13,7 @@ HostScreen charges()
     return hostScreen("latecharge");
 }
 
-ChartContent chart(Session& session, Type type)
+Chart chart(Session& session, Type type)
 {
     session.choose(window, "optSales", type);
     return session.chart(window);
@@ -48,7 +48,7 @@ TEST(FrmLateCharge, ShowsEveryFigureOfEveryMonth)
                      {PaidLost, u"Paid/Lost", 0, paid, lost, {}}};
         for (const auto& type : types) {
             SCOPED_TRACE(testing::Message() << months << " months, data type " << type.type);
-            const ChartContent shown = chart(session, type.type);
+            const Chart shown = chart(session, type.type);
             EXPECT_EQ(shown.series, (std::vector<Numbers>{slots(type.first), slots(type.second)}));
             EXPECT_EQ(shown.labels, slots(table.labels(months)));
             EXPECT_EQ(shown.hidden, type.hidden);
@@ -79,7 +79,7 @@ TEST(FrmLateCharge, PaidAndLostAreWhatIsNoLongerOpen)
     Session session;
     session.start(host.text());
     EXPECT_EQ(valueOf(chart(session, PaidPercent), 13, 2), 60);
-    const ChartContent lost = chart(session, PaidLost);
+    const Chart lost = chart(session, PaidLost);
     EXPECT_EQ(valueOf(lost, 13, 2, 0), 300);
     EXPECT_EQ(valueOf(lost, 13, 2, 1), 80);
     EXPECT_EQ(valueOf(lost, 13, 3, 1), -150);
@@ -89,7 +89,7 @@ TEST(FrmLateCharge, NothingIsDividedByATotalOfNought)
 {
     Session session;
     session.start(charges().put(5, 7, u"         ").put(6, 7, u"     0.00").put(7, 7, u"     NONE").text());
-    const ChartContent percent = chart(session, PaidPercent);
+    const Chart percent = chart(session, PaidPercent);
     for (const int month : {2, 3, 4})
         EXPECT_EQ(valueOf(percent, 13, month), 0);
     EXPECT_FALSE(session.platform.over());
@@ -103,7 +103,7 @@ TEST(FrmLateCharge, TheSecondSeriesIsHiddenAgain)
     EXPECT_TRUE(chart(session, PaidLost).hidden.empty());
     for (const Type type : {Total, Open, Paid, PaidPercent}) {
         chart(session, PaidLost);
-        const ChartContent shown = chart(session, type);
+        const Chart shown = chart(session, type);
         EXPECT_EQ(shown.hidden, std::set{1});
         EXPECT_EQ(shown.series[1], Numbers(14));
     }
@@ -122,7 +122,7 @@ TEST(FrmLateCharge, TheRightHalfBeginsOnLineFive)
     Session session;
     session.start(charges().put(4, 42, u"XXX99 99,999.99").text());
     session.choose(window, "opt12", 1);
-    const ChartContent total = session.chart(window);
+    const Chart total = session.chart(window);
     EXPECT_EQ(valueOf(total, 25, 1), 5727.96);
     EXPECT_EQ(valueOf(total, 25, 13), 6828.98); // line 16, left
     EXPECT_EQ(valueOf(total, 25, 14), 6489.12); // line 5, right
@@ -136,7 +136,7 @@ TEST(FrmLateCharge, SixMonthsAreTheSixNewestLines)
     Session session;
     session.start(charges().text());
     session.choose(window, "opt12", 2);
-    const ChartContent total = session.chart(window);
+    const Chart total = session.chart(window);
     EXPECT_EQ(total.labels, (Texts{u"APR99", u"MAY99", u"JUN99", u"JUL99", u"AUG99", u"SEP99", u""}));
     EXPECT_EQ(total.series[0], (Numbers{7822.25, 6599.14, 6409.38, 5723.27, 5914.47, 5727.96, 0}));
 }
@@ -157,7 +157,7 @@ TEST(FrmLateCharge, OptionsStandInTheirOrder)
     EXPECT_EQ(session.events(), opening("frmLateCharge"));
     expectButtons(session, window);
     expectMonthsFrame(session, window);
-    const OptionsState types = session.options(window, "optSales");
+    const OptionGroup types = session.options(window, "optSales");
     EXPECT_EQ(fromTheTop(types), (Texts{u"Paid/Lost", u"Paid %", u"Total", u"Paid", u"Open"}));
     EXPECT_EQ(indicesFromTheTop(types), (std::vector{4, 3, 0, 2, 1}));
     EXPECT_EQ(types.chosen, std::vector{0});
@@ -168,7 +168,7 @@ TEST(FrmLateCharge, PaidAndLostAreTheSeriesNames)
 {
     forEachControl(declareHistoryWindow(frmLateCharge).content, [](const auto& control) {
         if constexpr (std::is_same_v<std::decay_t<decltype(control)>, ChartBox>) {
-            EXPECT_EQ(control.design.legends, (std::map<int, TextSpan>{{0, u"Paid"}, {1, u"Lost"}}));
+            EXPECT_EQ(control.chart.design.legends, (std::map<int, TextSpan>{{0, u"Paid"}, {1, u"Lost"}}));
         }
     });
 }

@@ -39,7 +39,7 @@ TEST_F(FrmPware, NamesTheProductThePackAndTheWarehouse)
 TEST_F(FrmPware, ReadsThe14thMonthFromLine8AndTheOldestFromLine19)
 {
     tester.choose(Sales, Months24);
-    const ChartContent chart = tester.chart();
+    const Chart chart = tester.chart();
     EXPECT_EQ(chart.series[0][24], 109601.92);
     EXPECT_EQ(chart.series[0][12], 174545.18); // the 13th, on line 19 of the left half
     EXPECT_EQ(chart.series[0][11], 121262.58);

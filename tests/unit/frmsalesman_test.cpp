@@ -39,7 +39,7 @@ TEST_F(FrmSalesman, NamesTheRepresentativeAndTheCategory)
 TEST_F(FrmSalesman, ChartsItsSample)
 {
     tester.choose(Sales, Months24);
-    const ChartContent chart = tester.chart();
+    const Chart chart = tester.chart();
     EXPECT_EQ(chart.series[0][24], 36838.63);
     EXPECT_EQ(chart.series[0][11], 97217.75); // the 14th month back, at the head of the right half
     EXPECT_EQ(chart.series[0][0], 84122.24);
@@ -96,7 +96,7 @@ TEST_F(FrmSalesman, ChartsAForeignScreenIntoTheWindowThatItHides)
     foreign.put(1, 16, u"20");
     EXPECT_THAT(tester.refresh(foreign.text()), ElementsAre("hide frmSalesman", "show startup"));
 
-    const ChartContent chart = tester.chart();
+    const Chart chart = tester.chart();
     EXPECT_EQ(chart.labels[12], u"AUG99");
     EXPECT_EQ(chart.series[0][12], 139888.96);
     EXPECT_NEAR(chart.series[1][12], 139888.96 * 11 / 20, 1e-6);

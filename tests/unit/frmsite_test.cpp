@@ -36,7 +36,7 @@ TEST(FrmSite, TitlesNameTheSiteAndTheFuel)
 {
     Session session;
     session.start(site().text());
-    const ChartContent chart = session.chart(window);
+    const Chart chart = session.chart(window);
     EXPECT_EQ(
         chart.titles,
         (std::map<int, Text>{{1, u"Sales"}, {2, u"C/L Site: 0417 BRAMBLE HOLLOW"}, {3, u"Fuel: UNLEADED"}}));
@@ -78,7 +78,7 @@ TEST(FrmSite, SixMonthsAreTheSixNewestLines)
     Session session;
     session.start(site().text());
     session.choose(window, "opt12", 2);
-    const ChartContent chart = session.chart(window);
+    const Chart chart = session.chart(window);
     EXPECT_EQ(chart.labels, (Texts{u"JUN99", u"JUL99", u"AUG99", u"SEP99", u"OCT99", u"NOV99", u""}));
     EXPECT_EQ(chart.series[0], (Numbers{153775.02, 164659.85, 161556.91, 152436.08, 141100.53, 75185.33, 0}));
 }
@@ -88,7 +88,7 @@ TEST(FrmSite, TwoYearsGoOnInTheRightHalf)
     Session session;
     session.start(site().text());
     session.choose(window, "opt12", 1);
-    const ChartContent chart = session.chart(window);
+    const Chart chart = session.chart(window);
     EXPECT_EQ(valueOf(chart, 25, 13), 112178.84); // line 17, left
     EXPECT_EQ(valueOf(chart, 25, 14), 125481.06); // line 6, right
     EXPECT_EQ(valueOf(chart, 25, 25), 95293.19);  // line 17, right
@@ -103,7 +103,7 @@ TEST(FrmSite, WithoutQuantitiesTheHiddenWindowIsCharted)
               (Events{"load startup", "show startup", "hide startup", "load frmSite", "show startup"}));
     EXPECT_FALSE(session.visible(window));
     EXPECT_TRUE(session.visible("startup"));
-    const ChartContent chart = session.chart(window);
+    const Chart chart = session.chart(window);
     EXPECT_EQ(valueOf(chart, 13, 1), 75185.33);
     EXPECT_EQ(chart.titles.at(2), u"C/L Site: 0417 BRAMBLE HOLLOW");
 }

@@ -37,7 +37,7 @@ TEST_F(FrmSJHIST, NamesTheWarehouseTheProfitCentreAndTheCategory)
 TEST_F(FrmSJHIST, ReadsSixMonthsFromLines6To11)
 {
     tester.choose(Sales, Months6);
-    const ChartContent chart = tester.chart();
+    const Chart chart = tester.chart();
     EXPECT_THAT(chart.series[0],
                 ElementsAre(159295.50, 162160.70, 220758.45, 259334.75, 176201.99, 29896.12, 0));
     EXPECT_THAT(chart.labels, ElementsAre(u"JUL99", u"AUG99", u"SEP99", u"OCT99", u"NOV99", u"DEC99", u""));
@@ -47,7 +47,7 @@ TEST_F(FrmSJHIST, ReadsSixMonthsFromLines6To11)
 TEST_F(FrmSJHIST, ReadsThe13thMonthFromLine18AndTheRightHalfFromLines7To18)
 {
     tester.choose(Profit, Months24);
-    const ChartContent chart = tester.chart();
+    const Chart chart = tester.chart();
     EXPECT_EQ(chart.series[0][12], 8363.44);
     EXPECT_EQ(chart.series[0][11], 15053.99);
     EXPECT_EQ(chart.series[0][0], 8958.99);

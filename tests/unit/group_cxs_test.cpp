@@ -15,7 +15,7 @@ protected:
     }
 
     // The newest choice of each frame.
-    ChartContent chart(TypeOption type, int group)
+    Chart chart(TypeOption type, int group)
     {
         session.choose(cxs, "optSales", type);
         session.choose(cxs, "optSales", group);
@@ -33,7 +33,7 @@ TEST_F(CategoriesBySalesman, ItsControls)
     EXPECT_EQ(session.text(cxs, "cmdRefresh"), u"&Refresh");
     EXPECT_EQ(session.text(cxs, "cmdPrint"), u"&Print");
     EXPECT_EQ(session.text(cxs, "cmdExit"), u"E&xit");
-    const OptionsState options = session.options(cxs, "optSales");
+    const OptionGroup options = session.options(cxs, "optSales");
     EXPECT_EQ(captions(options),
               (Texts{u"Sales", u"Profit", u"Volume", u"FUELS", u"LUBES", u"HEATING", u"CARDLOCK", u"Total"}));
     for (std::size_t i = 0; i < options.options.size(); ++i)
@@ -44,7 +44,7 @@ TEST_F(CategoriesBySalesman, OpensWithTheTotalOfSales)
 {
     session.start(screen(4).text());
     EXPECT_EQ(session.options(cxs, "optSales").chosen, (std::vector{0, total}));
-    const ChartContent content = session.chart(cxs);
+    const Chart content = session.chart(cxs);
     EXPECT_EQ(content.series, (std::vector<Numbers>{{111 + 121 + 131 + 141, 211 + 221 + 231 + 241, 0}}));
     EXPECT_EQ(content.labels, (Texts{u"02_01", u"02_02", u""}));
     EXPECT_EQ(content.titles, (std::map<int, Text>{{2, u"OCT  1999"}, {3, u"Sales - ALL"}}));
@@ -60,7 +60,7 @@ TEST_F(CategoriesBySalesman, EveryTypeOfEveryGroup)
     const TextSpan groups[] = {u"FUELS", u"LUBES", u"HEATING", u"CARDLOCK"};
     for (int type = Sales; type <= Volume; ++type)
         for (int group = 0; group < 4; ++group) {
-            const ChartContent content = chart(static_cast<TypeOption>(type), firstGroup + group);
+            const Chart content = chart(static_cast<TypeOption>(type), firstGroup + group);
             const double place = 10 * (group + 1) + type + 1;
             EXPECT_EQ(content.series, (std::vector<Numbers>{{100 + place, 200 + place, 0}})) << type << group;
             EXPECT_EQ(content.titles.at(3), Text(types[type]) + Text(groups[group]));
@@ -70,10 +70,10 @@ TEST_F(CategoriesBySalesman, EveryTypeOfEveryGroup)
 TEST_F(CategoriesBySalesman, ATotalAddsTheSameFigureOfEveryGroup)
 {
     session.start(screen(4).text());
-    const ChartContent profit = chart(Profit, total);
+    const Chart profit = chart(Profit, total);
     EXPECT_EQ(profit.series, (std::vector<Numbers>{{112 + 122 + 132 + 142, 212 + 222 + 232 + 242, 0}}));
     EXPECT_EQ(profit.titles.at(3), u"Profit - ALL");
-    const ChartContent volume = chart(Volume, total);
+    const Chart volume = chart(Volume, total);
     EXPECT_EQ(volume.series, (std::vector<Numbers>{{113 + 123 + 133 + 143, 213 + 223 + 233 + 243, 0}}));
     EXPECT_EQ(volume.titles.at(3), u"Volume - ALL");
 }
@@ -91,7 +91,7 @@ TEST_F(CategoriesBySalesman, TheTotalOfTwoGroupsIsTheirs)
 TEST_F(CategoriesBySalesman, TheGridListsWhatIsCharted)
 {
     session.start(screen(4).text());
-    GridState grid = session.grid(cxs);
+    Grid grid = session.grid(cxs);
     EXPECT_EQ(grid.format, u"<Sales Rep|>Sales - ALL");
     EXPECT_EQ(grid.columns, 2);
     EXPECT_EQ(grid.rows, 3);
@@ -135,7 +135,7 @@ TEST_F(CategoriesBySalesman, TheGridShrinksAndGrowsWithTheScreen)
 TEST_F(CategoriesBySalesman, OptionsWithoutAGroupAreHidden)
 {
     session.start(screen(3).text());
-    OptionsState options = session.options(cxs, "optSales");
+    OptionGroup options = session.options(cxs, "optSales");
     EXPECT_TRUE(options.options[5].visible);
     EXPECT_FALSE(options.options[6].visible);
     EXPECT_EQ(options.options[6].caption, u"");

@@ -12,7 +12,7 @@ protected:
         return groupScreen(u"QXM21SXC", groups, salesmen);
     }
 
-    ChartContent chart(const CaptureBuilder& capture, TypeOption type = Sales)
+    Chart chart(const CaptureBuilder& capture, TypeOption type = Sales)
     {
         session.start(capture.text());
         if (type != Sales)
@@ -31,7 +31,7 @@ TEST_F(SalesmenByCategory, ItsControls)
     EXPECT_EQ(session.text(sxc, "cmdRefresh"), u"&Refresh");
     EXPECT_EQ(session.text(sxc, "cmdPrint"), u"&Print");
     EXPECT_EQ(session.text(sxc, "cmdExit"), u"E&xit");
-    const OptionsState types = session.options(sxc, "optSales");
+    const OptionGroup types = session.options(sxc, "optSales");
     EXPECT_EQ(captions(types), (Texts{u"Sales", u"Profit", u"Volume"}));
     EXPECT_EQ(types.options[1].index, 1);
     EXPECT_EQ(types.chosen, std::vector{0});
@@ -39,7 +39,7 @@ TEST_F(SalesmenByCategory, ItsControls)
 
 TEST_F(SalesmenByCategory, SalesAreTheFirstFigureOfEachGroup)
 {
-    const ChartContent content = chart(screen(4));
+    const Chart content = chart(screen(4));
     EXPECT_EQ(content.series,
               (std::vector<Numbers>{{111, 211, 0}, {121, 221, 0}, {131, 231, 0}, {141, 241, 0}}));
     EXPECT_EQ(content.titles, (std::map<int, Text>{{2, u"OCT  1999"}, {3, u"Sales"}}));
@@ -48,7 +48,7 @@ TEST_F(SalesmenByCategory, SalesAreTheFirstFigureOfEachGroup)
 
 TEST_F(SalesmenByCategory, ProfitIsTheThirdFigure)
 {
-    const ChartContent content = chart(screen(4), Profit);
+    const Chart content = chart(screen(4), Profit);
     EXPECT_EQ(content.series,
               (std::vector<Numbers>{{113, 213, 0}, {123, 223, 0}, {133, 233, 0}, {143, 243, 0}}));
     EXPECT_EQ(content.titles.at(3), u"Profit");
@@ -56,7 +56,7 @@ TEST_F(SalesmenByCategory, ProfitIsTheThirdFigure)
 
 TEST_F(SalesmenByCategory, VolumeIsTheSecondFigure)
 {
-    const ChartContent content = chart(screen(4), Volume);
+    const Chart content = chart(screen(4), Volume);
     EXPECT_EQ(content.series,
               (std::vector<Numbers>{{112, 212, 0}, {122, 222, 0}, {132, 232, 0}, {142, 242, 0}}));
     EXPECT_EQ(content.titles.at(3), u"Volume");
@@ -126,7 +126,7 @@ TEST_F(SalesmenByCategory, EveryColumn)
         .put(2, 1, u"GROUPS:029SCOUNT:0000000014;FUELS;LUBES;HEATING;")
         .put(3, 1, u"UVWXYZABCDEFGHIJKL")
         .put(4, 1, u"ABCDE11;12;13;21;22;23;31;");
-    const ChartContent content = chart(capture);
+    const Chart content = chart(capture);
     EXPECT_EQ(content.titles.at(2), u"ABCDEFGHI");
     EXPECT_EQ(content.labels, (Texts{u"AB_CD", u""}));
     EXPECT_EQ(content.series, (std::vector<Numbers>{{11, 0}, {21, 0}, {0, 0}}));
@@ -140,7 +140,7 @@ TEST_F(SalesmenByCategory, TheCountsMayStandAnywhereOnTheirLine)
 {
     CaptureBuilder capture = screen(2);
     capture.put(2, 1, Text(50, u' ')).put(2, 3, u"SCOUNT:2         GROUPS: 2 ;A;B;");
-    const ChartContent content = chart(capture);
+    const Chart content = chart(capture);
     EXPECT_EQ(content.series, (std::vector<Numbers>{{111, 211, 0}, {121, 221, 0}, {0, 0, 0}}));
     EXPECT_EQ(content.legends, (std::map<int, Text>{{0, u"A"}, {1, u"B"}}));
 }
@@ -177,7 +177,7 @@ TEST_F(SalesmenByCategory, FourGroupsAreReadAtMost)
 
 TEST_F(SalesmenByCategory, WithoutSalesmenTheChartIsAnEmptyPoint)
 {
-    const ChartContent content = chart(screen(4, 0));
+    const Chart content = chart(screen(4, 0));
     EXPECT_EQ(content.series, (std::vector<Numbers>{{0}, {0}, {0}, {0}}));
     EXPECT_EQ(content.labels, Texts{u""});
     EXPECT_EQ(content.titles, (std::map<int, Text>{{2, u"OCT  1999"}}));
@@ -194,7 +194,7 @@ TEST_F(SalesmenByCategory, TheTypeIsATitleOnlyWhereAFigureIsRead)
 
 TEST_F(SalesmenByCategory, WithoutAGroupLineTheChartIsAnEmptyPoint)
 {
-    const ChartContent content = chart(CaptureBuilder().put(1, 1, u"QXM21SXC"));
+    const Chart content = chart(CaptureBuilder().put(1, 1, u"QXM21SXC"));
     EXPECT_EQ(content.series, (std::vector<Numbers>{{0}, {0}, {0}}));
     EXPECT_TRUE(content.legends.empty());
 }

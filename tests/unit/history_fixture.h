@@ -34,18 +34,18 @@ inline Events opening(const std::string& window)
     return {"load startup", "show startup", "hide startup", "load " + window, "show " + window};
 }
 
-inline Texts fromTheTop(const OptionsState& options)
+inline Texts fromTheTop(const OptionGroup& options)
 {
     Texts captions;
-    for (const OptionState& option : options.options)
+    for (const OptionGroup::Option& option : options.options)
         captions.push_back(option.caption);
     return captions;
 }
 
-inline std::vector<int> indicesFromTheTop(const OptionsState& options)
+inline std::vector<int> indicesFromTheTop(const OptionGroup& options)
 {
     std::vector<int> indices;
-    for (const OptionState& option : options.options)
+    for (const OptionGroup::Option& option : options.options)
         indices.push_back(option.index);
     return indices;
 }
@@ -69,14 +69,14 @@ inline void expectButtons(Session& session, Name window)
 
 inline void expectMonthsFrame(Session& session, Name window)
 {
-    const OptionsState periods = session.options(window, "opt12");
+    const OptionGroup periods = session.options(window, "opt12");
     EXPECT_EQ(fromTheTop(periods), (Texts{u"24", u"12", u"6"}));
     EXPECT_EQ(indicesFromTheTop(periods), (std::vector{1, 0, 2}));
     EXPECT_EQ(periods.chosen, std::vector{0});
 }
 
 // The value of screen month `month`, the newest being 1, in a chart of `months` months.
-inline double valueOf(const ChartContent& chart, int months, int month, std::size_t series = 0)
+inline double valueOf(const Chart& chart, int months, int month, std::size_t series = 0)
 {
     return chart.series.at(series).at(static_cast<std::size_t>(months - month));
 }
@@ -99,7 +99,7 @@ inline void expectExitKeepsTheChart(Session& session, const std::string& window,
 // A capture of another screen hides the window, with its chart as it was; the start-up window comes back.
 inline void expectForeignCaptureLeaves(Session& session, const std::string& window, TextSpan foreign)
 {
-    const ChartContent before = session.chart(window);
+    const Chart before = session.chart(window);
     session.events();
     session.copy(foreign);
     session.choose(window, "opt12", 1);

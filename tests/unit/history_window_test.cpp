@@ -46,20 +46,18 @@ protected:
 
 TEST_F(HistoryWindowTest, HasOneChartTwoGroupsAndThreeButtons)
 {
-    std::vector<std::string> names;
-    for (const auto& [name, control] : session.app.window("frmProduct")->view().state().controls)
-        names.push_back(name);
-    EXPECT_THAT(names, ElementsAre("ChartFX1", "cmdExit", "cmdPrint", "cmdRefresh", "opt12", "optSales"));
+    EXPECT_THAT(session.controlNames("frmProduct"),
+                ElementsAre("ChartFX1", "cmdExit", "cmdPrint", "cmdRefresh", "opt12", "optSales"));
     EXPECT_EQ(session.caption("frmProduct"), u"Plotvue!");
     EXPECT_EQ(session.text("frmProduct", "cmdPrint"), u"&Print");
     EXPECT_EQ(session.text("frmProduct", "cmdRefresh"), u"&Refresh");
     EXPECT_EQ(session.text("frmProduct", "cmdExit"), u"E&xit");
 }
 
-std::vector<std::pair<int, Text>> captions(const OptionsState& state)
+std::vector<std::pair<int, Text>> captions(const OptionGroup& state)
 {
     std::vector<std::pair<int, Text>> result;
-    for (const OptionState& option : state.options) {
+    for (const OptionGroup::Option& option : state.options) {
         EXPECT_TRUE(option.visible);
         result.emplace_back(option.index, option.caption);
     }
@@ -68,7 +66,7 @@ std::vector<std::pair<int, Text>> captions(const OptionsState& state)
 
 TEST_F(HistoryWindowTest, PeriodsStandFrom24MonthsDown)
 {
-    const OptionsState periods = session.options("frmProduct", "opt12");
+    const OptionGroup periods = session.options("frmProduct", "opt12");
     EXPECT_THAT(captions(periods),
                 ElementsAre(std::pair(1, Text(u"24 Month")), std::pair(0, Text(u"12 Month")),
                             std::pair(2, Text(u"6 Month"))));
@@ -77,7 +75,7 @@ TEST_F(HistoryWindowTest, PeriodsStandFrom24MonthsDown)
 
 TEST_F(HistoryWindowTest, DataTypesStandInTheOrderOfTheirIndex)
 {
-    const OptionsState types = session.options("frmProduct", "optSales");
+    const OptionGroup types = session.options("frmProduct", "optSales");
     EXPECT_THAT(captions(types), ElementsAre(std::pair(0, Text(u"Sales")), std::pair(1, Text(u"Profit")),
                                              std::pair(2, Text(u"Volume")), std::pair(3, Text(u"GP %")),
                                              std::pair(4, Text(u"G/P Units"))));
@@ -285,7 +283,7 @@ TEST(HistoryWindowLoad, IsDrawnOnceItLoadsWithTheDefaults)
     Application app(platform);
     app.start();
     EXPECT_EQ(platform.reads, 2); // the start-up window's and the chart's
-    const ChartContent chart = app.window("frmProduct")->view().chart("ChartFX1").content();
+    const Chart chart = *app.window("frmProduct")->controls().chart("ChartFX1");
     EXPECT_EQ(chart.series.at(0).at(12), 1000);
     EXPECT_EQ(chart.titles.at(1), u"Sales");
 }

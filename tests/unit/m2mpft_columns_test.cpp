@@ -124,7 +124,7 @@ protected:
     }
 
     // Point p carries month 13 - p.
-    ChartContent chart(int type)
+    Chart chart(int type)
     {
         CaptureBuilder capture(1);
         capture.put(1, 1, GetParam().title)
@@ -192,7 +192,7 @@ TEST_P(ProfitMonths, TheComponentsHaveTheirColumns)
 
 TEST_P(ProfitMonths, TheTitlesAreCutFromTheEntryAsTheyStand)
 {
-    const ChartContent content = chart(0);
+    const Chart content = chart(0);
     EXPECT_EQ(content.titles, (std::map<int, Text>{{1, u"Sales"},
                                                    {2, u"Customer: 12345 - " + Text(thirtyLetters)},
                                                    {3, u"Product: abcdefghij"}}));

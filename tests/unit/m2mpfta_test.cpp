@@ -16,7 +16,7 @@ protected:
         session.clickRow(m2m, gainsGrid, row);
     }
 
-    ChartContent components(TextSpan volume, TextSpan margin)
+    Chart components(TextSpan volume, TextSpan margin)
     {
         Session other;
         other.start(MonthToMonthScreen().add(1, u"5", volume, margin).text());
@@ -57,7 +57,7 @@ TEST_F(MonthToMonthCharts, ItsControls)
 TEST_F(MonthToMonthCharts, OpensWithTheSalesOfItsRow)
 {
     open(MonthToMonthScreen().add(1, u"5").add(2, u"4"), 2);
-    const ChartContent content = session.chart(m2mA);
+    const Chart content = session.chart(m2mA);
     EXPECT_EQ(content.series, (std::vector<Numbers>{{33, 32, 31, 30, 29, 28, 27, 26, 25, 24, 23, 22, 21}}));
     EXPECT_EQ(content.labels.front(), u"OCT98");
     EXPECT_EQ(content.labels.back(), u"OCT99");
@@ -79,7 +79,7 @@ TEST_F(MonthToMonthCharts, TypesHaveTheirTitleAndDecimals)
     for (int type = 4; type >= 0; --type) {
         session.choose(m2mA, "optSales", type);
         const auto& [title, decimals, value] = expected[type];
-        const ChartContent content = session.chart(m2mA);
+        const Chart content = session.chart(m2mA);
         EXPECT_EQ(content.titles.at(1), title);
         EXPECT_EQ(content.decimals, decimals);
         EXPECT_EQ(content.series.at(0).at(12), value) << type;
@@ -128,7 +128,7 @@ TEST_F(MonthToMonthCharts, MonthsBehindTheEndOfALineAreZero)
         .put(6, 1, u"GAIN:   5.00")
         .put(8, 1, u"S      100     200");
     open(screen);
-    const ChartContent content = session.chart(m2mA);
+    const Chart content = session.chart(m2mA);
     EXPECT_EQ(content.series, (std::vector<Numbers>{{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 200, 100}}));
     EXPECT_EQ(content.labels,
               (Texts{u"", u"", u"", u"", u"", u"", u"", u"", u"", u"", u"AU\r", u"SEP99", u"OCT99"}));
@@ -149,7 +149,7 @@ TEST_F(MonthToMonthCharts, WithoutALabelLineThePointsHaveNoLabels)
 
 TEST_F(MonthToMonthCharts, TheComponentsAreTwoSeriesOfAPoint)
 {
-    const ChartContent content = components(u"820.00", u"430.00");
+    const Chart content = components(u"820.00", u"430.00");
     EXPECT_EQ(content.series, (std::vector<Numbers>{{820}, {430}}));
     EXPECT_TRUE(content.labels.empty());
     EXPECT_EQ(content.titles, (std::map<int, Text>{{2, u"Volume/Margin components"}}));
@@ -170,7 +170,7 @@ TEST_F(MonthToMonthCharts, TheComponentsFillTheirAxis)
                        {u"-7.5", u"-5", -7.5, 0},
                        {u"0", u"0", 0, 0}};
     for (const auto& [volume, margin, smallest, largest] : cases) {
-        const ChartContent content = components(volume, margin);
+        const Chart content = components(volume, margin);
         EXPECT_EQ(content.axisMin, smallest) << toUtf8(volume);
         EXPECT_EQ(content.axisMax, largest) << toUtf8(volume);
     }
@@ -195,7 +195,7 @@ TEST_F(MonthToMonthCharts, TheComponentsGoWithTheEntry)
 {
     open(MonthToMonthScreen().add(1, u"5", u"8", u"-3").add(2, u"4", u"-2", u"6"));
     session.press(m2mA, "cmdNext");
-    const ChartContent content = session.chart(m2mA, "ChartFX2");
+    const Chart content = session.chart(m2mA, "ChartFX2");
     EXPECT_EQ(content.series, (std::vector<Numbers>{{-2}, {6}}));
     EXPECT_EQ(content.colours, (std::map<int, Colour>{{0, red}, {1, green}}));
     EXPECT_EQ(content.axisMin, -2);

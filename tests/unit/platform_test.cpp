@@ -12,9 +12,9 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 // A window with a button that does what the test wants.
-class Window : public Form {
+class AnyForm : public Form {
 public:
-    explicit Window(Platform& platform) : Form(platform) {}
+    explicit AnyForm(Platform& platform) : Form(platform) {}
 
     std::function<void()> onLoad = [] {};
     std::function<void()> onClick = [] {};
@@ -34,7 +34,7 @@ protected:
         return {{"cmdAny", [this](int) { onClick(); }}};
     }
     void Form_Load() override { onLoad(); }
-    void wayOut() override { Hide(); }
+    void wayOut() override { hide(); }
 };
 
 class Windows : public testing::Test {
@@ -50,7 +50,7 @@ protected:
     std::vector<Event::Kind> kinds;
     Text last;
     RecordingPlatform platform;
-    Window window{platform};
+    AnyForm window{platform};
 };
 
 using enum Event::Kind;
@@ -58,8 +58,8 @@ using enum Event::Kind;
 TEST_F(Windows, AreLoadedWhenTheyAreFirstShown)
 {
     EXPECT_FALSE(window.loaded());
-    EXPECT_THROW(window.view(), std::out_of_range);
-    window.Show();
+    EXPECT_THROW(window.controls(), std::out_of_range);
+    window.show();
     EXPECT_TRUE(window.loaded());
     EXPECT_TRUE(window.visible());
     EXPECT_THAT(kinds, ElementsAre(Load, Show));
@@ -69,69 +69,69 @@ TEST_F(Windows, AreBuiltHidden)
 {
     bool visible = true;
     window.onLoad = [&] { visible = window.visible(); };
-    window.Show();
+    window.show();
     EXPECT_FALSE(visible);
 }
 
 TEST_F(Windows, AreNotLoadedAgainWhenTheyAreShownAgain)
 {
-    window.Show();
-    window.Hide();
-    window.Show();
+    window.show();
+    window.hide();
+    window.show();
     EXPECT_THAT(kinds, ElementsAre(Load, Show, Hide, Show));
 }
 
 TEST_F(Windows, SayNothingWhenTheyAlreadyAreWhatTheyShallBe)
 {
-    window.Hide();
+    window.hide();
     EXPECT_THAT(kinds, IsEmpty());
-    window.Show();
-    window.Show();
-    window.Hide();
-    window.Hide();
+    window.show();
+    window.show();
+    window.hide();
+    window.hide();
     EXPECT_THAT(kinds, ElementsAre(Load, Show, Hide));
 }
 
 TEST_F(Windows, ThatHideThemselvesWhileTheyLoadStayHidden)
 {
-    window.onLoad = [this] { window.Hide(); };
-    window.Show();
+    window.onLoad = [this] { window.hide(); };
+    window.show();
     EXPECT_TRUE(window.loaded());
     EXPECT_FALSE(window.visible());
     EXPECT_THAT(kinds, ElementsAre(Load));
-    window.Show();
+    window.show();
     EXPECT_TRUE(window.visible());
 }
 
 TEST_F(Windows, AreLoadedAfreshAfterTheyWereUnloaded)
 {
-    window.Show();
-    window.Unload();
+    window.show();
+    window.unload();
     EXPECT_FALSE(window.loaded());
     EXPECT_FALSE(window.visible());
-    window.Show();
+    window.show();
     EXPECT_THAT(kinds, ElementsAre(Load, Show, Hide, Unload, Load, Show));
 }
 
 TEST_F(Windows, ThatWereNeverLoadedAreNotUnloaded)
 {
-    window.Unload();
+    window.unload();
     EXPECT_THAT(kinds, IsEmpty());
 }
 
 TEST_F(Windows, MayUnloadThemselvesInAHandler)
 {
-    window.onClick = [this] { window.Unload(); };
-    window.Show();
-    window.view().press("cmdAny");
+    window.onClick = [this] { window.unload(); };
+    window.show();
+    window.controls().press("cmdAny");
     EXPECT_FALSE(window.loaded());
     EXPECT_FALSE(platform.over());
 }
 
 TEST_F(Windows, CloseByTheirWayOut)
 {
-    window.Show();
-    window.view().close();
+    window.show();
+    window.controls().close();
     EXPECT_THAT(kinds, ElementsAre(Load, Show, Hide));
 }
 
@@ -142,8 +142,8 @@ TEST_F(Windows, EndTheProcess)
         platform.end();
         after = true;
     };
-    window.Show();
-    window.view().press("cmdAny");
+    window.show();
+    window.controls().press("cmdAny");
     EXPECT_THAT(kinds, ElementsAre(Load, Show, End));
     EXPECT_TRUE(platform.over());
     EXPECT_FALSE(after);
@@ -152,8 +152,8 @@ TEST_F(Windows, EndTheProcess)
 TEST_F(Windows, ReportARunTimeErrorWithItsSentence)
 {
     window.onClick = [] { throw Failure{u"It does not fit."}; };
-    window.Show();
-    window.view().press("cmdAny");
+    window.show();
+    window.controls().press("cmdAny");
     EXPECT_EQ(kinds.back(), Error);
     EXPECT_EQ(last, u"It does not fit.");
     EXPECT_TRUE(platform.over());
@@ -162,8 +162,8 @@ TEST_F(Windows, ReportARunTimeErrorWithItsSentence)
 TEST_F(Windows, ReportAMistakeOfTheProgramAndEnd)
 {
     window.onClick = [] { throw std::out_of_range("no such control"); };
-    window.Show();
-    window.view().press("cmdAny");
+    window.show();
+    window.controls().press("cmdAny");
     EXPECT_EQ(kinds.back(), Error);
     EXPECT_TRUE(holds(last, u"no such control"));
     EXPECT_TRUE(platform.over());
@@ -172,8 +172,8 @@ TEST_F(Windows, ReportAMistakeOfTheProgramAndEnd)
 TEST_F(Windows, ReportThatMemoryIsShort)
 {
     window.onClick = [] { throw std::bad_alloc(); };
-    window.Show();
-    window.view().press("cmdAny");
+    window.show();
+    window.controls().press("cmdAny");
     EXPECT_EQ(kinds.back(), Error);
     EXPECT_TRUE(platform.over());
 }
@@ -181,8 +181,8 @@ TEST_F(Windows, ReportThatMemoryIsShort)
 TEST_F(Windows, SpinWhereAReaderNeverReturns)
 {
     window.onClick = [] { throw EndlessRead{}; };
-    window.Show();
-    window.view().press("cmdAny");
+    window.show();
+    window.controls().press("cmdAny");
     EXPECT_EQ(kinds.back(), Spin);
     EXPECT_TRUE(platform.over());
 }
@@ -207,14 +207,14 @@ TEST_F(Windows, RunNothingOnceItIsOver)
 TEST_F(Windows, ALoadThatFailsShowsNothing)
 {
     window.onLoad = [] { throw Failure{u"It does not fit."}; };
-    platform.run([this] { window.Show(); });
+    platform.run([this] { window.show(); });
     EXPECT_THAT(kinds, ElementsAre(Load, Error));
     EXPECT_FALSE(window.visible());
 }
 
 TEST_F(Windows, PrintOnceACopy)
 {
-    window.Show();
+    window.show();
     kinds.clear();
     platform.printer = {RecordingPlatform::Printer::Answer::Accept, 2};
     window.print();

@@ -32,7 +32,7 @@ inline Text number(std::size_t value)
 
 class ProductTest : public testing::Test {
 protected:
-    ChartContent chart(const Text& capture, Type type = Sales, Period period = Year)
+    Chart chart(const Text& capture, Type type = Sales, Period period = Year)
     {
         if (!session.loaded("frmProduct"))
             session.start(screen().text());
@@ -43,7 +43,7 @@ protected:
         session.press("frmProduct", "cmdRefresh");
         return session.chart("frmProduct");
     }
-    ChartContent chart(const CaptureBuilder& capture, Type type = Sales, Period period = Year)
+    Chart chart(const CaptureBuilder& capture, Type type = Sales, Period period = Year)
     {
         return chart(capture.text(), type, period);
     }

@@ -60,15 +60,15 @@ TEST_F(ProductRows, EmptyLinesDoNotCount)
 {
     Text capture = newest(u"", u"1000", u"").text();
     capture.insert(capture.find(u"PRODUCT"), u"\r\n\r\n");
-    const ChartContent content = chart(capture);
+    const Chart content = chart(capture);
     EXPECT_EQ(content.titles.at(2), u"Product: 0020450001 DIESEL");
     EXPECT_EQ(content.series[0][12], 1000);
 }
 
 TEST_F(ProductRows, LinesMayEndInACarriageReturnAlone)
 {
-    const ChartContent with = chart(fullScreen().text(), Sales, TwoYears);
-    const ChartContent without = chart(fullScreen().text(u"\r"), Sales, TwoYears);
+    const Chart with = chart(fullScreen().text(), Sales, TwoYears);
+    const Chart without = chart(fullScreen().text(u"\r"), Sales, TwoYears);
     EXPECT_EQ(with.series, without.series);
     EXPECT_EQ(with.labels, without.labels);
     EXPECT_EQ(with.titles, without.titles);
@@ -85,7 +85,7 @@ TEST_F(ProductRows, ASecondDashLineFurtherDownMovesTheRows)
 {
     CaptureBuilder capture = newest(u"", u"1000", u"");
     capture.put(8, 1, u"-----").put(9, left, u"DEC99").put(9, 17, u"2000");
-    const ChartContent content = chart(capture);
+    const Chart content = chart(capture);
     EXPECT_EQ(content.series[0][12], 2000);
     EXPECT_EQ(content.labels[12], u"DEC99");
 }
@@ -97,7 +97,7 @@ TEST_F(ProductRows, WithoutADashLineRowsStartAtTheTop)
         capture.put(month <= 13 ? month : month - 12, month <= 13 ? left : right - 1,
                     (month <= 13 ? u"" : u"7") + fullRow(labelOf(month), month));
     capture.put(22, 1, u"QXM31H").put(22, 17, u"10");
-    const ChartContent content = chart(capture, Sales, TwoYears);
+    const Chart content = chart(capture, Sales, TwoYears);
     for (std::size_t month = 1; month <= 25; ++month)
         EXPECT_EQ(content.series[0][25 - month], 222000000 + 2 * month) << month;
     EXPECT_NEAR(content.series[1][24], 444000004, 1e-3);
@@ -115,7 +115,7 @@ CaptureBuilder dashedIn(std::size_t line)
 
 TEST_F(ProductRows, RowsBelowLine19AreEmpty)
 {
-    const ChartContent content = chart(dashedIn(10));
+    const Chart content = chart(dashedIn(10));
     EXPECT_THAT(content.series[0], ElementsAre(0, 0, 0, 0, 19, 18, 17, 16, 15, 14, 13, 12, 11, 0));
     EXPECT_THAT(content.labels, ElementsAre(u"", u"", u"", u"", u"NOV99", u"NOV99", u"NOV99", u"NOV99",
                                             u"NOV99", u"NOV99", u"NOV99", u"NOV99", u"NOV99", u""));

@@ -62,7 +62,7 @@ TEST_P(ProductSample, IsChartedMonthByMonth)
     session.start(test::sample("product"));
     session.choose("frmProduct", "optSales", index);
     session.choose("frmProduct", "opt12", period);
-    const ChartContent chart = session.chart("frmProduct");
+    const Chart chart = session.chart("frmProduct");
 
     EXPECT_EQ(chart.titles, (std::map<int, Text>{{1, Text(type.title)},
                                                  {2, u"Product: 0020450001 DIESEL FUEL NO. 2 LOW SULFUR"}}));

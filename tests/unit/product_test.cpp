@@ -25,7 +25,7 @@ TEST_F(ProductTest, FieldsAreReadFromEdgeToEdge)
 
 TEST_F(ProductTest, AYearIsTheLeftBlock)
 {
-    const ChartContent year = chart(fullScreen(), Sales, Year);
+    const Chart year = chart(fullScreen(), Sales, Year);
     EXPECT_THAT(year.labels, ElementsAre(u"NOV98", u"DEC98", u"JAN99", u"FEB99", u"MAR99", u"APR99", u"MAY99",
                                          u"JUN99", u"JUL99", u"AUG99", u"SEP99", u"OCT99", u"NOV99", u""));
     EXPECT_EQ(year.series[0].front(), 222000026);
@@ -35,7 +35,7 @@ TEST_F(ProductTest, AYearIsTheLeftBlock)
 
 TEST_F(ProductTest, HalfAYearIsSixMonths)
 {
-    const ChartContent half = chart(fullScreen(), Sales, HalfYear);
+    const Chart half = chart(fullScreen(), Sales, HalfYear);
     EXPECT_THAT(half.labels, ElementsAre(u"JUN99", u"JUL99", u"AUG99", u"SEP99", u"OCT99", u"NOV99", u""));
     EXPECT_THAT(half.series[0],
                 ElementsAre(222000012, 222000010, 222000008, 222000006, 222000004, 222000002, 0));
@@ -72,7 +72,7 @@ TEST_F(ProductTest, TypesHaveTheirTitleAndDecimals)
     const std::pair<TextSpan, int> expected[] = {
         {u"Sales", 0}, {u"Profit", 0}, {u"Volume", 0}, {u"Profit%", 2}, {u"Unit G/P", 2}};
     for (int type = Sales; type <= UnitProfit; ++type) {
-        const ChartContent content = chart(screen(), static_cast<Type>(type));
+        const Chart content = chart(screen(), static_cast<Type>(type));
         EXPECT_EQ(content.titles.at(1), expected[type].first);
         EXPECT_EQ(content.decimals, expected[type].second);
         EXPECT_EQ(content.titles.count(3), 0u);
@@ -121,8 +121,7 @@ TEST_F(ProductTest, AFieldIsItsLeadingNumber)
 
 TEST_F(ProductTest, AShortRowReadsAsFarAsItGoes)
 {
-    const ChartContent content =
-        chart(screen().put(7, left, u"OCT99       123").put(8, left, u"SEP"), Volume);
+    const Chart content = chart(screen().put(7, left, u"OCT99       123").put(8, left, u"SEP"), Volume);
     EXPECT_EQ(content.series[0][11], 123);
     EXPECT_EQ(content.labels[11], u"OCT99");
     EXPECT_EQ(content.series[0][10], 0);

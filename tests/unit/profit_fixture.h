@@ -80,7 +80,7 @@ struct RankedProfitScreen : ProfitScreen {
 };
 
 // A column of a grid from the top, headings apart.
-inline Texts cellsOf(const GridState& grid, std::size_t number)
+inline Texts cellsOf(const Grid& grid, std::size_t number)
 {
     Texts cells;
     for (const std::vector<Text>& row : grid.cells)

@@ -45,7 +45,7 @@ TEST_F(RankedProfit, ListsThePositiveProfits)
 {
     RankedProfitScreen screen;
     start(screen.add(1, u"1842.50").add(2, u"30").add(3, u"-4"));
-    const GridState grid = session.grid(profRank);
+    const Grid grid = session.grid(profRank);
     EXPECT_EQ(grid.format,
               u"Rank |Profit (current)|Customer|Customer Name" + Text(38, u' ') + u"|Product Group  ");
     EXPECT_EQ(grid.columns, 5);
@@ -220,7 +220,7 @@ TEST_F(RankedProfit, ChartsItsMonths)
                                    {2, u"Customer: 10002 - CUSTOMER 2" + Text(20, u' ')},
                                    {3, u"Product: GROUP 2   "}}));
     session.press(profRankA, "cmdBack");
-    const ChartContent parts = session.chart(profRankA, "ChartFX2");
+    const Chart parts = session.chart(profRankA, "ChartFX2");
     EXPECT_EQ(parts.titles, (std::map<int, Text>{{2, u"Volume/Margin components"}}));
     EXPECT_EQ(parts.legends, (std::map<int, Text>{{0, u"Volume"}, {1, u"Margin"}}));
     EXPECT_EQ(parts.colours, (std::map<int, Colour>{{0, {0, 255, 0}}, {1, {255, 0, 0}}}));

@@ -91,7 +91,7 @@ TEST_F(RankedFiles, TheScratchFileCannotBeWritten)
 
 TEST_F(RankedFiles, TheScratchFileIsMissing)
 {
-    session.platform.run([this] { session.app.window(m2m)->Show(); });
+    session.platform.run([this] { session.app.window(m2m)->show(); });
     const Events events = session.events();
     EXPECT_TRUE(
         events.back().starts_with("error The file pvuscrn.txt in the working directory cannot be opened"));

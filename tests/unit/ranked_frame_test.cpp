@@ -186,7 +186,7 @@ TEST_F(RankedFrame, AMissingRankIsAnEntryOfZeros)
 {
     MonthToMonthScreen screen;
     start(screen.add(1, u"30").add(3, u"10"));
-    const GridState grid = session.grid(m2m);
+    const Grid grid = session.grid(m2m);
     EXPECT_EQ(grid.cells, (std::vector<Texts>{
                               {u"1", u"30", u"10001", Text(u"CUSTOMER 1") + Text(20, u' '), u"GROUP 1   "},
                               {u"2", u"0", u"0", u"", u""}}));

@@ -17,7 +17,7 @@ struct Opened : Session {
         events();
         clickRow("frmRatio", "MSFlexGrid1", row);
     }
-    ChartContent drawn() { return chart(drillDown); }
+    Chart drawn() { return chart(drillDown); }
 };
 
 // One ratio with these lines, opened.
@@ -32,7 +32,7 @@ TEST(RatioChart, ShowsThirteenMonthsOfTheClickedRatio)
     EXPECT_EQ(session.events(), (Events{"load frmRatioA", "show frmRatioA"}));
     EXPECT_TRUE(session.visible("frmRatio"));
     EXPECT_EQ(session.caption(drillDown), u"PlotVue");
-    const ChartContent chart = session.drawn();
+    const Chart chart = session.drawn();
     const std::map<int, Text> titles{{2, u"Current Ratio"}};
     EXPECT_EQ(chart.titles, titles);
     EXPECT_EQ(chart.series, (std::vector<Numbers>{{13.25, 12, 11, 10, -9, 8, 7, 6, 5, 4, 3, 2, 1.5}}));
@@ -45,11 +45,9 @@ TEST(RatioChart, ShowsThirteenMonthsOfTheClickedRatio)
 TEST(RatioChart, HasItsButtonsAndNoDataTypes)
 {
     Opened session(twoRatios());
-    std::vector<std::string> names;
-    for (const auto& [name, control] : session.app.window(drillDown)->view().state().controls)
-        names.push_back(name);
-    EXPECT_EQ(names, (std::vector<std::string>{"ChartFX1", "cmdBack", "cmdExit", "cmdFormula", "cmdNext",
-                                               "cmdNote", "cmdPrint"}));
+    EXPECT_EQ(session.controlNames(drillDown),
+              (std::vector<std::string>{"ChartFX1", "cmdBack", "cmdExit", "cmdFormula", "cmdNext", "cmdNote",
+                                        "cmdPrint"}));
     EXPECT_EQ(session.text(drillDown, "cmdFormula"), u"Formula");
     EXPECT_EQ(session.text(drillDown, "cmdNote"), u"Ratio Notes");
     EXPECT_EQ(session.text(drillDown, "cmdNext"), u"Down");

@@ -45,7 +45,7 @@ public:
 
     void start(TextSpan capture);
     void choose(int type, int period);
-    ChartContent chart() { return session.chart(window); }
+    Chart chart() { return session.chart(window); }
     double newest(int type, int series = 0); // its slot with "12 Month"
     Text title(int position) { return chart().titles.at(position); }
 

@@ -61,7 +61,7 @@ std::vector<std::string> HistoryTester::refresh(TextSpan capture)
 
 void HistoryTester::expectRefusal(TextSpan capture)
 {
-    const ChartContent before = chart();
+    const Chart before = chart();
     EXPECT_THAT(refresh(capture), ElementsAre("hide " + std::string(window), "show startup"));
     EXPECT_EQ(chart().titles, before.titles);
     EXPECT_EQ(chart().series, before.series);
@@ -114,7 +114,7 @@ TEST_P(SalesHistoryTest, ChartsEveryMonthForEveryPeriodAndDataType)
                 projection[0] = values[0] / elapsed - values[0];
 
             tester.choose(type, period);
-            const ChartContent chart = tester.chart();
+            const Chart chart = tester.chart();
             EXPECT_EQ(chart.titles.at(1), captions[type]);
             EXPECT_EQ(chart.decimals, decimals[type]);
             EXPECT_EQ(chart.labels, slots(table.labels(months)));
@@ -171,7 +171,7 @@ TEST_P(SalesHistoryTest, StandsItsOptionsInOrder)
 {
     const auto fromTheTop = [&](Name group) {
         std::vector<std::pair<int, Text>> found;
-        for (const OptionState& option : tester.session.options(tester.window, group).options)
+        for (const OptionGroup::Option& option : tester.session.options(tester.window, group).options)
             found.emplace_back(option.index, option.caption);
         return found;
     };

@@ -17,8 +17,8 @@ struct Opened : Session {
         events();
         clickRow("frmVendInv", "MSFlexGrid1", row);
     }
-    ChartContent history() { return chart(drillDown, "ChartFX1"); }
-    ChartContent ages() { return chart(drillDown, "ChartFX2"); }
+    Chart history() { return chart(drillDown, "ChartFX1"); }
+    Chart ages() { return chart(drillDown, "ChartFX2"); }
 };
 
 TEST(VendorChart, ShowsTheSalesOfTheClickedPair)
@@ -27,7 +27,7 @@ TEST(VendorChart, ShowsTheSalesOfTheClickedPair)
     EXPECT_EQ(session.events(), (Events{"load frmVendInvA", "show frmVendInvA"}));
     EXPECT_TRUE(session.visible("frmVendInv"));
     EXPECT_EQ(session.caption(drillDown), u"PlotVue");
-    const ChartContent chart = session.history();
+    const Chart chart = session.history();
     const std::map<int, Text> titles{
         {1, u"Sales"}, {2, u"Vendor: " + padded30(u"CASCADE")}, {3, u"Category: " + padded30(u"MOTOR OIL")}};
     EXPECT_EQ(chart.titles, titles);
@@ -40,7 +40,7 @@ TEST(VendorChart, ShowsTheSalesOfTheClickedPair)
 TEST(VendorChart, ShowsTheAgeOfTheInventoryBesideIt)
 {
     Opened session(twoPairs());
-    const ChartContent chart = session.ages();
+    const Chart chart = session.ages();
     const std::map<int, Text> titles{{2, u"FIFO Age"}, {3, u"FIFO: $97,788"}};
     EXPECT_EQ(chart.titles, titles);
     EXPECT_EQ(chart.series, (std::vector<Numbers>{{60702, 8434, 9218, 3467, 15967}}));
@@ -51,11 +51,9 @@ TEST(VendorChart, ShowsTheAgeOfTheInventoryBesideIt)
 TEST(VendorChart, HasItsControls)
 {
     Opened session(twoPairs());
-    std::vector<std::string> names;
-    for (const auto& [name, control] : session.app.window(drillDown)->view().state().controls)
-        names.push_back(name);
-    EXPECT_EQ(names, (std::vector<std::string>{"ChartFX1", "ChartFX2", "cmdBack", "cmdExit", "cmdNext",
-                                               "cmdPrint", "optSales"}));
+    EXPECT_EQ(session.controlNames(drillDown),
+              (std::vector<std::string>{"ChartFX1", "ChartFX2", "cmdBack", "cmdExit", "cmdNext", "cmdPrint",
+                                        "optSales"}));
     EXPECT_EQ(session.text(drillDown, "cmdNext"), u"Down");
     EXPECT_EQ(session.text(drillDown, "cmdExit"), u"Close");
 }
@@ -63,10 +61,10 @@ TEST(VendorChart, HasItsControls)
 TEST(VendorChart, OffersItsDataTypesInTheOrderOfTheirIndex)
 {
     Opened session(twoPairs());
-    const OptionsState options = session.options(drillDown, "optSales");
+    const OptionGroup options = session.options(drillDown, "optSales");
     EXPECT_EQ(options.chosen, std::vector<int>{0});
     Texts captions;
-    for (const OptionState& option : options.options) {
+    for (const OptionGroup::Option& option : options.options) {
         EXPECT_EQ(option.index, static_cast<int>(captions.size()));
         captions.push_back(option.caption);
     }
@@ -86,7 +84,7 @@ TEST_P(VendorDataType, IsDrawnWhenItIsChosen)
     Opened session(twoPairs());
     session.choose(drillDown, "optSales", 4);
     session.choose(drillDown, "optSales", GetParam().index);
-    const ChartContent chart = session.history();
+    const Chart chart = session.history();
     EXPECT_EQ(chart.titles.at(1), GetParam().title);
     EXPECT_EQ(chart.titles.at(2), u"Vendor: " + padded30(u"CASCADE"));
     ASSERT_EQ(chart.series.size(), 1u);

@@ -22,16 +22,16 @@ inline Events opening(Name window)
 inline Texts controlsOf(Session& session, Name window)
 {
     Texts names;
-    for (const auto& [name, control] : session.app.window(window)->view().state().controls)
+    for (const std::string& name : session.controlNames(window))
         names.push_back(fromUtf8(name));
     return names;
 }
 
 // Of the options, as they stand on the window.
-inline Texts captions(const OptionsState& options)
+inline Texts captions(const OptionGroup& options)
 {
     Texts result;
-    for (const OptionState& option : options.options)
+    for (const OptionGroup::Option& option : options.options)
         result.push_back(option.caption);
     return result;
 }

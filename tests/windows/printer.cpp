@@ -2,7 +2,7 @@
 // answers with this printer and so many copies. All but the dialog is as in the program.
 #include "app/application.h"
 #include "platform/desktop/desktopplatform.h"
-#include "platform/desktop/desktopview.h"
+#include "platform/desktop/desktopwindow.h"
 
 #include <QApplication>
 #include <QPrinter>
@@ -31,13 +31,16 @@ class AnsweredDesktop : public DesktopPlatform {
 public:
     AnsweredPrinting printing;
 
-    double choosePrinter(View& view) override
+    double choosePrinter(Window& window) override
     {
-        return printing.choose(static_cast<DesktopView&>(view).window());
+        return printing.choose(static_cast<DesktopWindow&>(window).widget());
     }
 
 protected:
-    void printView(View& view) override { printing.print(static_cast<DesktopView&>(view).window()); }
+    void printWindow(Window& window) override
+    {
+        printing.print(static_cast<DesktopWindow&>(window).widget());
+    }
 };
 
 } // namespace
@@ -54,6 +57,6 @@ int main(int argc, char** argv)
     QApplication::processEvents();
     int jobs = 0;
     platform.listener = [&jobs](const Event& event) { jobs += event.kind == Event::Kind::Print; };
-    plotVue.window("frmProduct")->view().press("cmdPrint");
+    plotVue.window("frmProduct")->controls().press("cmdPrint");
     return jobs == platform.printing.copies ? EXIT_SUCCESS : EXIT_FAILURE;
 }

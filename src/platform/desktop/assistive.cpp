@@ -1,7 +1,7 @@
 #include "platform/desktop/assistive.h"
 
 #include "platform/desktop/smallwidgets.h"
-#include "platform/desktop/window.h"
+#include "platform/desktop/windowwidget.h"
 
 #include <QAccessibleWidget>
 
@@ -11,7 +11,7 @@ namespace {
 
 QAccessibleInterface* makeAccessible(const QString&, QObject* object)
 {
-    if (auto* window = qobject_cast<Window*>(object))
+    if (auto* window = qobject_cast<WindowWidget*>(object))
         return new QAccessibleWidget(window, QAccessible::Window);
     if (auto* picture = qobject_cast<GainLossPicture*>(object))
         return new QAccessibleWidget(picture, QAccessible::Graphic);

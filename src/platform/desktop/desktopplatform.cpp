@@ -2,11 +2,10 @@
 
 #include "platform/desktop/assistive.h"
 #include "platform/desktop/clipboard.h"
-#include "platform/desktop/desktopview.h"
+#include "platform/desktop/desktopwindow.h"
 #include "platform/desktop/fontsahead.h"
 #include "platform/desktop/process.h"
 #include "platform/desktop/shown.h"
-#include "platform/desktop/window.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>
@@ -52,7 +51,7 @@ QWidget* windowInFront()
         return active;
     const QWidgetList all = QApplication::topLevelWidgets();
     for (QWidget* window : all)
-        if (window->isVisible() && qobject_cast<Window*>(window))
+        if (window->isVisible() && qobject_cast<WindowWidget*>(window))
             return window;
     return nullptr;
 }
@@ -118,42 +117,41 @@ Text DesktopPlatform::clipboardText()
     if (readInThisEvent_)
         return *readInThisEvent_;
     if (clipboardNeedsFocus()) {
-        stage_.settle();
+        presenter_.settle();
         waitForFocus();
     }
     readInThisEvent_ = readClipboard();
     QMetaObject::invokeMethod(
-        &stage_, [this] { readInThisEvent_.reset(); }, Qt::QueuedConnection);
+        &presenter_, [this] { readInThisEvent_.reset(); }, Qt::QueuedConnection);
     return *readInThisEvent_;
 }
 
-std::unique_ptr<View> DesktopPlatform::build(const Declaration& declaration, const Handlers& handlers,
-                                             std::function<void()> close)
+std::unique_ptr<Window> DesktopPlatform::build(std::shared_ptr<Controls> controls)
 {
-    return std::make_unique<DesktopView>(stage_, declaration, handlers, std::move(close));
+    return std::make_unique<DesktopWindow>(presenter_, std::move(controls));
 }
 
-double DesktopPlatform::choosePrinter(View& view)
+double DesktopPlatform::choosePrinter(Window& window)
 {
-    stage_.settle();
-    return printing_.choose(static_cast<DesktopView&>(view).window());
+    presenter_.settle();
+    return printing_.choose(static_cast<DesktopWindow&>(window).widget());
 }
 
-void DesktopPlatform::printView(View& view)
+void DesktopPlatform::printWindow(Window& window)
 {
-    printing_.print(static_cast<DesktopView&>(view).window());
+    printing_.print(static_cast<DesktopWindow&>(window).widget());
 }
 
 void DesktopPlatform::showMessage(TextSpan title, TextSpan text)
 {
-    stage_.settle();
+    presenter_.settle();
     showBox(QMessageBox::NoIcon, title, text, QMessageBox::tr("OK"));
 }
 
 void DesktopPlatform::reportError(TextSpan sentence)
 {
     sayToTerminal(sentence);
-    stage_.settle();
+    presenter_.settle();
     showBox(QMessageBox::Critical, {}, sentence, QMessageBox::tr("OK"));
     endProcess(EXIT_FAILURE);
 }
@@ -161,7 +159,7 @@ void DesktopPlatform::reportError(TextSpan sentence)
 void DesktopPlatform::spin(int lines)
 {
     sayToTerminal(u"the copied screen has fewer than 20 lines; PlotVue waits for the rest.");
-    stage_.settle();
+    presenter_.settle();
     // As a desktop tells of a program that does not answer: the windows under the box stay painted, and
     // nothing that a person does to them is heard any more.
     const QString text =

@@ -2,8 +2,8 @@
 // for one, overrides the questions and the endings.
 #pragma once
 
+#include "platform/desktop/presenter.h"
 #include "platform/desktop/printing.h"
-#include "platform/desktop/stage.h"
 #include "platform/platform.h"
 
 #include <memory>
@@ -23,16 +23,15 @@ public:
     ~DesktopPlatform() override;
 
     Text clipboardText() override;
-    std::unique_ptr<View> build(const Declaration& declaration, const Handlers& handlers,
-                                std::function<void()> close) override;
-    double choosePrinter(View& view) override;
+    std::unique_ptr<Window> build(std::shared_ptr<Controls> controls) override;
+    double choosePrinter(Window& window) override;
 
     // Shows and hides the windows as wanted, now rather than when control is back with the event loop.
-    void settle() { stage_.settle(); }
+    void settle() { presenter_.settle(); }
 
 protected:
     void showMessage(TextSpan title, TextSpan text) override;
-    void printView(View& view) override;
+    void printWindow(Window& window) override;
     void reportError(TextSpan sentence) override;
     void spin(int lines) override;
     void finish() override;
@@ -40,7 +39,7 @@ protected:
 private:
     // Startup asks for the clipboard, and so does the window that it shows: its owner is asked once an event.
     std::optional<Text> readInThisEvent_;
-    Stage stage_;
+    Presenter presenter_;
     Printing printing_;
 };
 

@@ -1,25 +1,18 @@
 // A grid of text: headings from a format string, rows that can be chosen.
 #pragma once
 
-#include "platform/view.h"
+#include "platform/controls.h"
 
 #include <QAbstractTableModel>
 #include <QTableView>
 
 namespace plotvue {
 
-class GridModel : public QAbstractTableModel, public GridControl {
+class GridModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    explicit GridModel(const GridBox& declared, QObject* parent = nullptr);
-
-    void setRows(int rows) override;
-    void setFormat(TextSpan format) override;
-    void setCell(int row, int column, TextSpan text) override;
-    Text cell(int row, int column) const override;
-
-    GridState state() const;
+    GridModel(const GridBox& declared, Shown<Grid>& grid, QObject* parent);
 
     // A heading with its padding blanks, which say how wide the column is meant to be.
     QString heading(int column) const;
@@ -31,19 +24,15 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    Text format_;
+    const Shown<Grid>& grid_;
     std::vector<int> figures_;
-    int rows_ = 0, columns_ = 0;
-    std::vector<std::vector<Text>> cells_; // the rows under the heading row
 };
 
 class GridTable : public QTableView {
     Q_OBJECT
 
 public:
-    explicit GridTable(const GridBox& declared, QWidget* parent = nullptr);
-
-    GridModel& gridModel() const { return *model_; }
+    GridTable(const GridBox& declared, Shown<Grid>& grid, QWidget* parent);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -5,53 +5,20 @@
 
 namespace plotvue {
 
-GridModel::GridModel(const GridBox& declared, QObject* parent)
+GridModel::GridModel(const GridBox& declared, Shown<Grid>& grid, QObject* parent)
     : QAbstractTableModel(parent),
+      grid_(grid),
       figures_(declared.figures)
 {
-    setFormat(declared.format);
-    setRows(1);
-}
-
-void GridModel::setRows(int rows)
-{
-    beginResetModel();
-    rows_ = rows;
-    cells_.resize(static_cast<std::size_t>(std::max(rows - 1, 0)),
-                  std::vector<Text>(static_cast<std::size_t>(columns_)));
-    endResetModel();
-}
-
-void GridModel::setFormat(TextSpan format)
-{
-    beginResetModel();
-    format_ = format;
-    columns_ = columnsOf(format);
-    for (std::vector<Text>& row : cells_)
-        row.resize(static_cast<std::size_t>(columns_));
-    endResetModel();
-}
-
-void GridModel::setCell(int row, int column, TextSpan text)
-{
-    cells_.at(static_cast<std::size_t>(row) - 1).at(static_cast<std::size_t>(column)) = text;
-    const QModelIndex changed = index(row - 1, column);
-    emit dataChanged(changed, changed);
-}
-
-Text GridModel::cell(int row, int column) const
-{
-    return cells_.at(static_cast<std::size_t>(row) - 1).at(static_cast<std::size_t>(column));
-}
-
-GridState GridModel::state() const
-{
-    return {format_, columns_, rows_, cells_};
+    grid.changed = [this] {
+        beginResetModel();
+        endResetModel();
+    };
 }
 
 QString GridModel::heading(int column) const
 {
-    const QString heading = shownOnOneLine(format_).section(u'|', column, column);
+    const QString heading = shownOnOneLine(grid_->format).section(u'|', column, column);
     return heading.startsWith(u'<') || heading.startsWith(u'>') ? heading.mid(1) : heading;
 }
 
@@ -62,19 +29,19 @@ bool GridModel::holdsFigures(int column) const
 
 int GridModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(cells_.size());
+    return parent.isValid() ? 0 : grid_->rows - 1;
 }
 
 int GridModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : columns_;
+    return parent.isValid() ? 0 : grid_->columns;
 }
 
 QVariant GridModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid())
         return {};
-    const auto text = [&] { return shownOnOneLine(cell(index.row() + 1, index.column())).trimmed(); };
+    const auto text = [&] { return shownOnOneLine(grid_->cell(index.row() + 1, index.column())).trimmed(); };
     switch (role) {
     case Qt::DisplayRole:
         return text();

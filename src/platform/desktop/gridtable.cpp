@@ -44,9 +44,9 @@ public:
 
 } // namespace
 
-GridTable::GridTable(const GridBox& declared, QWidget* parent)
+GridTable::GridTable(const GridBox& declared, Shown<Grid>& grid, QWidget* parent)
     : QTableView(parent),
-      model_(new GridModel(declared, this))
+      model_(new GridModel(declared, grid, this))
 {
     setModel(model_);
     setAccessibleName(toQString(declared.spokenName));

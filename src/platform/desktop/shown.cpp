@@ -1,19 +1,6 @@
 #include "platform/desktop/shown.h"
 
-#include <QVariant>
-
 namespace plotvue {
-
-namespace {
-
-constexpr const char* keptAs = "plotvueText";
-
-} // namespace
-
-Text toText(const QString& text)
-{
-    return Text(reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size()));
-}
 
 QString shown(TextSpan text)
 {
@@ -33,16 +20,6 @@ QString shownOnOneLine(TextSpan text)
 QString withoutMnemonic(QString text)
 {
     return text.replace(u'&', QLatin1String("&&"));
-}
-
-void keepText(QObject& widget, TextSpan text)
-{
-    widget.setProperty(keptAs, toQString(text));
-}
-
-Text keptText(const QObject& widget)
-{
-    return toText(widget.property(keptAs).toString());
 }
 
 } // namespace plotvue

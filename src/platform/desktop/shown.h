@@ -1,15 +1,9 @@
-// Text on its way to a widget and back. What a capture says is kept as it stands; control characters are left
-// out only where it is drawn.
+// Text as a widget shows it: without control characters, which only drawing leaves out.
 #pragma once
 
-#include "platform/desktop/chart/chartfonts.h"
-
-#include <QObject>
-#include <QString>
+#include "platform/desktop/chart/qtext.h"
 
 namespace plotvue {
-
-Text toText(const QString& text);
 
 // `text` without control characters. Line ends of any kind (CR LF, CR, LF) break the line; none stays at the
 // end.
@@ -18,9 +12,5 @@ QString shown(TextSpan text);
 QString shownOnOneLine(TextSpan text);
 // "&" as itself where a widget would take it for a mnemonic.
 QString withoutMnemonic(QString text);
-
-// The whole text of a widget, beside what it draws of it.
-void keepText(QObject& widget, TextSpan text);
-Text keptText(const QObject& widget);
 
 } // namespace plotvue

@@ -8,7 +8,7 @@
 
 namespace plotvue {
 
-TextLine::TextLine(const TextBox& declared, QWidget* parent) : QLineEdit(parent)
+TextLine::TextLine(const TextBox& declared, Shown<Text>& text, QWidget* parent) : QLineEdit(parent)
 {
     setReadOnly(true);
     setFrame(false);
@@ -16,13 +16,11 @@ TextLine::TextLine(const TextBox& declared, QWidget* parent) : QLineEdit(parent)
     QPalette flat;
     flat.setColor(QPalette::Base, Qt::transparent);
     setPalette(flat);
-}
-
-void TextLine::show(TextSpan text)
-{
-    keepText(*this, text);
-    setText(shownOnOneLine(text));
-    setCursorPosition(0);
+    text.changed = [this, &text] {
+        setText(shownOnOneLine(*text));
+        setCursorPosition(0);
+    };
+    text.changed();
 }
 
 void TextList::keyPressEvent(QKeyEvent* event)
@@ -31,6 +29,13 @@ void TextList::keyPressEvent(QKeyEvent* event)
         event->ignore();
     else
         QListWidget::keyPressEvent(event);
+}
+
+void OptionButton::showChecked(bool checked)
+{
+    clicking_ = true;
+    setChecked(checked);
+    clicking_ = false;
 }
 
 void OptionButton::nextCheckState()

@@ -1,7 +1,7 @@
 // The small widgets that the toolkit lacks.
 #pragma once
 
-#include "platform/declaration.h"
+#include "platform/controls.h"
 
 #include <QLineEdit>
 #include <QListWidget>
@@ -15,8 +15,7 @@ class TextLine : public QLineEdit {
     Q_OBJECT
 
 public:
-    explicit TextLine(const TextBox& declared, QWidget* parent = nullptr);
-    void show(TextSpan text);
+    TextLine(const TextBox& declared, Shown<Text>& text, QWidget* parent);
 };
 
 // A list to be read: its rows cannot be copied over the screen that the clipboard holds.
@@ -36,6 +35,7 @@ class OptionButton : public QRadioButton {
 
 public:
     using QRadioButton::QRadioButton;
+    void showChecked(bool checked); // which is no click
 
 protected:
     void nextCheckState() override;

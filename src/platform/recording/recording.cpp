@@ -1,23 +1,29 @@
 #include "platform/recording/recording.h"
 
-#include "platform/recording/recordingview.h"
-
 namespace plotvue {
 
-std::unique_ptr<View> RecordingPlatform::build(const Declaration& declaration, const Handlers& handlers,
-                                               std::function<void()> close)
+namespace {
+
+struct Unseen : Window {
+    void show() override {}
+    void hide() override {}
+};
+
+} // namespace
+
+std::unique_ptr<Window> RecordingPlatform::build(std::shared_ptr<Controls>)
 {
-    return std::make_unique<RecordingView>(declaration, handlers, std::move(close));
+    return std::make_unique<Unseen>();
 }
 
-double RecordingPlatform::choosePrinter(View&)
+double RecordingPlatform::choosePrinter(Window&)
 {
     if (printer.answer == Printer::Answer::Cancel)
         throw Failure{u"The printer dialog was cancelled."};
     return printer.answer == Printer::Answer::Fail ? 1 : printer.copies;
 }
 
-void RecordingPlatform::printView(View&)
+void RecordingPlatform::printWindow(Window&)
 {
     if (printer.answer == Printer::Answer::Fail)
         throw Failure{u"The printer does not answer."};

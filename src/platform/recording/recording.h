@@ -1,4 +1,5 @@
-// The platform in memory: it keeps what the windows show and answers as it was told to.
+// The platform in memory: the controls are all there is of a window, and every question is answered as it was
+// told to.
 #pragma once
 
 #include "platform/platform.h"
@@ -11,21 +12,24 @@ public:
 
     // How the printer dialog is answered; cancelled at the start.
     struct Printer {
-        enum class Answer { Cancel, Accept, Fail } answer = Answer::Cancel;
-        double copies = 1;
+        enum class Answer {
+            Cancel,
+            Accept,
+            Fail
+        } answer = Answer::Cancel; // Fail: one copy, which cannot be printed
+        double copies = 1;         // accepted
     } printer;
 
     Text clipboardText() override { return clipboard; }
-    std::unique_ptr<View> build(const Declaration& declaration, const Handlers& handlers,
-                                std::function<void()> close) override;
-    double choosePrinter(View& view) override;
+    std::unique_ptr<Window> build(std::shared_ptr<Controls> controls) override;
+    double choosePrinter(Window& window) override;
 
 protected:
     void showMessage(TextSpan, TextSpan) override {} // acknowledged at once
-    void printView(View& view) override;
     void reportError(TextSpan) override {}
     void spin(int) override {}
     void finish() override {}
+    void printWindow(Window& window) override;
 };
 
 } // namespace plotvue

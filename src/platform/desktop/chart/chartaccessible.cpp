@@ -1,6 +1,7 @@
 #include "platform/desktop/chart/chartaccessible.h"
 
 #include "platform/desktop/chart/chartwidget.h"
+#include "platform/desktop/chart/qtext.h"
 
 #include <QAccessibleWidget>
 #include <QPointer>
@@ -29,7 +30,7 @@ public:
     {
         if (kind != QAccessible::Name || !isValid())
             return {};
-        return toQString(chart::Figures(chart_->content(), chart_->design()).sentence(point_));
+        return toQString(chart_->figures().sentence(point_));
     }
 
     QRect rect() const override
@@ -99,7 +100,7 @@ public:
     QString text(QAccessible::Text kind) const override
     {
         const Text titles =
-            chart() && kind == QAccessible::Name ? chart::titlesInOneLine(chart()->content()) : Text();
+            chart() && kind == QAccessible::Name ? chart::titlesInOneLine(chart()->chart()) : Text();
         return titles.empty() ? QAccessibleWidget::text(kind) : toQString(titles);
     }
 

@@ -1,5 +1,7 @@
 #include "platform/desktop/chart/chartfonts.h"
 
+#include "platform/desktop/chart/qtext.h"
+
 #include <QPaintDevice>
 
 namespace plotvue {
@@ -52,11 +54,6 @@ std::array<QFontMetricsF, chart::textRoles> metricsFor(const std::array<QFont, c
 }
 
 } // namespace
-
-QString toQString(TextSpan text)
-{
-    return QString(reinterpret_cast<const QChar*>(text.data()), static_cast<qsizetype>(text.size()));
-}
 
 ChartFonts::ChartFonts(const QFont& base, int baseDpi, const QPaintDevice& device)
     : fonts_(fontsFor(base, baseDpi, unitsPerPoint(base, baseDpi, device))),

@@ -5,13 +5,10 @@
 
 #include <QFont>
 #include <QFontMetricsF>
-#include <QString>
 
 #include <array>
 
 namespace plotvue {
-
-QString toQString(TextSpan text);
 
 class ChartFonts : public chart::Metrics {
 public:

@@ -1,6 +1,7 @@
 #include "platform/desktop/chart/chartpainter.h"
 
 #include "platform/desktop/chart/barpainter.h"
+#include "platform/desktop/chart/qtext.h"
 
 #include <QPainter>
 
@@ -132,10 +133,9 @@ QRectF toQRectF(const chart::Box& box)
     return {box.left, box.top, box.width, box.height};
 }
 
-void paintChart(QPainter& painter, const ChartContent& content, const ChartDesign& design,
-                const chart::Layout& layout, const QPalette& palette, const ChartFonts& fonts, int current)
+void paintChart(QPainter& painter, const chart::Figures& figures, const chart::Layout& layout,
+                const QPalette& palette, const ChartFonts& fonts, int current)
 {
-    const chart::Figures figures(content, design);
     const ChartInks inks(palette);
     painter.fillRect(QRectF(0, 0, layout.paper.width, layout.paper.height), inks.paper);
     if (current >= 0)

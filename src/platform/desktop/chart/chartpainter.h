@@ -13,16 +13,15 @@ namespace plotvue {
 
 QRectF toQRectF(const chart::Box& box);
 
-// How a line of text stands in its box.
+// How a line of text is aligned in its box.
 inline constexpr int oneLine = Qt::TextSingleLine | Qt::TextDontClip | Qt::AlignVCenter;
 
-// `layout` is that of `content` and `design`; `current` the point that is marked, -1: none. Covers the whole
-// paper.
-void paintChart(QPainter& painter, const ChartContent& content, const ChartDesign& design,
-                const chart::Layout& layout, const QPalette& palette, const ChartFonts& fonts, int current);
+// `layout` is that of `figures`; `current` the point that is marked, -1: none. Covers the whole paper.
+void paintChart(QPainter& painter, const chart::Figures& figures, const chart::Layout& layout,
+                const QPalette& palette, const ChartFonts& fonts, int current);
 
 // The card that reads a point out, beside its slot.
-void paintReadout(QPainter& painter, const ChartContent& content, const ChartDesign& design,
-                  const chart::Layout& layout, const QPalette& palette, const ChartFonts& fonts, int current);
+void paintReadout(QPainter& painter, const chart::Figures& figures, const chart::Layout& layout,
+                  const QPalette& palette, const ChartFonts& fonts, int current);
 
 } // namespace plotvue

@@ -18,12 +18,13 @@ ChartWidget::ChartWidget(QWidget* parent) : QWidget(parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     offerChartsToAssistiveTechnology();
+    figures_.emplace(chart_);
 }
 
-void ChartWidget::setContent(const ChartContent& content, const ChartDesign& design)
+void ChartWidget::setChart(const Chart& chart)
 {
-    content_ = content;
-    design_ = design;
+    chart_ = chart;
+    figures_.emplace(chart_);
     layout_.reset();
     if (current_ >= points())
         setCurrentPoint(-1);
@@ -52,15 +53,9 @@ const chart::Layout& ChartWidget::chartLayout() const
     if (!layout_ || layoutSize_ != size() || layoutScale_ != devicePixelRatioF()) {
         layoutSize_ = size();
         layoutScale_ = devicePixelRatioF();
-        layout_ =
-            chart::layoutChart(content_, design_, {double(width()), double(height())}, fonts(), layoutScale_);
+        layout_ = chart::layoutChart(*figures_, {double(width()), double(height())}, fonts(), layoutScale_);
     }
     return *layout_;
-}
-
-int ChartWidget::points() const
-{
-    return chart::Figures(content_, design_).pointCount();
 }
 
 void ChartWidget::setCurrentPoint(int point)
@@ -87,18 +82,18 @@ void ChartWidget::paint(QPainter& painter) const
 {
     const ChartFonts paperFonts(font(), logicalDpiY(), *painter.device());
     const chart::Layout layout =
-        chart::layoutChart(content_, design_, {double(width()), double(height())}, paperFonts, 0);
+        chart::layoutChart(*figures_, {double(width()), double(height())}, paperFonts, 0);
     painter.save();
-    paintChart(painter, content_, design_, layout, whitePaper(), paperFonts, -1);
+    paintChart(painter, *figures_, layout, whitePaper(), paperFonts, -1);
     painter.restore();
 }
 
 void ChartWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    paintChart(painter, content_, design_, chartLayout(), palette(), fonts(), current_);
+    paintChart(painter, *figures_, chartLayout(), palette(), fonts(), current_);
     if (current_ >= 0)
-        paintReadout(painter, content_, design_, chartLayout(), palette(), fonts(), current_);
+        paintReadout(painter, *figures_, chartLayout(), palette(), fonts(), current_);
     if (hasFocus() && byKey_) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setBrush(Qt::NoBrush);

@@ -15,15 +15,15 @@ class ChartWidget : public QWidget {
 public:
     explicit ChartWidget(QWidget* parent = nullptr);
 
-    void setContent(const ChartContent& content, const ChartDesign& design);
-    const ChartContent& content() const { return content_; }
-    const ChartDesign& design() const { return design_; }
+    void setChart(const Chart& chart);
+    const Chart& chart() const { return chart_; }
+    const chart::Figures& figures() const { return *figures_; }
 
-    int points() const;                           // an empty slot at the end is none
-    int currentPoint() const { return current_; } // -1: none
-    void setCurrentPoint(int point);              // -1, and what is no point, for none
-    int pointAt(QPoint position) const;           // -1: none
-    QRect pointRect(int point) const;             // its whole slot, in widget coordinates
+    int points() const { return figures_->pointCount(); } // an empty slot at the end is none
+    int currentPoint() const { return current_; }         // -1: none
+    void setCurrentPoint(int point);                      // -1, and what is no point, for none
+    int pointAt(QPoint position) const;                   // -1: none
+    QRect pointRect(int point) const;                     // its whole slot, in widget coordinates
 
     const chart::Layout& chartLayout() const; // where everything is at the widget's size
 
@@ -48,14 +48,14 @@ private:
     const ChartFonts& fonts() const;
     std::optional<int> pointForKey(const QKeyEvent& event) const;
 
-    ChartContent content_;
-    ChartDesign design_;
+    Chart chart_;
+    std::optional<chart::Figures> figures_; // of the chart
     int current_ = -1;
     bool hovering_ = false;
     bool byKey_ = false; // the focus came or was used by key: it is shown
     bool announcing_ = false;
 
-    // Kept until size, contents, font or device change.
+    // Kept until size, chart, font or device change.
     mutable std::optional<ChartFonts> fonts_;
     mutable std::optional<chart::Layout> layout_;
     mutable QSize layoutSize_;

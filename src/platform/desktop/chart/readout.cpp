@@ -1,6 +1,7 @@
 #include "chart/drawable.h"
 #include "platform/desktop/chart/barpainter.h"
 #include "platform/desktop/chart/chartpainter.h"
+#include "platform/desktop/chart/qtext.h"
 
 #include <QPainter>
 
@@ -141,10 +142,9 @@ void Card::paint(QPainter& painter, const ChartInks& inks) const
 
 } // namespace
 
-void paintReadout(QPainter& painter, const ChartContent& content, const ChartDesign& design,
-                  const chart::Layout& layout, const QPalette& palette, const ChartFonts& fonts, int current)
+void paintReadout(QPainter& painter, const chart::Figures& figures, const chart::Layout& layout,
+                  const QPalette& palette, const ChartFonts& fonts, int current)
 {
-    const chart::Figures figures(content, design);
     const Card card(figures, layout, fonts, current);
     if (!card.isEmpty())
         card.paint(painter, ChartInks(palette));

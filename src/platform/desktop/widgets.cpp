@@ -1,9 +1,10 @@
-#include "platform/desktop/windowbuilder.h"
+#include "platform/desktop/widgets.h"
 
+#include "platform/desktop/chart/chartwidget.h"
 #include "platform/desktop/grid.h"
+#include "platform/desktop/optionbuttons.h"
 #include "platform/desktop/shown.h"
 #include "platform/desktop/smallwidgets.h"
-#include "platform/desktop/window.h"
 
 #include <QBoxLayout>
 #include <QFontInfo>
@@ -24,7 +25,7 @@ constexpr double declaredPoints = 10; // of the letters for which windows are de
 
 class Builder {
 public:
-    Builder(Controls& controls, Window& window) : controls_(controls), window_(window) {}
+    explicit Builder(WindowWidget& window) : controls_(window.controls()), window_(window) {}
 
     QBoxLayout* arrange(const Box& box);
 
@@ -41,7 +42,8 @@ private:
     QWidget* make(const PictureBox& declared) { return new GainLossPicture(declared, &window_); }
 
     Controls& controls_;
-    Window& window_;
+    WindowWidget& window_;
+    std::map<Name, OptionButtons*> options_;
 };
 
 bool isSideColumn(const Item& item)
@@ -76,8 +78,11 @@ void Builder::place(const Item& item, QBoxLayout& layout)
     } else {
         std::visit(
             [&](const auto& control) {
-                if constexpr (requires { make(control); })
-                    layout.addWidget(make(control), item.stretch);
+                if constexpr (requires { make(control); }) {
+                    QWidget* widget = make(control);
+                    widget->setObjectName(QLatin1String(control.name.data(), qsizetype(control.name.size())));
+                    layout.addWidget(widget, item.stretch);
+                }
             },
             item.what);
     }
@@ -118,8 +123,7 @@ QWidget* Builder::make(const Button& declared)
         QObject::connect(shortcut, &QShortcut::activated, button, [button] { button->click(); });
     }
     QObject::connect(button, &QPushButton::clicked, &window_,
-                     [window = &window_, name = declared.name] { window->run(name, 0); });
-    controls_.buttons[declared.name] = button;
+                     [&controls = controls_, name = declared.name] { controls.press(name); });
     return button;
 }
 
@@ -142,15 +146,15 @@ QWidget* Builder::make(const Label& declared)
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(declared.font.points < headlinePoints);
     setFont(*label, declared.font);
-    keepText(*label, declared.text);
-    label->setText(shown(declared.text));
-    controls_.labels[declared.name] = label;
+    Shown<Text>& text = controls_.text(declared.name);
+    text.changed = [label, &text] { label->setText(shown(*text)); };
+    text.changed();
     return label;
 }
 
 QWidget* Builder::make(const TextBox& declared)
 {
-    return controls_.texts[declared.name] = new TextLine(declared, &window_);
+    return new TextLine(declared, controls_.text(declared.name), &window_);
 }
 
 QWidget* Builder::make(const ListBox& declared)
@@ -167,57 +171,54 @@ QWidget* Builder::make(const ListBox& declared)
     }
     list->setMinimumWidth(list->sizeHintForColumn(0) + 2 * list->frameWidth() +
                           list->verticalScrollBar()->sizeHint().width());
-    controls_.lists[declared.name] = list;
     return list;
 }
 
 QWidget* Builder::make(const OptionFrame& declared)
 {
-    return controls_.options[declared.group].addFrame(declared, window_);
+    OptionButtons*& group = options_[declared.group];
+    if (!group)
+        group = new OptionButtons(controls_, declared.group, &window_);
+    return group->addFrame(declared, &window_);
 }
 
 QWidget* Builder::make(const ChartBox& declared)
 {
-    auto* chart = new ChartWidget(&window_);
-    controls_.charts.try_emplace(declared.name, *chart, declared);
-    return chart;
+    auto* widget = new ChartWidget(&window_);
+    Shown<Chart>& chart = controls_.chart(declared.name);
+    chart.changed = [widget, &chart] { widget->setChart(*chart); };
+    chart.changed();
+    return widget;
 }
 
 QWidget* Builder::make(const GridBox& declared)
 {
-    auto* grid = new GridTable(declared, &window_);
-    QObject::connect(grid, &GridTable::rowChosen, &window_,
-                     [window = &window_, name = declared.name](int row) { window->run(name, row); });
-    controls_.grids[declared.name] = grid;
+    auto* grid = new GridTable(declared, controls_.grid(declared.name), &window_);
+    QObject::connect(
+        grid, &GridTable::rowChosen, &window_,
+        [&controls = controls_, name = declared.name](int row) { controls.clickRow(name, row); });
     return grid;
 }
 
 // What a person works with first: the chart or the grid, or else a button.
-QWidget* firstInUse(const Controls& controls, const Window& window)
+QWidget* firstInUse(const WindowWidget& window)
 {
     if (auto* chart = window.findChild<ChartWidget*>())
         return chart;
-    if (!controls.grids.empty())
-        return controls.grids.begin()->second;
+    if (auto* grid = window.findChild<GridTable*>())
+        return grid;
     return window.findChild<QPushButton*>();
 }
 
 } // namespace
 
-DesktopChart::DesktopChart(ChartWidget& widget, const ChartBox& declared)
-    : widget_(widget),
-      design_(declared.design)
+void buildWidgets(WindowWidget& window)
 {
-    for (const auto& [position, title] : declared.titles)
-        SetTitle(position, title);
-    contentChanged();
-}
-
-Controls buildControls(const Declaration& declaration, Window& window)
-{
-    Controls controls;
-    window.setWindowTitle(toQString(declaration.caption));
-    QBoxLayout* layout = Builder(controls, window).arrange(declaration.content);
+    Shown<Text>& caption = window.controls().caption;
+    caption.changed = [&window, &caption] { window.setWindowTitle(toQString(*caption)); };
+    caption.changed();
+    const Declaration& declaration = window.controls().declaration;
+    QBoxLayout* layout = Builder(window).arrange(declaration.content);
     layout->setContentsMargins(margin, margin, margin, margin);
     window.setLayout(layout);
     // The layout by itself has a sentence shrink to less than its lines.
@@ -227,9 +228,8 @@ Controls buildControls(const Declaration& declaration, Window& window)
     window.resize((QSizeF(declaration.width, declaration.height) * larger)
                       .toSize()
                       .boundedTo(window.screen()->availableSize()));
-    if (QWidget* first = firstInUse(controls, window))
+    if (QWidget* first = firstInUse(window))
         first->setFocus();
-    return controls;
 }
 
 } // namespace plotvue

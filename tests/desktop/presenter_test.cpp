@@ -18,12 +18,12 @@ namespace plotvue {
 
 namespace {
 
-class DesktopStageTest : public test::DesktopTest {
+class PresenterTest : public test::DesktopTest {
 protected:
     static bool realised(const Form& form)
     {
-        const auto& view = static_cast<const DesktopView&>(form.view());
-        return view.isBuilt() && view.window().internalWinId() != 0;
+        auto& window = static_cast<DesktopWindow&>(form.window());
+        return window.hasWidget() && window.widget().internalWinId() != 0;
     }
 
     static Text productScreen()
@@ -45,7 +45,7 @@ protected:
     Application app{platform};
 };
 
-TEST_F(DesktopStageTest, StartWithACaptureNeverMakesTheStartUpWindow)
+TEST_F(PresenterTest, StartWithACaptureNeverMakesTheStartUpWindow)
 {
     copy(productScreen());
     app.start();
@@ -54,37 +54,36 @@ TEST_F(DesktopStageTest, StartWithACaptureNeverMakesTheStartUpWindow)
     EXPECT_FALSE(realised(product)) << "before the handlers are done";
     platform.settle();
     EXPECT_TRUE(realised(product));
-    EXPECT_TRUE(static_cast<const DesktopView&>(product.view()).window().isVisible());
-    EXPECT_FALSE(static_cast<const DesktopView&>(app.window("startup")->view()).isBuilt());
+    EXPECT_TRUE(static_cast<DesktopWindow&>(product.window()).widget().isVisible());
+    EXPECT_FALSE(static_cast<DesktopWindow&>(app.window("startup")->window()).hasWidget());
 }
 
-TEST_F(DesktopStageTest, StartUpWindowStandsBehindTheMessage)
+TEST_F(PresenterTest, StartUpWindowStandsBehindTheMessage)
 {
     QGuiApplication::clipboard()->clear();
     app.start();
     ASSERT_EQ(platform.messages.size(), 1U);
     EXPECT_TRUE(realised(*app.window("startup")));
     platform.settle();
-    EXPECT_TRUE(static_cast<const DesktopView&>(app.window("startup")->view()).window().isVisible());
+    EXPECT_TRUE(static_cast<DesktopWindow&>(app.window("startup")->window()).widget().isVisible());
 }
 
-TEST_F(DesktopStageTest, EventLoopBringsTheWindowsAboutByItself)
+TEST_F(PresenterTest, EventLoopBringsTheWindowsAboutByItself)
 {
-    const auto view = build(test::everyControl());
-    view->show();
-    EXPECT_TRUE(view->visible());
-    EXPECT_FALSE(static_cast<DesktopView&>(*view).isBuilt());
+    const Built every = build();
+    every.window->show();
+    EXPECT_FALSE(static_cast<DesktopWindow&>(*every.window).hasWidget());
     QCoreApplication::processEvents();
-    EXPECT_TRUE(windowOf(*view).isVisible());
+    EXPECT_TRUE(every.widget().isVisible());
     platform.settle();
-    EXPECT_TRUE(windowOf(*view).isVisible());
-    view->hide();
-    EXPECT_TRUE(windowOf(*view).isVisible());
+    EXPECT_TRUE(every.widget().isVisible());
+    every.window->hide();
+    EXPECT_TRUE(every.widget().isVisible());
     QCoreApplication::processEvents();
-    EXPECT_FALSE(windowOf(*view).isVisible());
+    EXPECT_FALSE(every.widget().isVisible());
 }
 
-TEST_F(DesktopStageTest, WindowThatComesIsPaintedOnce)
+TEST_F(PresenterTest, WindowThatComesIsPaintedOnce)
 {
     struct Paintings : QObject {
         int count = 0;
@@ -94,70 +93,64 @@ TEST_F(DesktopStageTest, WindowThatComesIsPaintedOnce)
             return false;
         }
     };
-    const auto view = build(test::everyControl());
+    const Built every = build();
     Paintings paintings;
-    windowOf(*view).findChild<ChartWidget*>()->installEventFilter(&paintings);
-    view->show();
+    every.widget().findChild<ChartWidget*>()->installEventFilter(&paintings);
+    every.window->show();
     for (int i = 0; i < 10; ++i)
         QCoreApplication::processEvents();
     EXPECT_EQ(paintings.count, 1);
 }
 
-TEST_F(DesktopStageTest, WindowComesBackWhereItWas)
+TEST_F(PresenterTest, WindowComesBackWhereItWas)
 {
-    const auto view = build(test::everyControl());
-    view->show();
+    const Built every = shown();
+    every.widget().move(120, 90);
+    const QPoint stood = every.widget().pos();
+    every.window->hide();
     platform.settle();
-    windowOf(*view).move(120, 90);
-    const QPoint stood = windowOf(*view).pos();
-    view->hide();
+    every.window->show();
     platform.settle();
-    view->show();
-    platform.settle();
-    EXPECT_EQ(windowOf(*view).pos(), stood);
+    EXPECT_EQ(every.widget().pos(), stood);
 }
 
-TEST_F(DesktopStageTest, MinimisedWindowComesBackWhenItIsShown)
+TEST_F(PresenterTest, MinimisedWindowComesBackWhenItIsShown)
 {
-    const auto view = build(test::everyControl());
+    const Built every = build();
     for (const bool hidden : {false, true}) {
-        view->show();
+        every.window->show();
         platform.settle();
-        windowOf(*view).showMinimized();
+        every.widget().showMinimized();
         if (hidden)
-            view->hide();
+            every.window->hide();
         platform.settle();
-        view->show();
+        every.window->show();
         platform.settle();
-        EXPECT_TRUE(windowOf(*view).isVisible());
-        EXPECT_FALSE(windowOf(*view).isMinimized());
+        EXPECT_TRUE(every.widget().isVisible());
+        EXPECT_FALSE(every.widget().isMinimized());
     }
 }
 
-TEST_F(DesktopStageTest, WindowBuiltAnewStandsWhereTheLastOfItsNameDid)
+TEST_F(PresenterTest, WindowBuiltAnewStandsWhereTheLastOfItsNameDid)
 {
-    auto view = build(test::everyControl());
-    view->show();
-    platform.settle();
+    Built every = shown();
     const QPoint place(173, 91);
-    windowOf(*view).setGeometry(QRect(place, windowOf(*view).size()));
-    view->hide();
+    every.widget().setGeometry(QRect(place, every.widget().size()));
+    every.window->hide();
     platform.settle();
 
-    view = build(test::everyControl());
-    view->show();
-    platform.settle();
-    EXPECT_EQ(windowOf(*view).geometry().topLeft(), place);
+    every = shown();
+    EXPECT_EQ(every.widget().geometry().topLeft(), place);
 }
 
-TEST_F(DesktopStageTest, ClipboardTextPassesWholeButForLineEnds)
+TEST_F(PresenterTest, ClipboardTextPassesWholeButForLineEnds)
 {
     const Text raw(u"a\nb\r\nc\rd\n\n\r\r\n\0e\xD800", 17);
     copy(raw);
     EXPECT_EQ(platform.clipboardText(), Text(u"a\r\nb\r\nc\rd\r\n \r\n\r\r\n\0e\xD800", 21));
 }
 
-TEST_F(DesktopStageTest, TheClipboardIsReadOnceAnEvent)
+TEST_F(PresenterTest, TheClipboardIsReadOnceAnEvent)
 {
     copy(u"a");
     EXPECT_EQ(platform.clipboardText(), u"a");
@@ -167,18 +160,16 @@ TEST_F(DesktopStageTest, TheClipboardIsReadOnceAnEvent)
     EXPECT_EQ(platform.clipboardText(), u"b");
 }
 
-TEST_F(DesktopStageTest, PicturesOnTheClipboardAreNoText)
+TEST_F(PresenterTest, PicturesOnTheClipboardAreNoText)
 {
     QGuiApplication::clipboard()->setImage(QImage(2, 2, QImage::Format_RGB32));
     EXPECT_EQ(platform.clipboardText(), u"");
 }
 
-TEST_F(DesktopStageTest, PrintsAsVectorsOnWhite)
+TEST_F(PresenterTest, PrintsAsVectorsOnWhite)
 {
-    const auto view = build(test::everyControl());
-    view->show();
-    platform.settle();
-    Window& window = windowOf(*view);
+    const Built every = shown();
+    WindowWidget& window = every.widget();
     const QPalette before = window.palette();
     QBuffer file;
     file.open(QIODevice::WriteOnly);
@@ -193,12 +184,10 @@ TEST_F(DesktopStageTest, PrintsAsVectorsOnWhite)
     EXPECT_EQ(window.palette(), before);
 }
 
-TEST_F(DesktopStageTest, PaperIsWhiteWhateverTheTheme)
+TEST_F(PresenterTest, PaperIsWhiteWhateverTheTheme)
 {
-    const auto view = build(test::everyControl());
-    view->show();
-    platform.settle();
-    Window& window = windowOf(*view);
+    const Built every = shown();
+    WindowWidget& window = every.widget();
     QPalette dark(QColor(40, 40, 40), QColor(30, 30, 30));
     const QPalette light = QApplication::palette();
     QApplication::setPalette(dark);
@@ -217,18 +206,17 @@ TEST_F(DesktopStageTest, PaperIsWhiteWhateverTheTheme)
     EXPECT_GT(sum / (paper.width() * paper.height()), 235);
 }
 
-TEST_F(DesktopStageTest, PrintedRowsStayWithinTheirGrid)
+TEST_F(PresenterTest, PrintedRowsStayWithinTheirGrid)
 {
-    const auto view = build(test::everyControl());
-    view->show();
-    platform.settle();
-    Window& window = windowOf(*view);
-    GridControl& rows = view->grid("Grid1");
-    rows.setRows(60);
+    const Built every = shown();
+    WindowWidget& window = every.widget();
     auto& table = *window.findChild<QTableView*>();
     const auto printed = [&](const Text& text) {
-        for (int row = 1; row < 60; ++row)
-            rows.setCell(row, 1, text);
+        every.controls->grid("Grid1").change([&](Grid& rows) {
+            rows.setRows(60);
+            for (int row = 1; row < 60; ++row)
+                rows.setCell(row, 1, text);
+        });
         QImage paper(window.size(), QImage::Format_RGB32);
         paper.fill(Qt::white);
         QPainter painter(&paper);
@@ -260,12 +248,10 @@ QRect drawnIn(const QImage& paper)
     return drawn;
 }
 
-TEST_F(DesktopStageTest, WindowFillsEitherPaperEitherWayAndKeepsItsShape)
+TEST_F(PresenterTest, WindowFillsEitherPaperEitherWayAndKeepsItsShape)
 {
-    const auto view = build(test::everyControl());
-    view->show();
-    platform.settle();
-    Window& window = windowOf(*view);
+    const Built every = shown();
+    WindowWidget& window = every.widget();
     const QSize letter(816, 1056), a4(794, 1123); // at 96 dots an inch
     for (const QSize page : {letter, letter.transposed(), a4, a4.transposed()}) {
         QImage paper(page + QSize(200, 200), QImage::Format_RGB32);

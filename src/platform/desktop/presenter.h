@@ -12,23 +12,23 @@
 
 namespace plotvue {
 
-class DesktopView;
+class DesktopWindow;
 
-class Stage : public QObject {
+class Presenter : public QObject {
     Q_OBJECT
 
 public:
     // Where windows were last seen; one of the same name, built anew too, comes back there.
     std::map<Name, QPoint> places;
 
-    void enter(DesktopView& view) { views_.push_back(&view); }
-    void leave(DesktopView& view) { std::erase(views_, &view); }
+    void enter(DesktopWindow& window) { windows_.push_back(&window); }
+    void leave(DesktopWindow& window) { std::erase(windows_, &window); }
 
     void settleLater(); // when control is back with the event loop
     void settle();
 
 private:
-    std::vector<DesktopView*> views_;
+    std::vector<DesktopWindow*> windows_;
     bool pending_ = false;
 };
 

@@ -1,0 +1,87 @@
+#include "platform/desktop/desktopwindow.h"
+
+#include "platform/desktop/presenter.h"
+#include "platform/desktop/widgets.h"
+
+#include <QCoreApplication>
+#include <QWindow>
+
+namespace plotvue {
+
+DesktopWindow::DesktopWindow(Presenter& presenter, std::shared_ptr<Controls> controls)
+    : presenter_(presenter),
+      controls_(std::move(controls))
+{
+    presenter_.enter(*this);
+}
+
+DesktopWindow::~DesktopWindow()
+{
+    presenter_.leave(*this);
+    if (!widget_)
+        return;
+    if (widget_->isVisible())
+        keepPlace();
+    widget_->retire();
+}
+
+void DesktopWindow::show()
+{
+    wanted_ = raise_ = true;
+    presenter_.settleLater();
+}
+
+void DesktopWindow::hide()
+{
+    wanted_ = false;
+    presenter_.settleLater();
+}
+
+void DesktopWindow::settle()
+{
+    const bool seen = widget_ && widget_->isVisible();
+    if (wanted_ && raise_ && widget().isMinimized())
+        widget().setWindowState(widget().windowState() & ~Qt::WindowMinimized);
+    if (wanted_ && !seen) {
+        takePlace();
+        widget().show();
+        // Each widget asks to be painted; said before the display asks for the whole, both are one painting.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater);
+    } else if (wanted_ && raise_) {
+        widget_->raise();
+        widget_->activateWindow();
+    } else if (!wanted_ && seen) {
+        keepPlace();
+        widget_->hide();
+    }
+    raise_ = false;
+}
+
+void DesktopWindow::keepPlace()
+{
+    presenter_.places[controls_->declaration.name] = widget_->geometry().topLeft();
+}
+
+void DesktopWindow::takePlace()
+{
+    const auto place = presenter_.places.find(controls_->declaration.name);
+    if (place == presenter_.places.end() || widget().windowState() != Qt::WindowNoState)
+        return;
+    // Said to the native window if there is one: a widget that is there already would not pass it on, and
+    // the window manager would find a place of its own.
+    if (QWindow* native = widget().windowHandle())
+        native->setPosition(place->second);
+    else
+        widget().setGeometry(QRect(place->second, widget().size()));
+}
+
+WindowWidget& DesktopWindow::widget()
+{
+    if (!widget_) {
+        widget_ = new WindowWidget(controls_);
+        buildWidgets(*widget_);
+    }
+    return *widget_;
+}
+
+} // namespace plotvue

@@ -1,0 +1,78 @@
+#include "platform/desktop/optionbuttons.h"
+
+#include "platform/desktop/shown.h"
+
+#include <QGroupBox>
+#include <QVBoxLayout>
+
+namespace plotvue {
+
+namespace {
+
+constexpr int maxCaption = 28; // in average characters
+
+// A caption from a capture may be a whole screen line: it is shown as far as the side column reaches.
+void showCaption(QRadioButton& button, TextSpan caption)
+{
+    const QString whole = shownOnOneLine(caption);
+    const QFontMetrics metrics = button.fontMetrics();
+    const QString fitting =
+        metrics.elidedText(whole, Qt::ElideRight, maxCaption * metrics.averageCharWidth());
+    button.setText(withoutMnemonic(fitting));
+    button.setAccessibleName(fitting == whole ? QString() : whole);
+    button.setToolTip(fitting == whole ? QString() : whole);
+}
+
+} // namespace
+
+OptionButtons::OptionButtons(Controls& controls, Name group, QObject* parent)
+    : QObject(parent),
+      controls_(controls),
+      group_(group)
+{
+    controls.options(group).changed = [this] { show(); };
+}
+
+QGroupBox* OptionButtons::addFrame(const OptionFrame& declared, QWidget* parent)
+{
+    auto* frame = new QGroupBox(withoutMnemonic(shownOnOneLine(declared.caption)), parent);
+    if (declared.caption.empty())
+        frame->setAccessibleName(toQString(declared.spokenName));
+    auto* layout = new QVBoxLayout(frame);
+    for (const Option& option : declared.options) {
+        auto* button = new OptionButton(frame);
+        layout->addWidget(button);
+        // Tab is to come to the one chosen. Later on the toolkit sees to that; at first it takes the topmost.
+        button->setFocusPolicy(Qt::ClickFocus);
+        connect(button, &QRadioButton::clicked, this,
+                [this, index = option.index] { controls_.choose(group_, index); });
+        buttons_.push_back(button);
+    }
+    if (buttons_.size() == controls_.options(group_)->options.size())
+        show();
+    return frame;
+}
+
+void OptionButtons::show()
+{
+    const OptionGroup& group = *controls_.options(group_);
+    std::map<int, OptionButton*>
+        entries; // by frame: the option chosen, or, while that is hidden, the first that is not
+    for (std::size_t i = 0; i < buttons_.size(); ++i) {
+        const OptionGroup::Option& option = group.options[i];
+        OptionButton& button = *buttons_[i];
+        const bool chosen = group.chosenIn(option.frame) == option.index;
+        showCaption(button, option.caption);
+        if (button.isChecked() != chosen)
+            button.showChecked(chosen);
+        const bool hidden = button.isHidden() && button.testAttribute(Qt::WA_WState_ExplicitShowHide);
+        if (hidden == option.visible)
+            button.setVisible(option.visible);
+        if (option.visible && (chosen || !entries.contains(option.frame)))
+            entries[option.frame] = &button;
+    }
+    for (const auto& [frame, entry] : entries)
+        entry->setFocusPolicy(Qt::StrongFocus);
+}
+
+} // namespace plotvue

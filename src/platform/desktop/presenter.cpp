@@ -1,0 +1,27 @@
+#include "platform/desktop/presenter.h"
+
+#include "platform/desktop/desktopwindow.h"
+
+namespace plotvue {
+
+void Presenter::settleLater()
+{
+    if (pending_)
+        return;
+    pending_ = true;
+    QMetaObject::invokeMethod(this, &Presenter::settle, Qt::QueuedConnection);
+}
+
+void Presenter::settle()
+{
+    pending_ = false;
+    // What comes is there before what goes, so that the desktop does not shine through.
+    for (DesktopWindow* window : windows_)
+        if (window->wanted())
+            window->settle();
+    for (DesktopWindow* window : windows_)
+        if (!window->wanted())
+            window->settle();
+}
+
+} // namespace plotvue

@@ -1,0 +1,284 @@
+#include "desktop/desktop_fixture.h"
+#include "platform/desktop/chart/chartwidget.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QShortcut>
+#include <QTableView>
+
+#include <gmock/gmock.h>
+
+namespace plotvue {
+
+namespace {
+
+using testing::ElementsAre;
+using Strings = std::vector<std::string>;
+
+class DesktopWindowTest : public test::DesktopTest {
+protected:
+    DesktopWindowTest() : every(build()) {}
+
+    template <typename Widget>
+    Widget& find(const QString& text)
+    {
+        const QList<Widget*> all = every.widget().findChildren<Widget*>();
+        for (Widget* widget : all)
+            if (widget->text() == text)
+                return *widget;
+        throw std::out_of_range("no such widget");
+    }
+
+    static void type(QWidget& widget, Qt::Key key)
+    {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier),
+            release(QEvent::KeyRelease, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(&widget, &press);
+        QCoreApplication::sendEvent(&widget, &release);
+    }
+
+    void onScreen()
+    {
+        every.window->show();
+        platform.settle();
+        every.widget().activateWindow();
+        QCoreApplication::processEvents();
+    }
+
+    Built every;
+};
+
+TEST_F(DesktopWindowTest, ShowsEachChangeOfItsControls)
+{
+    onScreen();
+    Controls& controls = *every.controls;
+    controls.caption.set(u"New & caption");
+    EXPECT_EQ(every.widget().windowTitle(), "New & caption");
+    controls.text("Label1").set(u"two\r\nlines\r");
+    EXPECT_EQ(every.widget().findChild<QLabel*>("Label1")->text(), "two\nlines");
+    controls.text("txt").set(Text(u"nul \0 gone\r", 11));
+    EXPECT_EQ(every.widget().findChild<QLineEdit*>("txt")->text(), "nul  gone");
+
+    controls.options("opt").change([](OptionGroup& options) {
+        options.setCaption(6, u"C & E\r\n");
+        options.setVisible(7, false);
+    });
+    EXPECT_FALSE(find<QRadioButton>("D").isVisible());
+    EXPECT_TRUE(find<QRadioButton>("C && E").isVisible());
+    controls.options("opt").change([](OptionGroup& options) { options.setVisible(7, true); });
+    EXPECT_TRUE(find<QRadioButton>("D").isVisible());
+    controls.choose("opt", 1);
+    EXPECT_TRUE(find<QRadioButton>("24 Month").isChecked());
+    EXPECT_TRUE(find<QRadioButton>("A && B").isChecked()) << "in the other frame";
+
+    controls.grid("Grid1").change([](Grid& grid) {
+        grid.setRows(3);
+        grid.setFormat(u"<Sales Rep|>Sales - ALL");
+        grid.setCell(2, 1, u"7\r");
+    });
+    const QAbstractItemModel& model = *every.widget().findChild<QTableView*>("Grid1")->model();
+    EXPECT_EQ(model.rowCount(), 2);
+    EXPECT_EQ(model.columnCount(), 2);
+    EXPECT_EQ(model.headerData(1, Qt::Horizontal), "Sales - ALL");
+    EXPECT_EQ(model.index(1, 1).data(), "7");
+    EXPECT_EQ(model.index(0, 0).data(), "");
+
+    const auto& chart = *every.widget().findChild<ChartWidget*>("Chart1");
+    EXPECT_EQ(chart.chartLayout().titles.at(0).text, u"By design");
+    controls.chart("Chart1").change([](Chart& changed) {
+        changed.SetTitle(1, u"Sales\r");
+        changed.series = {{1, -2.5}};
+    });
+    EXPECT_EQ(chart.chartLayout().titles.at(0).text, u"Sales");
+    EXPECT_EQ(chart.chartLayout().bars.size(), 2U);
+}
+
+TEST_F(DesktopWindowTest, ShowsWhatItsControlsWereBeforeItWasSeen)
+{
+    every.controls->text("Label1").set(u"early");
+    every.controls->options("opt").change([](OptionGroup& options) { options.setVisible(6, false); });
+    onScreen();
+    EXPECT_EQ(every.widget().findChild<QLabel*>("Label1")->text(), "early");
+    EXPECT_FALSE(find<QRadioButton>("C").isVisible());
+}
+
+TEST_F(DesktopWindowTest, ChosenOptionCanBeChosenAgain)
+{
+    QRadioButton& option = find<QRadioButton>("24 Month");
+    option.click();
+    option.click();
+    EXPECT_THAT(ran, ElementsAre("opt 1", "opt 1"));
+}
+
+TEST_F(DesktopWindowTest, OptionToggledByAssistiveTechnologyIsClicked)
+{
+    onScreen();
+    EXPECT_THAT(ran, ElementsAre());
+    QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&find<QRadioButton>("24 Month"));
+    told->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    QCoreApplication::processEvents();
+    EXPECT_THAT(ran, ElementsAre("opt 1"));
+    find<QRadioButton>("12 Month").click();
+    QCoreApplication::processEvents();
+    EXPECT_THAT(ran, ElementsAre("opt 1", "opt 0"));
+}
+
+TEST_F(DesktopWindowTest, ArrowsMoveAndChooseWithinTheFrame)
+{
+    onScreen();
+    QRadioButton& last = find<QRadioButton>("12 Month");
+    last.setFocus();
+    type(last, Qt::Key_Down);
+    EXPECT_THAT(ran, ElementsAre()) << "the last option of its frame";
+    find<QRadioButton>("A && B").setFocus();
+    type(find<QRadioButton>("A && B"), Qt::Key_Down);
+    EXPECT_THAT(ran, ElementsAre("opt 6"));
+    EXPECT_EQ(every.controls->options("opt")->chosenIn(1), 6);
+    EXPECT_EQ(every.controls->options("opt")->chosenIn(0), 0);
+}
+
+TEST_F(DesktopWindowTest, TabReachesAFrameWhoseChosenOptionIsHidden)
+{
+    onScreen();
+    find<QRadioButton>("D").setFocus();
+    find<QRadioButton>("D").click();
+    every.controls->options("opt").change([](OptionGroup& options) { options.setVisible(7, false); });
+    find<QRadioButton>("12 Month").setFocus();
+    type(find<QRadioButton>("12 Month"), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &find<QRadioButton>("A && B"));
+}
+
+TEST_F(DesktopWindowTest, LinesOfATextStayLines)
+{
+    every.controls->text("Label1").set(u"one\rtwo\r\nthree\nfour\r");
+    EXPECT_EQ(every.widget().findChild<QLabel*>()->text(), "one\ntwo\nthree\nfour");
+    every.controls->text("txt").set(u"one\rtwo\r\n");
+    EXPECT_EQ(every.widget().findChild<QLineEdit*>()->text(), "one two");
+}
+
+TEST_F(DesktopWindowTest, RowsAreNotCopiedOverTheScreenOnTheClipboard)
+{
+    QGuiApplication::clipboard()->setText("QXM31H");
+    every.controls->grid("Grid1").change([](Grid& rows) {
+        rows.setRows(2);
+        rows.setCell(1, 1, u"ACME");
+    });
+    auto& grid = *every.widget().findChild<QTableView*>();
+    grid.setCurrentIndex(grid.model()->index(0, 1));
+    auto& list = *every.widget().findChild<QListWidget*>();
+    list.setCurrentRow(0);
+    for (QWidget* each : {static_cast<QWidget*>(&grid), static_cast<QWidget*>(&list)}) {
+        QKeyEvent copy(QEvent::KeyPress, Qt::Key_C, Qt::ControlModifier);
+        QCoreApplication::sendEvent(each, &copy);
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), "QXM31H");
+    }
+}
+
+TEST_F(DesktopWindowTest, HeldEscapeClosesOneWindow)
+{
+    Declaration closing = test::everyControl();
+    closing.content.items.push_back({Button{.name = "cmdClose", .caption = u"Close", .shortcut = u"Esc"}});
+    every = build(closing);
+    const QList<QShortcut*> shortcuts = every.widget().findChildren<QShortcut*>();
+    for (const QShortcut* shortcut : shortcuts)
+        EXPECT_EQ(shortcut->autoRepeat(), shortcut->key() != Qt::Key_Escape);
+}
+
+TEST_F(DesktopWindowTest, LettersAreOfTheFamilyAndSizeThatTheyAskForOrTheDesktopsOwn)
+{
+    const Font asked{.family = u"Arial", .points = 8.25, .bold = true, .italic = true};
+    const auto letters =
+        build({.name = "letters",
+               .caption = {},
+               .content = {Box::Direction::Column,
+                           {{Label{.name = "asked", .text = u"A", .font = asked}},
+                            {ListBox{.name = "list", .spokenName = {}, .items = {}, .font = asked}},
+                            {Label{.name = "own", .text = u"B"}}}}});
+    const QWidget& window = letters.widget();
+    const QStringList families{QStringLiteral("Arial"), window.font().family()};
+    const QWidget* const withFont[] = {window.findChild<QLabel*>(), window.findChild<QListWidget*>()};
+    for (const QWidget* widget : withFont) {
+        EXPECT_EQ(widget->font().families(), families);
+        EXPECT_EQ(widget->font().pointSizeF(), 8.25);
+        EXPECT_TRUE(widget->font().bold() && widget->font().italic());
+    }
+    EXPECT_EQ(window.findChildren<QLabel*>().last()->font(), window.font());
+}
+
+TEST_F(DesktopWindowTest, UntitledFrameHasAName)
+{
+    const QList<QGroupBox*> frames = every.widget().findChildren<QGroupBox*>();
+    ASSERT_EQ(frames.size(), 2);
+    EXPECT_EQ(frames[0]->title(), "Months");
+    EXPECT_EQ(frames[1]->accessibleName(), "Groups");
+}
+
+TEST_F(DesktopWindowTest, ShortcutsPressTheButtonAndAreTold)
+{
+    QPushButton& button = find<QPushButton>("&Go");
+    EXPECT_TRUE(button.toolTip().startsWith("Go (F5")) << button.toolTip().toStdString();
+    Strings keys;
+    const QList<QShortcut*> shortcuts = every.widget().findChildren<QShortcut*>();
+    for (QShortcut* shortcut : shortcuts) {
+        keys.push_back(shortcut->key().toString(QKeySequence::PortableText).toStdString());
+        emit shortcut->activated();
+    }
+    EXPECT_THAT(keys, ElementsAre("F5", "Ctrl+G"));
+    EXPECT_THAT(ran, ElementsAre("cmdGo 0", "cmdGo 0"));
+}
+
+TEST_F(DesktopWindowTest, ArrowButtonIsCalledByItsName)
+{
+    QPushButton& button = find<QPushButton>("");
+    EXPECT_EQ(button.accessibleName(), "Back");
+    EXPECT_EQ(button.toolTip(), "Back");
+    type(button, Qt::Key_Return);
+    EXPECT_THAT(ran, ElementsAre("cmdBack 0"));
+}
+
+TEST_F(DesktopWindowTest, EnterOnARowIsAClick)
+{
+    every.controls->grid("Grid1").change([](Grid& grid) { grid.setRows(4); });
+    auto& table = *every.widget().findChild<QTableView*>("Grid1");
+    table.setCurrentIndex(table.model()->index(2, 0));
+    type(table, Qt::Key_Return);
+    EXPECT_THAT(ran, ElementsAre("Grid1 3"));
+}
+
+TEST_F(DesktopWindowTest, TitleBarAsksTheWindow)
+{
+    onScreen();
+    every.widget().close();
+    EXPECT_THAT(ran, ElementsAre("close"));
+    EXPECT_TRUE(every.widget().isVisible());
+}
+
+TEST_F(DesktopWindowTest, MayBeUnloadedByItsOwnButton)
+{
+    every.controls = std::make_shared<Controls>(test::everyControl(),
+                                                Handlers{{"cmdGo", [this](int) { every = {}; }}}, [] {});
+    every.window = platform.build(every.controls);
+    onScreen();
+    find<QPushButton>("&Go").click();
+    EXPECT_EQ(every.window, nullptr);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+TEST_F(DesktopWindowTest, FitsASmallScreen)
+{
+    const QSize least = every.widget().minimumSizeHint();
+    EXPECT_LE(least.width(), 800);
+    EXPECT_LE(least.height(), 560);
+}
+
+} // namespace
+
+} // namespace plotvue

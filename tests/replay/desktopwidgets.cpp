@@ -1,0 +1,174 @@
+#include "replay/desktopwidgets.h"
+
+#include "platform/desktop/chart/chartwidget.h"
+#include "platform/desktop/desktopwindow.h"
+#include "platform/desktop/shown.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableView>
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace plotvue::replay {
+
+namespace {
+
+WindowWidget& widgetOf(const Form& form)
+{
+    return static_cast<DesktopWindow&>(form.window()).widget();
+}
+
+template <typename Widget>
+Widget& widgetOf(const Form& form, Name name)
+{
+    auto* found = widgetOf(form).findChild<Widget*>(QString::fromLatin1(name.data(), qsizetype(name.size())));
+    if (!found)
+        throw std::out_of_range("no such widget");
+    return *found;
+}
+
+// The buttons of an option group, as its options.
+std::vector<QRadioButton*> buttonsOf(const Form& form, Name group)
+{
+    std::vector<QRadioButton*> buttons;
+    forEachControl(form.controls().declaration.content, [&](const auto& control) {
+        if constexpr (requires { control.options; })
+            if (control.group == group)
+                for (auto* button :
+                     widgetOf<QGroupBox>(form, control.name).template findChildren<QRadioButton*>())
+                    buttons.push_back(button);
+    });
+    return buttons;
+}
+
+// `value` where the widget shows what is to be shown of it.
+Text seen(const Text& value, const QString& toBeShown, const QString& shownText)
+{
+    return shownText == toBeShown ? value : toText(shownText);
+}
+
+QString captionOn(const QRadioButton& button)
+{
+    const QString elided = button.accessibleName();
+    return elided.isEmpty() ? button.text().replace(QLatin1String("&&"), QLatin1String("&")) : elided;
+}
+
+void lookAt(SeenText& text, const Form& form, Name name)
+{
+    switch (text.of) {
+    case SeenText::Of::Button:
+        text.text = toText(widgetOf<QPushButton>(form, name).text());
+        break;
+    case SeenText::Of::Label:
+        text.text = seen(text.text, shown(text.text), widgetOf<QLabel>(form, name).text());
+        break;
+    case SeenText::Of::TextBox:
+        text.text = seen(text.text, shownOnOneLine(text.text), widgetOf<QLineEdit>(form, name).text());
+        break;
+    }
+}
+
+void lookAt(SeenList& items, const Form& form, Name name)
+{
+    const auto& list = widgetOf<QListWidget>(form, name);
+    items.clear();
+    for (int row = 0; row < list.count(); ++row)
+        items.push_back(toText(list.item(row)->text()));
+}
+
+void lookAt(OptionGroup& group, const Form& form, Name name)
+{
+    const auto buttons = buttonsOf(form, name);
+    group.chosen.clear();
+    for (std::size_t i = 0; i < buttons.size(); ++i) {
+        OptionGroup::Option& option = group.options.at(i);
+        option.caption = seen(option.caption, shownOnOneLine(option.caption), captionOn(*buttons[i]));
+        option.visible = !buttons[i]->isHidden();
+        if (buttons[i]->isChecked())
+            group.chosen.push_back(option.index);
+    }
+    std::ranges::sort(group.chosen);
+}
+
+void lookAt(Grid& grid, const Form& form, Name name)
+{
+    const QAbstractItemModel& model = *widgetOf<QTableView>(form, name).model();
+    const Grid wanted = grid;
+    QStringList headings;
+    for (int column = 0; column < model.columnCount(); ++column)
+        headings += model.headerData(column, Qt::Horizontal).toString();
+    QStringList wantedHeadings = shownOnOneLine(wanted.format).split(u'|');
+    for (QString& heading : wantedHeadings)
+        heading = heading.remove(0, heading.startsWith(u'<') || heading.startsWith(u'>') ? 1 : 0).trimmed();
+    grid.format = seen(wanted.format, wantedHeadings.join(u'|'), headings.join(u'|'));
+    grid.columns = model.columnCount();
+    grid.setRows(model.rowCount() + 1);
+    for (int row = 1; row < grid.rows; ++row)
+        for (int column = 0; column < grid.columns; ++column) {
+            const bool known = row < wanted.rows && column < wanted.columns;
+            const Text value = known ? wanted.cell(row, column) : Text();
+            grid.setCell(
+                row, column,
+                seen(value, shownOnOneLine(value).trimmed(), model.index(row - 1, column).data().toString()));
+        }
+}
+
+// A chart that is drawn otherwise than a new widget would draw it is seen as none.
+void lookAt(Chart& chart, const Form& form, Name name)
+{
+    const auto& widget = widgetOf<ChartWidget>(form, name);
+    ChartWidget fresh;
+    fresh.setFont(widget.font());
+    fresh.resize(widget.size());
+    fresh.setChart(chart);
+    if (fresh.chartLayout() != widget.chartLayout() || widget.chart() != chart)
+        chart = {};
+}
+
+} // namespace
+
+SeenWindow seenOnWidgets(const Form& form)
+{
+    SeenWindow window = seenIn(form.controls());
+    window.caption = toText(widgetOf(form).windowTitle());
+    for (auto& [name, control] : window.controls)
+        std::visit([&](auto& value) { lookAt(value, form, name); }, control);
+    return window;
+}
+
+void pressWidget(const Form& form, Name button)
+{
+    widgetOf<QPushButton>(form, button).click();
+}
+
+void chooseWidget(const Form& form, Name group, int index)
+{
+    const auto& options = form.controls().options(group)->options;
+    const auto at = std::ranges::find(options, index, &OptionGroup::Option::index);
+    buttonsOf(form, group).at(static_cast<std::size_t>(at - options.begin()))->click();
+}
+
+void clickRowOfWidget(const Form& form, Name grid, int row)
+{
+    auto& table = widgetOf<QTableView>(form, grid);
+    table.setCurrentIndex(table.model()->index(row - 1, 0));
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(&table, &enter);
+}
+
+void closeWidget(const Form& form)
+{
+    QCloseEvent event;
+    QCoreApplication::sendEvent(&widgetOf(form), &event);
+}
+
+} // namespace plotvue::replay

@@ -1,0 +1,25 @@
+// What is seen of a window: the value that each of its controls shows.
+#pragma once
+
+#include "platform/controls.h"
+
+#include <string>
+#include <variant>
+
+namespace plotvue::replay {
+
+struct SeenText {
+    enum class Of { Button, Label, TextBox } of;
+    Text text;
+};
+using SeenList = std::vector<Text>;
+using Seen = std::variant<SeenText, SeenList, OptionGroup, Grid, Chart>;
+
+struct SeenWindow {
+    Text caption;
+    std::map<std::string, Seen, std::less<>> controls; // pictures and frames are none
+};
+
+SeenWindow seenIn(Controls& controls);
+
+} // namespace plotvue::replay
