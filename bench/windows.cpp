@@ -6,7 +6,6 @@
 #include "captures.h"
 #include "platform/desktop/desktopplatform.h"
 #include "platform/desktop/desktopwindow.h"
-#include "platform/desktop/window.h"
 #include "rounds.h"
 
 #include <QApplication>
