@@ -4,6 +4,7 @@
 
 #include "app/application.h"
 #include "captures.h"
+#include "platform/desktop/chart/qtext.h"
 #include "platform/desktop/desktopplatform.h"
 #include "platform/desktop/desktopwindow.h"
 #include "rounds.h"

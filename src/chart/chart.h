@@ -1,5 +1,6 @@
-// What a chart shows, and the operations that change it. Series and slots count from 0, title positions
-// from 1.
+// What a chart shows, and the operations that change it. A series is a row of figures; a slot is a place on
+// the horizontal axis, with a label and a figure of each series. Series and slots count from 0, title
+// positions from 1.
 #pragma once
 
 #include "capture/text.h"
@@ -20,13 +21,13 @@ struct Colour {
 // Fixed when the window is designed.
 struct ChartDesign {
     enum class Bars { Stacked, Grouped };
-    enum class Labels { Months, Names }; // months may be thinned out, names never
+    enum class Labels { Months, Names }; // where room is short, some months go unlabelled, names never
 
     Bars bars = Bars::Stacked;
     Labels labels = Labels::Months;
     int projection = -1; // the series that projects the one before it; -1: none
-    // By series, where several are shown; SetSeriesLegend overrides them. A series that is alone or has no
-    // legend goes by the title at position 1.
+    // By series, used where several are shown; SetSeriesLegend overrides them. A series that is shown alone
+    // or has no legend is called by the title at position 1.
     std::map<int, TextSpan> legends{};
 
     bool operator==(const ChartDesign&) const = default;
@@ -37,7 +38,7 @@ class ChartArrayData {
 public:
     void AddArray(const std::vector<double>& values);       // the next series
     void AddArray(const std::vector<std::int32_t>& values); // the next series
-    void AddArray(const std::vector<Text>& labels);         // the point labels, in place of earlier ones
+    void AddArray(const std::vector<Text>& labels);         // the point labels; replaces earlier ones
 
 private:
     friend struct Chart;
@@ -56,8 +57,8 @@ struct Chart {
     std::map<int, Colour> colours{}; // by series
     std::optional<double> axisMin{}, axisMax{};
 
-    void SetChartData(const ChartArrayData& data); // in place of earlier data
-    void SetTitle(int position, TextSpan text);    // drawn are 1 (small, above), 2 (large) and 3 (below)
+    void SetChartData(const ChartArrayData& data); // replaces the earlier data
+    void SetTitle(int position, TextSpan text); // 1: small, above; 2: large; 3: below; others are not drawn
     void SetValueDecimals(int count) { decimals = count; }
     void SetSeriesLegend(int number, TextSpan text) { legends[number] = text; }
     void SetSeriesColor(int number, Colour colour) { colours[number] = colour; }

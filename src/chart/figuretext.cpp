@@ -31,7 +31,7 @@ Text figureText(double value, int decimals)
     std::array<char, 64> buffer;
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), size,
                                    plain ? std::chars_format::fixed : std::chars_format::scientific,
-                                   plain ? std::clamp(decimals, 0, mostDecimals) : 2)
+                                   plain ? std::clamp(decimals, 0, maxDecimals) : 2)
                          .ptr;
     const std::string_view digits(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
     Text text;
@@ -41,10 +41,10 @@ Text figureText(double value, int decimals)
     return text;
 }
 
-int decimalsNeeded(double value, int most)
+int decimalsNeeded(double value, int max)
 {
     int decimals = 0;
-    for (double scaled = std::abs(value); decimals < most; ++decimals, scaled *= 10)
+    for (double scaled = std::abs(value); decimals < max; ++decimals, scaled *= 10)
         if (std::abs(scaled - std::round(scaled)) <= 1e-7 * std::max(1.0, scaled))
             break;
     return decimals;

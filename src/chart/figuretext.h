@@ -5,13 +5,14 @@
 
 namespace plotvue::chart {
 
-inline constexpr int mostDecimals = 9;
+inline constexpr int maxDecimals = 9;
 
-// With `decimals` (0 to mostDecimals, others are brought into it), commas between thousands and U+2212 before
-// what does not round to zero. From 10^15 on with an exponent.
+// `value` with that many decimals (less than 0 counts as 0, more than maxDecimals as maxDecimals), commas
+// between thousands and U+2212 as the minus sign, which is left out where the figure rounds to zero. From
+// 10^15 on, with an exponent.
 Text figureText(double value, int decimals);
 
-// The fewest decimals, at most `most`, that write `value` without rounding it.
-int decimalsNeeded(double value, int most);
+// The fewest decimals that write `value` without rounding it, but at most `max`.
+int decimalsNeeded(double value, int max);
 
 } // namespace plotvue::chart

@@ -13,7 +13,7 @@ Text LayoutInput::fitted(Text text, double room, TextRole role) const
     return elided(std::move(text), room, [&](TextSpan part) { return metrics.width(part, role); });
 }
 
-Box Layout::slotBox(int slot) const
+Rect Layout::slotBox(int slot) const
 {
     return {plot.left + slot * slotWidth, plot.top, slotWidth, plot.height};
 }
@@ -37,9 +37,9 @@ double Layout::snapped(double length) const
     return pixel > 0 ? std::round(length / pixel) * pixel : length;
 }
 
-Layout layoutChart(const Figures& figures, Size paper, const Metrics& metrics, double deviceScale)
+Layout layoutChart(const PlotData& data, Size paper, const Metrics& metrics, double deviceScale)
 {
-    const LayoutInput input{figures, metrics};
+    const LayoutInput input{data, metrics};
     Layout layout;
     layout.paper = paper;
     layout.em = metrics.height(TextRole::Small);
@@ -48,10 +48,10 @@ Layout layoutChart(const Figures& figures, Size paper, const Metrics& metrics, d
         layout.hairline = std::max(1.0, std::floor(deviceScale)) * layout.pixel;
     }
     const double em = layout.em;
-    const Box inner{em, em * .75, std::max(em, paper.width - 2 * em), std::max(em, paper.height - 1.5 * em)};
+    const Rect inner{em, em * .75, std::max(em, paper.width - 2 * em), std::max(em, paper.height - 1.5 * em)};
     double top = placeTitles(input, layout, inner, inner.top);
-    layout.slotCount = figures.slotCount();
-    layout.pointCount = figures.pointCount();
+    layout.slotCount = data.slotCount();
+    layout.pointCount = data.pointCount();
     if (layout.slotCount == 0)
         return layout;
     top = placeLegend(input, layout, inner, top);

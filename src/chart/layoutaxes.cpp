@@ -14,7 +14,7 @@ namespace {
 
 constexpr double slant = std::numbers::sqrt2 / 2; // sine and cosine of the slanted labels
 constexpr double linesPerStep = 3.5;
-constexpr int fewestSteps = 2, mostSteps = 8;
+constexpr int minSteps = 2, maxSteps = 8;
 
 bool holdsDigit(const Text& text)
 {
@@ -23,19 +23,19 @@ bool holdsDigit(const Text& text)
 
 struct Labels {
     std::vector<Text> texts;
-    std::optional<int> january; // the slot of one of them; absent: not a chart of whole years
+    std::optional<int> january; // a slot with one; absent where the chart is not one of whole years
 
     bool isJanuary(std::size_t slot) const { return january && holdsDigit(texts[slot]); }
 };
 
-// Over whole years only the Januaries carry their year: "J98", "FEB", "MAR".
+// In a chart of whole years only the Januaries are labelled with their year: "J98", "FEB", "MAR".
 Labels readLabels(const LayoutInput& input)
 {
     Labels labels;
     int withYear = 0, without = 0;
     std::optional<int> january;
-    for (int slot = 0; slot < input.figures.slotCount(); ++slot) {
-        labels.texts.push_back(drawable(input.figures.label(slot)));
+    for (int slot = 0; slot < input.data.slotCount(); ++slot) {
+        labels.texts.push_back(drawable(input.data.label(slot)));
         const Text& text = labels.texts.back();
         if (holdsDigit(text)) {
             january = slot;
@@ -45,7 +45,7 @@ Labels readLabels(const LayoutInput& input)
         }
     }
     if (withYear < without && input.chart().design.labels == ChartDesign::Labels::Months &&
-        !input.figures.components())
+        !input.data.components())
         labels.january = january;
     return labels;
 }
@@ -54,11 +54,11 @@ struct LabelStyle {
     enum class Form {
         Whole,   // "OCT98"
         Broken,  // "OCT" over "98"
-        Initials // the same of whole years: "J" over "98", "F", "M"
+        Initials // in a chart of whole years: "J" over "98", "F", "M"
     };
     Form form = Form::Whole;
     TextRole role = TextRole::Small;
-    double gap = .5; // the least between two labels, in em
+    double gap = .5; // the minimum between two labels, in em
     int step = 1;    // slots from one label to the next
 
     int lines() const { return form == Form::Whole ? 1 : 2; }
@@ -79,7 +79,7 @@ double widest(const LayoutInput& input, const Labels& labels, const LabelStyle& 
     for (const Text& label : labels.texts) {
         const auto [first, second] = linesOf(label, style.form);
         width = std::max(width, input.metrics.width(first, style.role));
-        if (style.form == LabelStyle::Form::Broken) // a year below initials has the room of twelve
+        if (style.form == LabelStyle::Form::Broken) // a year below initials has the room of twelve slots
             width = std::max(width, input.metrics.width(second, style.role));
     }
     return width;
@@ -104,8 +104,8 @@ LabelStyle styleOfMonths(const LayoutInput& input, const Labels& labels, double 
     return {.step = 12 * (labels.january ? 1 : static_cast<int>(years))};
 }
 
-// Slanted lines of type are closer together than their slots; capitals need less than the whole height of a
-// line.
+// Between slanted labels there is less room than between their slots, and capitals need only three quarters
+// of a line's height.
 int stepBetweenNames(bool slanted, double slotWidth, double em)
 {
     return slanted ? static_cast<int>(std::ceil(em * .75 / (slotWidth * slant))) : 1;
@@ -146,7 +146,7 @@ void placeLabels(const LayoutInput& input, Layout& layout, const Labels& labels,
                  double top, double longest)
 {
     layout.labelRole = style.role;
-    // Beside Januaries the step divides a year: any of them tells which slots are labelled.
+    // In a chart of whole years the step divides a year, so any January tells which slots are labelled.
     const int phase = labels.january.value_or(0) % style.step;
     for (int slot = 0; slot < layout.slotCount; ++slot) {
         const bool january = labels.isJanuary(static_cast<std::size_t>(slot));
@@ -164,27 +164,26 @@ void placeLabels(const LayoutInput& input, Layout& layout, const Labels& labels,
 
 } // namespace
 
-void placeAxes(const LayoutInput& input, Layout& layout, const Box& inner, double top)
+void placeAxes(const LayoutInput& input, Layout& layout, const Rect& inner, double top)
 {
     const double em = layout.em;
-    const Range reach = reachOf(input.figures);
+    const Range reach = reachOf(input.data);
     const Chart& chart = input.chart();
     ScaleWishes wishes{chart.axisMin, chart.axisMax, chart.decimals};
-    wishes.mostSteps = std::clamp(static_cast<int>((inner.bottom() - top - em * 2) / (em * linesPerStep)),
-                                  fewestSteps, mostSteps);
+    wishes.maxSteps = std::clamp(static_cast<int>((inner.bottom() - top - em * 2) / (em * linesPerStep)),
+                                 minSteps, maxSteps);
     layout.scale = scaleFor(reach, wishes);
 
-    double widestTick = 0;
+    double maxTickWidth = 0;
     for (const double value : layout.scale.ticks)
-        widestTick = std::max(widestTick, input.width(figureText(value, layout.scale.decimals)));
-    const double ticksEnd = inner.left + std::min(widestTick, inner.width / 2);
+        maxTickWidth = std::max(maxTickWidth, input.width(figureText(value, layout.scale.decimals)));
+    const double ticksEnd = inner.left + std::min(maxTickWidth, inner.width / 2);
     layout.plot.left = layout.snapped(ticksEnd + em * .5);
     layout.plot.width = std::max(em, layout.snapped(inner.right()) - layout.plot.left);
     layout.slotWidth = layout.plot.width / layout.slotCount;
 
     const Labels labels = readLabels(input);
-    const bool names =
-        input.chart().design.labels == ChartDesign::Labels::Names || input.figures.components();
+    const bool names = input.chart().design.labels == ChartDesign::Labels::Names || input.data.components();
     const double longestName = names ? widest(input, labels, {}) : 0;
     layout.slanted = names && longestName + em * .5 > layout.slotWidth;
     const LabelStyle style = names

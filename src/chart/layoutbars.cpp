@@ -7,10 +7,10 @@ namespace plotvue::chart {
 
 namespace {
 
-constexpr double widestBar = 6, widestLoneBar = 9; // in em
+constexpr double maxBarWidth = 6, maxLoneBarWidth = 9; // in em
 constexpr int fewSlots = 3;
-constexpr double leastGap = 4; // between two figures
-constexpr double flatBar = 2;  // hairlines: a component of 0 shows its colour
+constexpr double minGap = 4;  // between two figures
+constexpr double flatBar = 2; // hairlines: a component of 0 shows its colour
 
 struct BarRow { // the bars of a slot, from left to right
     double each = 0, gap = 0, all = 0;
@@ -23,12 +23,13 @@ struct BarRow { // the bars of a slot, from left to right
 
 BarRow barRow(const LayoutInput& input, const Layout& layout)
 {
-    const bool grouped = !input.figures.stacked();
-    const double most = layout.em * (grouped || layout.slotCount <= fewSlots ? widestLoneBar : widestBar);
+    const bool grouped = !input.data.stacked();
+    const double maxWidth =
+        layout.em * (grouped || layout.slotCount <= fewSlots ? maxLoneBarWidth : maxBarWidth);
     const double count =
-        grouped ? static_cast<double>(std::max<std::size_t>(1, input.figures.series().size())) : 1;
+        grouped ? static_cast<double>(std::max<std::size_t>(1, input.data.series().size())) : 1;
     BarRow row;
-    row.each = std::min(layout.slotWidth * (grouped ? .82 : .70), most) / count;
+    row.each = std::min(layout.slotWidth * (grouped ? .82 : .70), maxWidth) / count;
     if (layout.pixel > 0)
         row.each = std::max(1.0, std::floor(row.each / layout.pixel)) * layout.pixel;
     row.gap = grouped && row.each > 7 ? layout.hairline : 0;
@@ -36,19 +37,19 @@ BarRow barRow(const LayoutInput& input, const Layout& layout)
     return row;
 }
 
-struct Total { // what is written above or below a bar or stack
+struct Total { // the figure above or below a bar or stack
     int slot;
     std::size_t place;
     double value;
     bool up;
 };
 
-void addStackTotals(const Figures& figures, int slot, std::vector<Total>& totals)
+void addStackTotals(const PlotData& data, int slot, std::vector<Total>& totals)
 {
     double up = 0, down = 0;
     bool any = false;
-    for (std::size_t s = 0; s < figures.series().size(); ++s) {
-        const std::optional<double> value = figures.value(s, slot);
+    for (std::size_t s = 0; s < data.series().size(); ++s) {
+        const std::optional<double> value = data.value(s, slot);
         any = any || value;
         (value.value_or(0) < 0 ? down : up) += value.value_or(0);
     }
@@ -58,29 +59,29 @@ void addStackTotals(const Figures& figures, int slot, std::vector<Total>& totals
         totals.push_back({slot, 0, down, false});
 }
 
-std::vector<Total> totalsOf(const Figures& figures)
+std::vector<Total> totalsOf(const PlotData& data)
 {
     std::vector<Total> totals;
-    for (int slot = 0; slot < figures.pointCount(); ++slot)
-        if (figures.stacked())
-            addStackTotals(figures, slot, totals);
+    for (int slot = 0; slot < data.pointCount(); ++slot)
+        if (data.stacked())
+            addStackTotals(data, slot, totals);
         else
-            for (std::size_t s = 0; s < figures.series().size(); ++s)
-                if (const std::optional<double> value = figures.value(s, slot))
+            for (std::size_t s = 0; s < data.series().size(); ++s)
+                if (const std::optional<double> value = data.value(s, slot))
                     totals.push_back({slot, s, *value, *value >= 0});
     return totals;
 }
 
 void placeSlot(const LayoutInput& input, Layout& layout, const BarRow& row, int slot)
 {
-    const bool stacked = input.figures.stacked();
+    const bool stacked = input.data.stacked();
     double reach[2] = {0, 0}; // down, up
     Bar* last[2] = {nullptr, nullptr};
-    layout.bars.reserve(layout.bars.size() + input.figures.series().size());
-    for (std::size_t s = 0; s < input.figures.series().size(); ++s) {
-        const std::optional<double> figure = input.figures.value(s, slot);
+    layout.bars.reserve(layout.bars.size() + input.data.series().size());
+    for (std::size_t s = 0; s < input.data.series().size(); ++s) {
+        const std::optional<double> figure = input.data.value(s, slot);
         const double value = figure.value_or(0);
-        if (!figure || (value == 0 && !input.figures.components()))
+        if (!figure || (value == 0 && !input.data.components()))
             continue;
         const bool up = value >= 0;
         const double from = stacked ? reach[up] : 0, to = from + value;
@@ -97,8 +98,8 @@ void placeSlot(const LayoutInput& input, Layout& layout, const BarRow& row, int 
 
 void placeValues(const LayoutInput& input, Layout& layout, const BarRow& row)
 {
-    for (const Total& total : totalsOf(input.figures)) {
-        Text text = input.figures.number(total.value);
+    for (const Total& total : totalsOf(input.data)) {
+        Text text = input.data.number(total.value);
         const double width = input.width(text), end = layout.snapped(layout.y(total.value));
         const double centre = row.left(layout, total.slot, total.place) + (row.each - row.gap) / 2;
         const double top = total.up ? end - layout.em * 1.125 : end + layout.em * .125;
@@ -110,10 +111,10 @@ void placeValues(const LayoutInput& input, Layout& layout, const BarRow& row)
 
 bool valuesFit(const LayoutInput& input, const Layout& layout)
 {
-    const double room = (input.figures.stacked() ? layout.slotWidth : barRow(input, layout).each) - leastGap;
-    const std::vector<Total> totals = totalsOf(input.figures);
+    const double room = (input.data.stacked() ? layout.slotWidth : barRow(input, layout).each) - minGap;
+    const std::vector<Total> totals = totalsOf(input.data);
     return std::all_of(totals.begin(), totals.end(),
-                       [&](const Total& t) { return input.width(input.figures.number(t.value)) <= room; });
+                       [&](const Total& t) { return input.width(input.data.number(t.value)) <= room; });
 }
 
 void placeBars(const LayoutInput& input, Layout& layout)

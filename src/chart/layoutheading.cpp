@@ -27,7 +27,7 @@ TextRole roleThatFits(const TitlePlace& place, TextSpan text, double room, const
 
 } // namespace
 
-double placeTitles(const LayoutInput& input, Layout& layout, const Box& inner, double top)
+double placeTitles(const LayoutInput& input, Layout& layout, const Rect& inner, double top)
 {
     for (const TitlePlace& place : titlePlaces) {
         const auto title = input.chart().titles.find(place.position);
@@ -38,7 +38,7 @@ double placeTitles(const LayoutInput& input, Layout& layout, const Box& inner, d
         text = input.fitted(std::move(text), inner.width, role);
         if (text.empty())
             continue;
-        // As high as in its first size: whoever steps from chart to chart sees the bars in one place.
+        // The height of its largest size, whatever its size: from chart to chart the bars stay in one place.
         const double height = input.metrics.height(place.roles.front());
         layout.titles.push_back(
             {{{inner.left, top, inner.width, height}, std::move(text)}, role, place.main});
@@ -47,24 +47,25 @@ double placeTitles(const LayoutInput& input, Layout& layout, const Box& inner, d
     return top;
 }
 
-double placeLegend(const LayoutInput& input, Layout& layout, const Box& inner, double top)
+double placeLegend(const LayoutInput& input, Layout& layout, const Rect& inner, double top)
 {
-    if (!input.figures.legendTellsSomething())
+    if (!input.data.legendTellsSomething())
         return top;
     const double em = layout.em, side = layout.snapped(em * .75), beforeName = side + em * .5;
     double left = inner.left;
     top += em * .5;
-    const auto& series = input.figures.series();
+    const auto& series = input.data.series();
     for (std::size_t s = 0; s < series.size(); ++s) {
         Text name = input.fitted(drawable(series[s].name), inner.width - beforeName, TextRole::Small);
         if (name.empty())
             continue;
         const double width = input.width(name);
-        if (left + beforeName + width > inner.right()) { // never the first of a line
+        if (left + beforeName + width >
+            inner.right()) { // the first of a line never breaks: its name was fitted
             left = inner.left;
             top += em * 1.25;
         }
-        const Box swatch{layout.snapped(left), layout.snapped(top + (em - side) / 2), side, side};
+        const Rect swatch{layout.snapped(left), layout.snapped(top + (em - side) / 2), side, side};
         layout.legend.push_back({s, swatch, {{left + beforeName, top, width, em}, std::move(name)}});
         left += beforeName + width + em * 1.25;
     }

@@ -1,4 +1,4 @@
-// The steps of the layout, from the top of the paper to the bars. Each adds its own to the layout.
+// The steps of the layout, in their order. Each adds its part to the layout.
 #pragma once
 
 #include "chart/layout.h"
@@ -6,25 +6,25 @@
 namespace plotvue::chart {
 
 struct LayoutInput {
-    const Figures& figures;
+    const PlotData& data;
     const Metrics& metrics;
 
-    const Chart& chart() const { return figures.chart(); }
+    const Chart& chart() const { return data.chart(); }
 
     double width(TextSpan text) const { return metrics.width(text, TextRole::Small); }
     Text fitted(Text text, double room, TextRole role) const;
 };
 
-// Each from `top` down within `inner`; answers where it ends.
-double placeTitles(const LayoutInput& input, Layout& layout, const Box& inner, double top);
-double placeLegend(const LayoutInput& input, Layout& layout, const Box& inner, double top);
+// Each places its part within `inner`, from `top` downwards, and returns where that part ends.
+double placeTitles(const LayoutInput& input, Layout& layout, const Rect& inner, double top);
+double placeLegend(const LayoutInput& input, Layout& layout, const Rect& inner, double top);
 
-// Scale, plot, ticks, labels and year rules in what is left of `inner` below `top`.
-void placeAxes(const LayoutInput& input, Layout& layout, const Box& inner, double top);
+// Places scale, plot, ticks, labels and year rules in the part of `inner` below `top`.
+void placeAxes(const LayoutInput& input, Layout& layout, const Rect& inner, double top);
 
-// Whether all figures fit above or below their bars, once slotWidth is known.
+// Whether every figure fits above or below its bar. Needs slotWidth.
 bool valuesFit(const LayoutInput& input, const Layout& layout);
-// Once the plot and the scale are known.
+// Needs the plot and the scale.
 void placeBars(const LayoutInput& input, Layout& layout);
 
 } // namespace plotvue::chart

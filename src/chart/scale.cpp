@@ -10,7 +10,7 @@ namespace plotvue::chart {
 namespace {
 
 constexpr int decimalsUnasked = 6;
-constexpr int mostTicks = 50;
+constexpr int maxTicks = 50;
 constexpr double tolerance = 1e-9;
 
 bool isWhole(double value)
@@ -18,12 +18,12 @@ bool isWhole(double value)
     return value > 0.5 && std::abs(value - std::round(value)) < 1e-6 * std::max(1.0, value);
 }
 
-double stepFor(double span, int mostSteps, double unit)
+double stepFor(double span, int maxSteps, double unit)
 {
-    const double least = span / std::max(1, mostSteps);
-    const double power = std::pow(10.0, std::floor(std::log10(least)));
+    const double minStep = span / std::max(1, maxSteps);
+    const double power = std::pow(10.0, std::floor(std::log10(minStep)));
     for (const double factor : {1.0, 2.0, 2.5, 5.0})
-        if (factor * power >= least * (1 - tolerance) && isWhole(factor * power / unit))
+        if (factor * power >= minStep * (1 - tolerance) && isWhole(factor * power / unit))
             return factor * power;
     return std::max(10 * power, unit);
 }
@@ -35,14 +35,14 @@ std::optional<double> finite(std::optional<double> value)
 
 } // namespace
 
-Range reachOf(const Figures& figures)
+Range reachOf(const PlotData& data)
 {
     Range reach;
-    for (int slot = 0; slot < figures.pointCount(); ++slot) {
+    for (int slot = 0; slot < data.pointCount(); ++slot) {
         double up = 0, down = 0;
-        for (std::size_t s = 0; s < figures.series().size(); ++s) {
-            const double value = figures.value(s, slot).value_or(0);
-            if (figures.stacked()) {
+        for (std::size_t s = 0; s < data.series().size(); ++s) {
+            const double value = data.value(s, slot).value_or(0);
+            if (data.stacked()) {
                 (value < 0 ? down : up) += value;
             } else {
                 down = std::min(down, value);
@@ -65,12 +65,12 @@ Scale scaleFor(Range reach, const ScaleWishes& wishes)
     if (max.value_or(reach.high) <= min.value_or(reach.low))
         min = max = std::nullopt;
     const double unit =
-        std::pow(10.0, -(wishes.decimals ? std::clamp(*wishes.decimals, 0, mostDecimals) : decimalsUnasked));
+        std::pow(10.0, -(wishes.decimals ? std::clamp(*wishes.decimals, 0, maxDecimals) : decimalsUnasked));
     const double low = min.value_or(reach.low), high = max.value_or(reach.high);
 
     Scale scale;
     const bool flat = high - low < unit * tolerance || !std::isfinite(high - low);
-    const double step = flat ? 1 : stepFor(high - low, wishes.mostSteps, unit);
+    const double step = flat ? 1 : stepFor(high - low, wishes.maxSteps, unit);
     scale.min = min.value_or(std::floor(low / step + tolerance) * step);
     scale.max = max.value_or(std::ceil(high / step - tolerance) * step);
     if (!(scale.max > scale.min))
@@ -79,7 +79,7 @@ Scale scaleFor(Range reach, const ScaleWishes& wishes)
 
     scale.ticks.clear();
     const double first = std::ceil(scale.min / step - tolerance);
-    for (int i = 0; i < mostTicks && (first + i) * step <= scale.max + step * tolerance; ++i)
+    for (int i = 0; i < maxTicks && (first + i) * step <= scale.max + step * tolerance; ++i)
         scale.ticks.push_back((first + i) * step);
     return scale;
 }

@@ -1,7 +1,7 @@
-// The value axis: where it begins and ends and which figures stand along it.
+// The value axis: its ends, and the figures along it.
 #pragma once
 
-#include "chart/figures.h"
+#include "chart/plotdata.h"
 
 namespace plotvue::chart {
 
@@ -10,8 +10,8 @@ struct Range {
     bool operator==(const Range&) const = default;
 };
 
-// What the bars reach, stacks added up.
-Range reachOf(const Figures& figures);
+// From the lowest end of a bar or stack to the highest.
+Range reachOf(const PlotData& data);
 
 struct Scale {
     double min = 0, max = 1;
@@ -20,13 +20,13 @@ struct Scale {
     bool operator==(const Scale&) const = default;
 };
 
-// Steps of 1, 2, 2.5 or 5 times a power of ten that `decimals` can write exactly, at most about `mostSteps`
-// of them. A given end is kept even where no tick is, unless bars reach beyond it: they are drawn whole. A
-// maximum not above the minimum leaves the axis to itself.
+// An axis with steps of 1, 2, 2.5 or 5 times a power of ten that `decimals` can write exactly, and about
+// `maxSteps` of them at most. A wished end is kept, even where it has no tick, unless bars reach beyond it.
+// Where the wished maximum is not above the minimum, neither counts.
 struct ScaleWishes {
     std::optional<double> min, max;
     std::optional<int> decimals; // absent: as many as the steps need
-    int mostSteps = 5;
+    int maxSteps = 5;
 };
 Scale scaleFor(Range reach, const ScaleWishes& wishes);
 

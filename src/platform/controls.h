@@ -1,5 +1,4 @@
-// The controls of a window as they are: the one model that the system sets, a person uses and a platform
-// shows.
+// The controls of a window: the one model that the system sets, a person uses and a platform shows.
 #pragma once
 
 #include "platform/declaration.h"
@@ -24,7 +23,7 @@ public:
         changed();
     }
 
-    // Calls `change` with the value. However much it changes, it is shown once.
+    // Calls `change` with the value, and shows it once, however much was changed.
     template <typename Change>
     void change(const Change& change)
     {
@@ -38,8 +37,8 @@ private:
     Value value_;
 };
 
-// One option of every frame is chosen. Options go by their index; for an index that is none, the functions
-// throw std::out_of_range.
+// An option group in one frame or several, with one option chosen in each. Options go by their index; the
+// functions throw std::out_of_range for one that the group does not have.
 struct OptionGroup {
     struct Option {
         int index;
@@ -53,7 +52,7 @@ struct OptionGroup {
     std::vector<int> chosen;     // ascending, one a frame
 
     int chosenIn(int frame) const;
-    void choose(int index); // in its frame, in place of the one that was chosen
+    void choose(int index); // the frame's earlier choice is no longer chosen
     void setCaption(int index, TextSpan caption) { option(index).caption = caption; }
     void setVisible(int index, bool visible) { option(index).visible = visible; }
 
@@ -63,8 +62,8 @@ private:
     Option& option(int index);
 };
 
-// Rows and columns count from 0; row 0 holds the headings. For cells outside the rows under it, the functions
-// throw std::out_of_range.
+// A grid of text. Rows and columns count from 0; row 0 holds the headings. The functions throw
+// std::out_of_range for a cell that is not in a row under the headings.
 struct Grid {
     Text format;                          // as GridBox::format
     int columns = 0, rows = 1;            // the heading row included
@@ -81,14 +80,14 @@ struct Grid {
 // What a control does when it is used: the index of an option, the row of a grid, 0 for a button.
 using Handlers = std::map<Name, std::function<void(int)>>;
 
-// For a name that the window does not have, the functions throw std::out_of_range.
+// The functions throw std::out_of_range for a name that the window does not have.
 class Controls {
 public:
     // `close` runs when a person closes the window with its title bar.
     Controls(Declaration declaration, Handlers handlers, std::function<void()> close);
     Controls(const Controls&) = delete;
 
-    const Declaration declaration; // what the controls were when the window was loaded
+    const Declaration declaration; // what the controls were at first
 
     Shown<Text> caption;
     Shown<Text>& text(Name labelOrTextBox) { return texts_.at(labelOrTextBox); }
@@ -102,7 +101,7 @@ public:
     void clickRow(Name grid, int row) { use(grid, row); }
     void close();
 
-    void disconnect(); // nothing that a person does is heard any more
+    void disconnect(); // from now on nothing that a person does runs a handler
 
 private:
     void add(const Label& label) { texts_.try_emplace(label.name, Text(label.text)); }

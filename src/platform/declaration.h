@@ -16,13 +16,13 @@ using Name = std::string_view;
 struct Button {
     Name name;
     TextSpan caption;      // "&" marks the mnemonic
-    TextSpan shortcut{};   // "F5"; several apart by ", "
-    TextSpan spokenName{}; // where the caption does not say it; also the tooltip
+    TextSpan shortcut{};   // "F5"; several are separated by ", "
+    TextSpan spokenName{}; // for a caption that does not say it; also the tooltip
     enum class Picture { None, Arrow } picture = Picture::None;
 };
 
 struct Font {
-    TextSpan family{}; // asked for; where the desktop lacks it, and where it is empty: the desktop's own
+    TextSpan family{}; // where it is empty or the desktop lacks it, the desktop's own is used
     double points = 0; // 0: the desktop's own size
     bool bold = false, italic = false;
     bool operator==(const Font&) const = default;
@@ -51,11 +51,11 @@ struct Option {
     TextSpan caption;
 };
 
-// One frame of an option group. Frames of the same group name are one control with one chosen option a frame.
+// One frame of an option group. Frames with the same group are one control, with one option chosen in each.
 struct OptionFrame {
     Name name;
     TextSpan caption;    // empty: an untitled frame
-    TextSpan spokenName; // where the caption does not say it
+    TextSpan spokenName; // for a caption that does not say it
     Name group;
     std::vector<Option> options; // from the top
     int chosen;                  // index chosen when the window opens
@@ -69,7 +69,8 @@ struct ChartBox {
 struct GridBox {
     Name name;
     TextSpan spokenName;
-    TextSpan format; // headings apart by "|", which may begin with "<" or ">"; blanks pad the widths
+    TextSpan format; // headings separated by "|", each with blanks as wide as its column is to be; "<" or ">"
+                     // before a heading is not shown
     std::vector<int> figures{}; // columns whose cells are figures, right-aligned
 };
 
@@ -86,27 +87,27 @@ struct Box {
     std::vector<Item> items;
 };
 
-struct Space {}; // takes what is left over
+struct Space {}; // takes the room that is left over
 
 struct Item {
     std::variant<Button, Label, TextBox, ListBox, OptionFrame, ChartBox, GridBox, PictureBox, Box, Space>
         what;
-    int stretch = 0; // share of the room left over; 0: its own size only
+    int stretch = 0; // its share of the room that is left over; 0: none
 };
 
 struct Declaration {
     Name name; // "frmProduct"
     TextSpan caption;
     Box content;
-    // Of the client area when it first opens, in device-independent pixels, in letters of 10 points; in
-    // larger ones it is larger in proportion.
+    // Of the client area when the window first opens, in device-independent pixels, where the desktop's
+    // letters have 10 points; larger in proportion where they are larger.
     int width = 1000, height = 600;
 };
 
 Item row(std::vector<Item> items, int stretch = 0);
 Item column(std::vector<Item> items, int stretch = 0);
 
-// Calls `visit` with every control in the declaration, in the order in which they stand.
+// Calls `visit` with every control in the declaration, in their order.
 template <typename Visitor>
 void forEachControl(const Box& box, Visitor&& visit)
 {

@@ -1,4 +1,5 @@
-// A window of the system: loaded when it is first shown, hidden when it is left, unloaded if it must be.
+// A window of the system: loaded when it is first shown, hidden when it is left, and unloaded by those that
+// begin anew each time.
 #pragma once
 
 #include "platform/platform.h"
@@ -38,8 +39,8 @@ protected:
     // Hides this window and shows `home` in its place.
     void leaveFor(Form& home);
 
-    // Asks for a printer and prints the window once a copy. Every failure, cancelling included, ends it
-    // without a word.
+    // Asks for a printer and prints the window as often as copies are wanted. A failure ends it silently, and
+    // so does a person who cancels.
     void printWindow();
 
     Platform& platform() const { return platform_; }
@@ -48,7 +49,7 @@ private:
     void load();
 
     Platform& platform_;
-    std::shared_ptr<Controls> controls_; // the platform's window has a share as long as anything shows them
+    std::shared_ptr<Controls> controls_; // shared with the platform's window, whose widgets may outlive both
     std::unique_ptr<Window> window_;
     bool visible_ = false;
     bool hiddenWhileLoading_ = false;

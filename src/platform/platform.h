@@ -1,5 +1,4 @@
-// What the system needs of a desktop. The verbs are few; a platform is either the real desktop or the
-// recording one of the tests.
+// What the system needs of a desktop. A platform is the real desktop, or the recording one of the tests.
 #pragma once
 
 #include "capture/failure.h"
@@ -11,7 +10,7 @@
 
 namespace plotvue {
 
-// Thrown by end(): nothing of the handler that ended the process runs any more.
+// Thrown by end(), so that the handler that ends the process runs no further.
 struct EndOfProcess {};
 
 // A window on the desktop.
@@ -44,9 +43,9 @@ public:
 
     [[noreturn]] void end() { throw EndOfProcess{}; }
 
-    // Runs an event's handler. Whatever it throws ends the process the way the platform does it: an end, a
-    // run-time error with the error report, a reader that never returns. Nothing runs once it is over:
-    // assistive technology reaches the windows under the last box too.
+    // Runs the handler of an event. What it throws ends the process: EndOfProcess with status 0, EndlessRead
+    // with the platform's spin(), a Failure and every other exception with the error report. Afterwards no
+    // handler runs any more: assistive technology reaches the windows under the last box, too.
     void run(const std::function<void()>& handler);
 
     bool over() const { return over_; } // the process has ended or failed, or its reader never returns
@@ -55,8 +54,9 @@ protected:
     virtual void showMessage(TextSpan title, TextSpan text) = 0;
     virtual void printWindow(Window& window) = 0;
     virtual void reportError(TextSpan sentence) = 0; // then the process ends with status 1
-    virtual void spin(int lines) = 0; // waits for ever; the text has that many lines that are not empty
-    virtual void finish() = 0;        // the process ends with status 0
+    virtual void
+    spin(int lines) = 0;       // waits for ever; the copied text has that many lines that are not empty
+    virtual void finish() = 0; // the process ends with status 0
 
 private:
     void fail(TextSpan sentence);

@@ -85,10 +85,10 @@ private:
                 for (int column = 0; column < grid->model()->columnCount(); ++column)
                     note(grid->model()->index(row, column).data().toString());
         for (const auto* chart : window.findChildren<ChartWidget*>()) {
-            const chart::Figures& figures = chart->figures();
+            const chart::PlotData& data = chart->plotData();
             note(toQString(chart::titlesInOneLine(chart->chart())));
-            for (int point = 0; point < figures.pointCount(); ++point)
-                note(toQString(figures.sentence(point)));
+            for (int point = 0; point < data.pointCount(); ++point)
+                note(toQString(data.sentence(point)));
             for (const chart::LegendEntry& entry : chart->chartLayout().legend)
                 note(toQString(entry.name.text));
         }

@@ -41,7 +41,7 @@ inline Declaration everyControl()
                      row({{PictureBox{
                               .name = "Picture1", .spokenName = u"Gain", .shows = PictureBox::Shows::Gain}},
                           {GridBox{.name = "Grid1",
-                                   .spokenName = u"Figures",
+                                   .spokenName = u"PlotData",
                                    .format = u"<Rank |Name        |Total  ",
                                    .figures = {2}},
                            1}}),

@@ -55,7 +55,7 @@ protected:
         std::set<int> labelled;
         std::map<double, double> ends; // of the labels so far, by the top of their line
         for (const chart::SlotLabel& label : layout.labels) {
-            const chart::Box& box = label.name.box;
+            const chart::Rect& box = label.name.box;
             EXPECT_FALSE(label.name.text.empty());
             EXPECT_TRUE(isWhole(label.name.text));
             EXPECT_LE(box.bottom(), chart.height());
@@ -88,7 +88,7 @@ protected:
         QImage paper(1, 1, QImage::Format_RGB32);
         paper.setDotsPerMeterX(11811);
         paper.setDotsPerMeterY(11811);
-        return chart::layoutChart(chart.figures(), {double(chart.width()), double(chart.height())},
+        return chart::layoutChart(chart.plotData(), {double(chart.width()), double(chart.height())},
                                   ChartFonts(chart.font(), chart.logicalDpiY(), paper), 0);
     }
 

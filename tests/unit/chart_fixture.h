@@ -25,7 +25,7 @@ public:
 inline Layout laidOut(Chart chart, const ChartDesign& design, Size paper, double deviceScale = 1)
 {
     chart.design = design;
-    return layoutChart(Figures(chart), paper, SixByTwelve(), deviceScale);
+    return layoutChart(PlotData(chart), paper, SixByTwelve(), deviceScale);
 }
 
 inline Chart fourBars()
@@ -48,7 +48,7 @@ inline std::string narrow(TextSpan text)
 }
 
 // "left,top widthxheight"
-inline std::string describe(const Box& box)
+inline std::string describe(const Rect& box)
 {
     std::ostringstream line;
     line << box.left << ',' << box.top << ' ' << box.width << 'x' << box.height;

@@ -67,9 +67,9 @@ TEST(ChartScale, ReachesAsFarAsStacksOrTheLongestOfABunchEachWay)
     Chart chart;
     chart.series = {{-5, 3}, {10, -7}, {0, 0}, {4, -2}};
     chart.labels = {u"A", u"B"};
-    EXPECT_EQ(reachOf(Figures(chart)), (Range{-9, 14}));
+    EXPECT_EQ(reachOf(PlotData(chart)), (Range{-9, 14}));
     chart.design.bars = ChartDesign::Bars::Grouped;
-    EXPECT_EQ(reachOf(Figures(chart)), (Range{-7, 10}));
+    EXPECT_EQ(reachOf(PlotData(chart)), (Range{-7, 10}));
 }
 
 TEST(ChartScale, WithoutAnyFigureEndsAtOne)

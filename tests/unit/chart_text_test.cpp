@@ -81,7 +81,7 @@ TEST(ChartTitles, KeepTheirHeightWhateverTheirSize)
     Chart chart;
     chart.titles = {{2, u"Product: 4711"}, {3, u"WH: 1"}};
     for (const double width : {128, 102}) {
-        const Layout layout = layoutChart(Figures(chart), {width, 200}, HighTitles(), 1);
+        const Layout layout = layoutChart(PlotData(chart), {width, 200}, HighTitles(), 1);
         EXPECT_EQ(layout.titles.at(0).box.height, 20);
         EXPECT_EQ(layout.titles.at(1).box.top, 9 + 20 + 1.5);
     }

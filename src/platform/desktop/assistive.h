@@ -1,9 +1,9 @@
-// What assistive technology is told of the widgets that the toolkit takes for mere containers.
+// What assistive technology is told about windows and pictures, which the toolkit takes for mere containers.
 #pragma once
 
 namespace plotvue {
 
-// Once for all windows and pictures; costs nothing until someone listens.
+// Installs it for the whole process; costs nothing until assistive technology is in use.
 void offerWindowsToAssistiveTechnology();
 
 } // namespace plotvue

@@ -5,12 +5,13 @@
 
 namespace plotvue {
 
-// Empty when the clipboard holds no text, or when its owner does not answer within some seconds.
+// Empty when the clipboard holds no text, or when its owner does not answer in time (seconds; see the
+// system's file).
 Text readClipboard();
 
 // True where only the window with the focus is told what the clipboard holds.
 bool clipboardNeedsFocus();
-// Returns when a window of ours has the focus, after a second at most.
+// Waits until one of our windows has the focus, but one second at most.
 void waitForFocus();
 
 // `text` with CR LF in place of each bare line feed. An empty line that such a line feed ends becomes a

@@ -1,5 +1,5 @@
-// The real desktop. A QApplication must exist, and outlive it. Whoever plays the person at the screen, a test
-// for one, overrides the questions and the endings.
+// The real desktop. A QApplication must exist and outlive it. A test that plays the person at the screen
+// overrides the boxes, the printer dialog and the ways in which the process ends.
 #pragma once
 
 #include "platform/desktop/presenter.h"
@@ -13,7 +13,7 @@ class QApplication;
 
 namespace plotvue {
 
-// The application, connected with its display. Where no window can be shown, a sentence says so on standard
+// The application, connected to its display. Where no window can be shown, a sentence says so on standard
 // error and the process ends with status 1.
 std::unique_ptr<QApplication> makeApplication(int& argc, char** argv);
 
@@ -26,7 +26,7 @@ public:
     std::unique_ptr<Window> build(std::shared_ptr<Controls> controls) override;
     double choosePrinter(Window& window) override;
 
-    // Shows and hides the windows as wanted, now rather than when control is back with the event loop.
+    // Shows and hides the windows now; otherwise that happens when control is back with the event loop.
     void settle() { presenter_.settle(); }
 
 protected:
@@ -37,7 +37,8 @@ protected:
     void finish() override;
 
 private:
-    // Startup asks for the clipboard, and so does the window that it shows: its owner is asked once an event.
+    // Within one event the start-up window asks for the clipboard, and so does the window that it shows; the
+    // clipboard's owner is asked once.
     std::optional<Text> readInThisEvent_;
     Presenter presenter_;
     Printing printing_;

@@ -14,7 +14,7 @@ public:
     ~DesktopWindow() override;
     DesktopWindow(const DesktopWindow&) = delete;
 
-    // What is wanted; the desktop sees it when the presenter settles.
+    // Say what is wanted; it happens when the presenter settles.
     void show() override;
     void hide() override;
     bool wanted() const { return wanted_; }
@@ -29,7 +29,7 @@ private:
 
     Presenter& presenter_;
     std::shared_ptr<Controls> controls_;
-    WindowWidget* widget_ = nullptr; // goes by itself once it is retired
+    WindowWidget* widget_ = nullptr; // deletes itself once it is retired
     bool wanted_ = false, raise_ = false;
 };
 

@@ -1,5 +1,5 @@
-// Finds the fonts on threads beside the program's own, which first needs them when it builds a window. They
-// take about as long as connecting to the display.
+// Finds the fonts on threads of its own, while the program connects to the display, which takes about as
+// long. The program first needs them when it builds a window.
 #pragma once
 
 #include <future>

@@ -14,7 +14,7 @@ class GridModel : public QAbstractTableModel {
 public:
     GridModel(const GridBox& declared, Shown<Grid>& grid, QObject* parent);
 
-    // A heading with its padding blanks, which say how wide the column is meant to be.
+    // A heading with the blanks that pad it to the width that its column is to have.
     QString heading(int column) const;
     bool holdsFigures(int column) const;
 
@@ -54,7 +54,7 @@ private:
 
     GridModel* model_;
     bool fitted_ = false;       // while the sections are being fitted
-    bool widthsChosen_ = false; // a person has dragged one
+    bool widthsChosen_ = false; // by a person, who has dragged a border
 };
 
 } // namespace plotvue

@@ -11,7 +11,7 @@ class OptionButtons : public QObject {
 public:
     OptionButtons(Controls& controls, Name group, QObject* parent);
 
-    // The buttons of the frame, which is the next of the group.
+    // Makes the next frame of the group, with its buttons.
     QGroupBox* addFrame(const OptionFrame& declared, QWidget* parent);
 
 private:
@@ -19,7 +19,7 @@ private:
 
     Controls& controls_;
     Name group_;
-    std::vector<OptionButton*> buttons_; // as the group's options
+    std::vector<OptionButton*> buttons_; // in the order of the group's options
 };
 
 } // namespace plotvue

@@ -15,7 +15,7 @@ void Presenter::settleLater()
 void Presenter::settle()
 {
     pending_ = false;
-    // What comes is there before what goes, so that the desktop does not shine through.
+    // Windows are shown before others are hidden, so that the desktop is never seen between them.
     for (DesktopWindow* window : windows_)
         if (window->wanted())
             window->settle();

@@ -1,5 +1,5 @@
-// Brings the windows to the screen the way they are wanted, once the handlers have had their say: a window
-// that is shown and hidden again within one event is never seen.
+// Shows and hides the windows on the screen when the handlers of an event are done: a window that is shown
+// and hidden again within one event is never seen.
 #pragma once
 
 #include "platform/declaration.h"
@@ -18,7 +18,7 @@ class Presenter : public QObject {
     Q_OBJECT
 
 public:
-    // Where windows were last seen; one of the same name, built anew too, comes back there.
+    // Where windows were last seen. A window comes back to its place, even if it was built anew.
     std::map<Name, QPoint> places;
 
     void enter(DesktopWindow& window) { windows_.push_back(&window); }

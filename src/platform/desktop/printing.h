@@ -29,11 +29,11 @@ protected:
     virtual bool ask(QPrinter& printer, QWidget& window);
 
 private:
-    std::unique_ptr<QPrinter> printer_; // none before somebody prints: looking for printers takes time
+    std::unique_ptr<QPrinter> printer_; // made when somebody first prints: looking for printers takes time
 };
 
-// Draws the client area as vectors on white paper, as large as `page` allows. One unit of the painter is to
-// be one of the window's pixels: a device of the same resolution.
+// Draws the client area as vectors on white paper, as large as `page` allows. The painter's device must have
+// the window's resolution, so that one unit of the painter is one pixel of the window.
 void drawOnPaper(QWidget& window, QPainter& painter, const QRectF& page);
 
 // The system's default printer for this user. Does nothing on a Unix where printing does not go through CUPS:

@@ -1,4 +1,4 @@
-// Text as a widget shows it: without control characters, which only drawing leaves out.
+// Text as a widget shows it. Captures are handed on as they are; only here control characters are left out.
 #pragma once
 
 #include "platform/desktop/chart/qtext.h"

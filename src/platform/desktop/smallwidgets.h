@@ -10,7 +10,7 @@
 
 namespace plotvue {
 
-// Shows text that can be selected and copied, and does not look as if it took any.
+// Shows text that can be selected and copied but not changed, without the frame of an input field.
 class TextLine : public QLineEdit {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ public:
     TextLine(const TextBox& declared, Shown<Text>& text, QWidget* parent);
 };
 
-// A list to be read: its rows cannot be copied over the screen that the clipboard holds.
+// A list to read. Ctrl+C on it copies nothing, so that the clipboard keeps the captured screen.
 class TextList : public QListWidget {
     Q_OBJECT
 
@@ -29,13 +29,13 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 };
 
-// An option that is clicked when assistive technology toggles it, too.
+// An option that also counts as clicked when assistive technology toggles it.
 class OptionButton : public QRadioButton {
     Q_OBJECT
 
 public:
     using QRadioButton::QRadioButton;
-    void showChecked(bool checked); // which is no click
+    void showChecked(bool checked); // does not count as clicked
 
 protected:
     void nextCheckState() override;

@@ -1,4 +1,4 @@
-// The top-level widget of a window. It outlives its window by the rest of the event in which that goes.
+// The top-level widget of a window. It lives on until the end of the event in which its window is destroyed.
 #pragma once
 
 #include "platform/controls.h"
@@ -17,14 +17,14 @@ public:
 
     Controls& controls() const { return *controls_; }
 
-    // The widget's last act: gone from the screen at once, deleted when the event is over.
+    // Takes it from the screen at once and deletes it when the event is over.
     void retire();
 
 protected:
     void closeEvent(QCloseEvent* event) override; // never closes by itself
 
 private:
-    std::shared_ptr<Controls> controls_; // the widgets inside show them as long as they live
+    std::shared_ptr<Controls> controls_; // the widgets inside refer to them as long as they live
 };
 
 } // namespace plotvue

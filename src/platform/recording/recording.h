@@ -1,5 +1,4 @@
-// The platform in memory: the controls are all there is of a window, and every question is answered as it was
-// told to.
+// The platform in memory: it shows nothing, and a test sets what it answers.
 #pragma once
 
 #include "platform/platform.h"

@@ -8,7 +8,7 @@ namespace plotvue {
 
 namespace {
 
-constexpr double radius = 2, leastRounded = 8, hatchDistance = 5;
+constexpr double radius = 2, minRoundedWidth = 8, hatchDistance = 5;
 
 // Only the end as a path: paths are slow in proportion to what they fill. It overlaps the rest by one, lest a
 // printer leave a seam.
@@ -65,7 +65,7 @@ void paintBar(QPainter& painter, const QRectF& box, const BarLook& look, BarEnd 
     if (look.projection)
         return paintProjection(painter, box, look);
     const bool edged = look.colours.outline.isValid() && box.width() > 3 && box.height() > 3;
-    if (end == BarEnd::Square || box.width() < leastRounded) {
+    if (end == BarEnd::Square || box.width() < minRoundedWidth) {
         painter.fillRect(box, edged ? look.colours.outline : look.colours.fill);
         if (edged)
             painter.fillRect(box.adjusted(1, 1, -1, -1), look.colours.fill);

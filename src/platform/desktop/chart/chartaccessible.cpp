@@ -30,7 +30,7 @@ public:
     {
         if (kind != QAccessible::Name || !isValid())
             return {};
-        return toQString(chart_->figures().sentence(point_));
+        return toQString(chart_->plotData().sentence(point_));
     }
 
     QRect rect() const override

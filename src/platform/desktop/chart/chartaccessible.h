@@ -1,13 +1,14 @@
-// What assistive technology is told of a chart: its titles as name, and one child a point that reads it out.
+// What assistive technology is told about a chart: its titles as name, and a child for each point, whose name
+// is its read-out.
 #pragma once
 
 namespace plotvue {
 
 class ChartWidget;
 
-// Once for all charts; costs nothing until someone listens.
+// Installs it for the whole process; costs nothing until assistive technology is in use.
 void offerChartsToAssistiveTechnology();
-void announceContent(ChartWidget& chart); // its name and every point's may be others
+void announceContent(ChartWidget& chart); // tells that the names of the chart and its points may have changed
 void announceCurrentPoint(ChartWidget& chart);
 
 } // namespace plotvue

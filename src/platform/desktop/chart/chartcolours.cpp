@@ -52,7 +52,7 @@ ChartInks::ChartInks(const QPalette& palette)
       band(mixed(ink, paper, .93))
 {}
 
-BarColours barColours(const chart::Figures::Series& series, const ChartInks& inks)
+BarColours barColours(const chart::PlotData::Series& series, const ChartInks& inks)
 {
     const QColor asked(series.colour.red, series.colour.green, series.colour.blue);
     if (series.ownColour) // exactly as asked; an edge sets it off

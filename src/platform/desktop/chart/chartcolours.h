@@ -1,7 +1,7 @@
-// The colours of a chart, all but the bars' taken from the palette.
+// The colours of a chart. All but those of the bars come from the desktop's palette.
 #pragma once
 
-#include "chart/figures.h"
+#include "chart/plotdata.h"
 
 #include <QColor>
 #include <QPalette>
@@ -12,15 +12,15 @@ QColor mixed(const QColor& from, const QColor& to, double share); // share 0: `f
 
 struct ChartInks {
     explicit ChartInks(const QPalette& palette);
-    QColor paper, ink, soft, grid, axis, band; // band: behind the current point
+    QColor paper, ink, soft, grid, axis, band; // band: of the current point's slot
 };
 
 struct BarColours {
     QColor fill;
-    QColor outline; // invalid: the fill stands out from the paper by itself
+    QColor outline; // invalid where the fill needs none to be seen on the paper
 };
 // Readable on the paper of `inks`, light or dark.
-BarColours barColours(const chart::Figures::Series& series, const ChartInks& inks);
+BarColours barColours(const chart::PlotData::Series& series, const ChartInks& inks);
 
 QPalette whitePaper();
 

@@ -1,4 +1,4 @@
-// The fonts of a chart: sizes of the window's own, and how much room text takes in them.
+// The fonts of a chart, all derived from the window's font, and how much room text takes in them.
 #pragma once
 
 #include "chart/layout.h"
@@ -12,7 +12,7 @@ namespace plotvue {
 
 class ChartFonts : public chart::Metrics {
 public:
-    // Sizes that come out on `device` as `base` does at `baseDpi`.
+    // Fonts that are as large on `device` as `base` is at `baseDpi`.
     ChartFonts(const QFont& base, int baseDpi, const QPaintDevice& device);
 
     const QFont& font(chart::TextRole role) const { return fonts_[static_cast<std::size_t>(role)]; }

@@ -13,14 +13,14 @@ namespace {
 
 class ChartPainter {
 public:
-    ChartPainter(QPainter& painter, const chart::Figures& figures, const chart::Layout& layout,
+    ChartPainter(QPainter& painter, const chart::PlotData& data, const chart::Layout& layout,
                  const ChartInks& inks, const ChartFonts& fonts)
         : painter_(painter),
           layout_(layout),
           inks_(inks),
           fonts_(fonts)
     {
-        for (const auto& series : figures.series())
+        for (const auto& series : data.series())
             looks_.push_back({barColours(series, inks), inks.paper, series.projection});
     }
 
@@ -66,7 +66,7 @@ void ChartPainter::paintLegend()
 
 void ChartPainter::paintAxis()
 {
-    const chart::Box& plot = layout_.plot;
+    const chart::Rect& plot = layout_.plot;
     painter_.setPen(inks_.soft);
     for (const chart::Tick& tick : layout_.ticks) {
         paintRule({plot.left, tick.y, plot.width, layout_.hairline}, inks_.grid);
@@ -78,7 +78,7 @@ void ChartPainter::paintAxis()
 
 void ChartPainter::paintSlanted(const chart::Line& line)
 {
-    const chart::Box& box = line.box;
+    const chart::Rect& box = line.box;
     painter_.save();
     painter_.translate(box.right(), box.centreY());
     painter_.rotate(-45);
@@ -128,19 +128,19 @@ void ChartPainter::paintValues(int current)
 
 } // namespace
 
-QRectF toQRectF(const chart::Box& box)
+QRectF toQRectF(const chart::Rect& box)
 {
     return {box.left, box.top, box.width, box.height};
 }
 
-void paintChart(QPainter& painter, const chart::Figures& figures, const chart::Layout& layout,
+void paintChart(QPainter& painter, const chart::PlotData& data, const chart::Layout& layout,
                 const QPalette& palette, const ChartFonts& fonts, int current)
 {
     const ChartInks inks(palette);
     painter.fillRect(QRectF(0, 0, layout.paper.width, layout.paper.height), inks.paper);
     if (current >= 0)
         painter.fillRect(toQRectF(layout.slotBox(current)).adjusted(0, -4, 0, 0), inks.band);
-    ChartPainter chart(painter, figures, layout, inks, fonts);
+    ChartPainter chart(painter, data, layout, inks, fonts);
     chart.paintTitles();
     painter.setFont(fonts.font(TextRole::Small));
     chart.paintAxis();

@@ -11,17 +11,17 @@ class QPainter;
 
 namespace plotvue {
 
-QRectF toQRectF(const chart::Box& box);
+QRectF toQRectF(const chart::Rect& box);
 
 // How a line of text is aligned in its box.
 inline constexpr int oneLine = Qt::TextSingleLine | Qt::TextDontClip | Qt::AlignVCenter;
 
-// `layout` is that of `figures`; `current` the point that is marked, -1: none. Covers the whole paper.
-void paintChart(QPainter& painter, const chart::Figures& figures, const chart::Layout& layout,
+// `layout` is that of `data`; `current` the point that is marked, -1: none. Covers the whole paper.
+void paintChart(QPainter& painter, const chart::PlotData& data, const chart::Layout& layout,
                 const QPalette& palette, const ChartFonts& fonts, int current);
 
 // The card that reads a point out, beside its slot.
-void paintReadout(QPainter& painter, const chart::Figures& figures, const chart::Layout& layout,
+void paintReadout(QPainter& painter, const chart::PlotData& data, const chart::Layout& layout,
                   const QPalette& palette, const ChartFonts& fonts, int current);
 
 } // namespace plotvue

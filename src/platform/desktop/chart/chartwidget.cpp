@@ -18,13 +18,13 @@ ChartWidget::ChartWidget(QWidget* parent) : QWidget(parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     offerChartsToAssistiveTechnology();
-    figures_.emplace(chart_);
+    data_.emplace(chart_);
 }
 
 void ChartWidget::setChart(const Chart& chart)
 {
     chart_ = chart;
-    figures_.emplace(chart_);
+    data_.emplace(chart_);
     layout_.reset();
     if (current_ >= points())
         setCurrentPoint(-1);
@@ -53,7 +53,7 @@ const chart::Layout& ChartWidget::chartLayout() const
     if (!layout_ || layoutSize_ != size() || layoutScale_ != devicePixelRatioF()) {
         layoutSize_ = size();
         layoutScale_ = devicePixelRatioF();
-        layout_ = chart::layoutChart(*figures_, {double(width()), double(height())}, fonts(), layoutScale_);
+        layout_ = chart::layoutChart(*data_, {double(width()), double(height())}, fonts(), layoutScale_);
     }
     return *layout_;
 }
@@ -82,18 +82,18 @@ void ChartWidget::paint(QPainter& painter) const
 {
     const ChartFonts paperFonts(font(), logicalDpiY(), *painter.device());
     const chart::Layout layout =
-        chart::layoutChart(*figures_, {double(width()), double(height())}, paperFonts, 0);
+        chart::layoutChart(*data_, {double(width()), double(height())}, paperFonts, 0);
     painter.save();
-    paintChart(painter, *figures_, layout, whitePaper(), paperFonts, -1);
+    paintChart(painter, *data_, layout, whitePaper(), paperFonts, -1);
     painter.restore();
 }
 
 void ChartWidget::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    paintChart(painter, *figures_, chartLayout(), palette(), fonts(), current_);
+    paintChart(painter, *data_, chartLayout(), palette(), fonts(), current_);
     if (current_ >= 0)
-        paintReadout(painter, *figures_, chartLayout(), palette(), fonts(), current_);
+        paintReadout(painter, *data_, chartLayout(), palette(), fonts(), current_);
     if (hasFocus() && byKey_) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setBrush(Qt::NoBrush);

@@ -17,18 +17,18 @@ public:
 
     void setChart(const Chart& chart);
     const Chart& chart() const { return chart_; }
-    const chart::Figures& figures() const { return *figures_; }
+    const chart::PlotData& plotData() const { return *data_; }
 
-    int points() const { return figures_->pointCount(); } // an empty slot at the end is none
-    int currentPoint() const { return current_; }         // -1: none
-    void setCurrentPoint(int point);                      // -1, and what is no point, for none
-    int pointAt(QPoint position) const;                   // -1: none
-    QRect pointRect(int point) const;                     // its whole slot, in widget coordinates
+    int points() const { return data_->pointCount(); } // an empty slot at the end is none
+    int currentPoint() const { return current_; }      // -1: none
+    void setCurrentPoint(int point);                   // -1 or what is no point: none
+    int pointAt(QPoint position) const;                // -1: none
+    QRect pointRect(int point) const;                  // its whole slot, in widget coordinates
 
     const chart::Layout& chartLayout() const; // where everything is at the widget's size
 
-    // As on paper: vectors on white, whatever the desktop's colours, without anything that follows the
-    // pointer. Takes the widget's size in the painter's units from its origin.
+    // Draws the chart as on paper: vectors on white, whatever the desktop's colours are, without a current
+    // point. It covers the widget's size from the painter's origin on, in the painter's units.
     void paint(QPainter& painter) const;
 
     QSize minimumSizeHint() const override { return {280, 220}; }
@@ -49,13 +49,13 @@ private:
     std::optional<int> pointForKey(const QKeyEvent& event) const;
 
     Chart chart_;
-    std::optional<chart::Figures> figures_; // of the chart
+    std::optional<chart::PlotData> data_; // of the chart
     int current_ = -1;
     bool hovering_ = false;
-    bool byKey_ = false; // the focus came or was used by key: it is shown
+    bool byKey_ = false; // the focus came by key or a key was used: a frame shows it
     bool announcing_ = false;
 
-    // Kept until size, chart, font or device change.
+    // Kept until the size, the chart, the font or the device changes.
     mutable std::optional<ChartFonts> fonts_;
     mutable std::optional<chart::Layout> layout_;
     mutable QSize layoutSize_;

@@ -16,45 +16,44 @@ constexpr double rowHeight = 1.25, besideSlot = 8, fromEdge = 4;
 struct Row {
     Text name;
     QString figure;
-    int series = -1; // of the figures; -1: the total
+    int series = -1; // of the data; -1: the total
 };
 
-std::vector<Row> rowsOf(const chart::Figures& figures, int slot)
+std::vector<Row> rowsOf(const chart::PlotData& data, int slot)
 {
     std::vector<Row> rows;
     double total = 0;
-    for (std::size_t s = 0; s < figures.series().size(); ++s) {
-        const std::optional<double> value = figures.value(s, slot);
-        if (!value || (figures.series()[s].projection && *value == 0))
+    for (std::size_t s = 0; s < data.series().size(); ++s) {
+        const std::optional<double> value = data.value(s, slot);
+        if (!value || (data.series()[s].projection && *value == 0))
             continue;
         total += *value;
-        rows.push_back(
-            {chart::drawable(figures.series()[s].name), toQString(figures.number(*value)), int(s)});
+        rows.push_back({chart::drawable(data.series()[s].name), toQString(data.number(*value)), int(s)});
     }
-    if (figures.stacked() && rows.size() > 1)
-        rows.push_back({u"Total", toQString(figures.number(total)), -1});
+    if (data.stacked() && rows.size() > 1)
+        rows.push_back({u"Total", toQString(data.number(total)), -1});
     return rows;
 }
 
 class Card {
 public:
-    Card(const chart::Figures& figures, const chart::Layout& layout, const ChartFonts& fonts, int slot)
-        : figures_(figures),
+    Card(const chart::PlotData& data, const chart::Layout& layout, const ChartFonts& fonts, int slot)
+        : data_(data),
           em_(layout.em),
           fonts_(fonts),
-          rows_(rowsOf(figures, slot))
+          rows_(rowsOf(data, slot))
     {
         bold_ = fonts.font(TextRole::Small);
         bold_.setWeight(QFont::DemiBold);
         // A bold figure is a little wider than the plain one that is measured.
         const auto width = [&](TextSpan text) { return fonts.width(text, TextRole::Small); };
-        const double most = layout.paper.width * .5;
-        const auto fitted = [&](const Text& text) { return toQString(chart::elided(text, most, width)); };
-        if (!figures.components())
-            label_ = fitted(chart::drawable(figures.label(slot)));
+        const double maxWidth = layout.paper.width * .5;
+        const auto fitted = [&](const Text& text) { return toQString(chart::elided(text, maxWidth, width)); };
+        if (!data.components())
+            label_ = fitted(chart::drawable(data.label(slot)));
         double names = 0, numbers = 0;
         for (Row& row : rows_) {
-            row.name = chart::elided(row.name, most, width);
+            row.name = chart::elided(row.name, maxWidth, width);
             names = qMax(names, width(row.name));
             numbers = qMax(numbers, width(row.figure.toStdU16String()) * boldness);
         }
@@ -74,7 +73,7 @@ private:
     void paintPaper(QPainter& painter, const ChartInks& inks) const;
     void paintRow(QPainter& painter, const ChartInks& inks, const Row& row, const QRectF& place) const;
 
-    const chart::Figures& figures_;
+    const chart::PlotData& data_;
     double em_;
     const ChartFonts& fonts_;
     QFont bold_;
@@ -85,7 +84,7 @@ private:
 
 void Card::place(const chart::Layout& layout, int slot, QSizeF size)
 {
-    const chart::Box at = layout.slotBox(slot);
+    const chart::Rect at = layout.slotBox(slot);
     double left = at.right() + besideSlot;
     if (left + size.width() > layout.paper.width - fromEdge)
         left = at.left - besideSlot - size.width();
@@ -109,7 +108,7 @@ void Card::paintPaper(QPainter& painter, const ChartInks& inks) const
 void Card::paintRow(QPainter& painter, const ChartInks& inks, const Row& row, const QRectF& place) const
 {
     if (row.series >= 0) {
-        const auto& series = figures_.series()[std::size_t(row.series)];
+        const auto& series = data_.series()[std::size_t(row.series)];
         const double side = qRound(em_ * .7);
         const QRectF swatch(qRound(place.left()), qRound(place.center().y() - side / 2), side, side);
         paintBar(painter, swatch, {barColours(series, inks), inks.paper, series.projection},
@@ -142,10 +141,10 @@ void Card::paint(QPainter& painter, const ChartInks& inks) const
 
 } // namespace
 
-void paintReadout(QPainter& painter, const chart::Figures& figures, const chart::Layout& layout,
+void paintReadout(QPainter& painter, const chart::PlotData& data, const chart::Layout& layout,
                   const QPalette& palette, const ChartFonts& fonts, int current)
 {
-    const Card card(figures, layout, fonts, current);
+    const Card card(data, layout, fonts, current);
     if (!card.isEmpty())
         card.paint(painter, ChartInks(palette));
 }

@@ -1,4 +1,5 @@
-// Which of a chart's series and slots count, what they are called and how they are read out.
+// The part of a chart's data that is plotted: its series and slots, what they are called and how they are
+// read out.
 #pragma once
 
 #include "chart/chart.h"
@@ -8,35 +9,36 @@
 
 namespace plotvue::chart {
 
-// A view: the chart must outlive it. Slots count from 0, and so do the series here, in which those
-// that do not count are left out: hidden ones, a projection of nothing, and a series without name and figures
-// beside named ones (a group that the screen does not have).
-class Figures {
+// Refers to the chart, which must outlive it. Slots and series count from 0. Series that are not plotted are
+// left out: hidden ones, a projection that is zero everywhere, and a series that has neither name nor figures
+// while another has a name (a group that the screen does not have).
+class PlotData {
 public:
     struct Series {
         std::size_t number = 0; // in the chart
         TextSpan name;          // may be empty
         Colour colour;
-        bool ownColour = false; // asked for by the chart, not taken from the palette
+        bool ownColour = false; // the chart asks for it; else it is of the palette
         bool projection = false;
     };
 
-    explicit Figures(const Chart& chart);
+    explicit PlotData(const Chart& chart);
 
     const Chart& chart() const { return chart_; }
 
     const std::vector<Series>& series() const { return series_; }
-    // A chart of one point a series and no labels compares its series: each gets a slot and its name as
-    // label.
+    // A chart without labels whose series have one point each compares its series: each gets a slot of its
+    // own, labelled with its name.
     bool components() const { return components_; }
     bool stacked() const { return stacked_; }
     bool legendTellsSomething() const;
 
-    int slotCount() const { return slotCount_; }   // as wide as the chart is drawn
+    int slotCount() const { return slotCount_; }   // drawn, the empty one included
     int pointCount() const { return pointCount_; } // without an empty slot at the end
-    TextSpan label(int slot) const;                // raw; empty when there is none
+    TextSpan label(int slot) const;                // as it was handed over; empty when there is none
 
-    // Absent where the series is too short; 0 for what is not a number; brought into what can be added up.
+    // Absent where the series is too short; 0 for what is not a number; at most 1e300 either way, so that
+    // sums of them are finite.
     std::optional<double> value(std::size_t series, int slot) const;
     Text number(double value) const;
     // "OCT99: Sales 512, Projected 388"; empty for a slot that is no point.

@@ -1,4 +1,4 @@
-#include "chart/figures.h"
+#include "chart/plotdata.h"
 
 #include "chart/drawable.h"
 #include "chart/figuretext.h"
@@ -11,7 +11,7 @@ namespace plotvue::chart {
 
 namespace {
 
-// Told apart by colour-blind eyes too, the largest differences first.
+// Eyes blind to some colours can tell these apart too; neighbours differ most at the beginning.
 constexpr std::array<Colour, 8> palette{{{0x24, 0x58, 0xB0},
                                          {0xDB, 0x9A, 0x35},
                                          {0x1A, 0x9C, 0x8F},
@@ -30,7 +30,7 @@ double counted(double value)
 
 } // namespace
 
-Figures::Figures(const Chart& chart) : chart_(chart)
+PlotData::PlotData(const Chart& chart) : chart_(chart)
 {
     findSeries();
     findSlots();
@@ -38,12 +38,12 @@ Figures::Figures(const Chart& chart) : chart_(chart)
     decimals_ = chart_.decimals ? *chart_.decimals : decimalsOfValues();
 }
 
-bool Figures::nothingIn(const std::vector<double>& values) const
+bool PlotData::nothingIn(const std::vector<double>& values) const
 {
     return std::all_of(values.begin(), values.end(), [](double v) { return counted(v) == 0; });
 }
 
-TextSpan Figures::nameOf(int number, bool alone) const
+TextSpan PlotData::nameOf(int number, bool alone) const
 {
     if (const auto own = chart_.legends.find(number); own != chart_.legends.end())
         return own->second;
@@ -55,7 +55,7 @@ TextSpan Figures::nameOf(int number, bool alone) const
     return {};
 }
 
-void Figures::findSeries()
+void PlotData::findSeries()
 {
     std::size_t colours = 0;
     for (std::size_t i = 0; i < chart_.series.size(); ++i) {
@@ -85,7 +85,7 @@ void Figures::findSeries()
         });
 }
 
-void Figures::findSlots()
+void PlotData::findSlots()
 {
     std::size_t longest = chart_.labels.size();
     for (const Series& s : series_)
@@ -102,7 +102,7 @@ void Figures::findSlots()
     pointCount_ = last;
 }
 
-bool Figures::legendTellsSomething() const
+bool PlotData::legendTellsSomething() const
 {
     if (components_)
         return false;
@@ -112,7 +112,7 @@ bool Figures::legendTellsSomething() const
                                                    [](const Series& s) { return s.projection; }));
 }
 
-TextSpan Figures::label(int slot) const
+TextSpan PlotData::label(int slot) const
 {
     const std::size_t i = static_cast<std::size_t>(slot);
     if (slot < 0 || slot >= slotCount_)
@@ -122,7 +122,7 @@ TextSpan Figures::label(int slot) const
     return i < chart_.labels.size() ? TextSpan(chart_.labels[i]) : TextSpan();
 }
 
-std::optional<double> Figures::value(std::size_t series, int slot) const
+std::optional<double> PlotData::value(std::size_t series, int slot) const
 {
     const std::vector<double>& values = chart_.series[series_[series].number];
     if (components_ && static_cast<std::size_t>(slot) != series)
@@ -133,7 +133,7 @@ std::optional<double> Figures::value(std::size_t series, int slot) const
     return counted(values[i]);
 }
 
-int Figures::decimalsOfValues() const
+int PlotData::decimalsOfValues() const
 {
     int decimals = 0;
     for (const Series& s : series_)
@@ -142,12 +142,12 @@ int Figures::decimalsOfValues() const
     return decimals;
 }
 
-Text Figures::number(double value) const
+Text PlotData::number(double value) const
 {
     return figureText(value, decimals_);
 }
 
-Text Figures::sentence(int slot) const
+Text PlotData::sentence(int slot) const
 {
     if (slot < 0 || slot >= pointCount_)
         return {};
