@@ -13,18 +13,46 @@
 
 namespace plotvue {
 
+namespace {
+
+// The rows follow the dash line, whatever line it is on.
+MonthPlace placeAfterDashLine(const MonthlyScreen& screen, const ScreenLines& lines, int month)
+{
+    MonthPlace place = placeInBlocks(screen, lines, month);
+    place.line += lines.dashLine();
+    return place;
+}
+
+// Of line 2, from the colon on. A colon at the very end of the line does not count.
+TextSpan afterColon(const ScreenLines& lines, int from, Position length)
+{
+    const TextSpan line = withoutLast(lines[2]);
+    return mid(line, find(line, u":") + from, length);
+}
+
+TextSpan productNumber(const ScreenLines& lines, const DataType&)
+{
+    return afterColon(lines, 1, 10);
+}
+
+TextSpan productName(const ScreenLines& lines, const DataType&)
+{
+    return afterColon(lines, 11, toTheEnd);
+}
+
+} // namespace
+
 const MonthlyScreen frmProduct{
     .window = "frmProduct",
-    .needed = {{u"QXM31H"}},
+    .words = {{u"QXM31H"}},
     .day = 16,
-    .rowsHangOnDashLine = true,
     .blocks = twoHalves(1),
+    .place = placeAfterDashLine,
     .types = salesTypesLong(),
-    .subject =
-        {{.text = u"Product: "},
-         {.line = 2, .behind = u":", .from = 1, .length = 10, .lineEnd = false, .behindBeforeEnd = true},
-         {.text = u" "},
-         {.line = 2, .behind = u":", .from = 11, .lineEnd = false, .behindBeforeEnd = true}},
+    .subject = {{.text = u"Product: "},
+                {.line = 2, .cut = productNumber},
+                {.text = u" "},
+                {.line = 2, .cut = productName}},
     .periods = periodsLong(),
 };
 

@@ -13,9 +13,9 @@ inline std::vector<DataType> salesTypes(Value (*percent)(Field, Field), TextSpan
                                         TextSpan unitOption)
 {
     return {
-        {.option = u"Sales", .caption = u"Sales", .value = figure(sales), .projected = true},
-        {.option = u"Profit", .caption = u"Profit", .value = figure(profit), .projected = true},
-        {.option = u"Volume", .caption = u"Volume", .value = figure(volume), .projected = true},
+        {.option = u"Sales", .caption = u"Sales", .value = valueOf(sales), .projected = true},
+        {.option = u"Profit", .caption = u"Profit", .value = valueOf(profit), .projected = true},
+        {.option = u"Volume", .caption = u"Volume", .value = valueOf(volume), .projected = true},
         {.option = percentOption, .caption = u"Profit%", .decimals = 2, .value = percent(profit, sales)},
         {.option = unitOption, .caption = u"Unit G/P", .decimals = 2, .value = percent(profit, volume)},
     };
@@ -37,10 +37,10 @@ inline std::vector<Period> periodsShort()
 }
 
 // The host prints 13 months down the left half of the screen and 12 more, a line lower, down the right.
-inline std::vector<Block> twoHalves(int firstRow)
+inline std::vector<Block> twoHalves(int firstLine)
 {
-    return {{.firstMonth = 1, .column = 1, .row = firstRow},
-            {.firstMonth = 14, .column = 42, .row = firstRow + 1}};
+    return {{.firstMonth = 1, .column = 1, .line = firstLine},
+            {.firstMonth = 14, .column = 42, .line = firstLine + 1}};
 }
 
 } // namespace plotvue

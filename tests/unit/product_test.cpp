@@ -1,5 +1,5 @@
 #include "capture/utf8.h"
-#include "history/reading.h"
+#include "history/monthlyreader.h"
 #include "history/screens.h"
 #include "unit/product_fixture.h"
 

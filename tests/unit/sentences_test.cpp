@@ -2,7 +2,7 @@
 #include "app/recognition.h"
 #include "capture/failure.h"
 #include "capture/month.h"
-#include "history/reading.h"
+#include "history/monthlyreader.h"
 #include "history/screens.h"
 #include "support/capturebuilder.h"
 #include "support/session.h"
