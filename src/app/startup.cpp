@@ -11,27 +11,32 @@ namespace {
 
 constexpr TextSpan sansSerif = u"MS Sans Serif";
 
-const std::vector<TextSpan> supportedScreens{
-    u"Sales Journal History",
-    u"G/L History",
-    u"G/L Expense/Volume",
-    u"Customer Sales History",
-    u"Salesman History",
-    u"Salesman/Category Analysis",
-    u"Product History",
-    u"Active Customer Count",
-    u"Prodware History",
-    u"Late Charge Analysis",
-    u"Truck History",
-    u"Driver History",
-    u"Cardlock Site History",
-    u"C-Store History",
-    u"Month2Month Profit Analysis",
-    u"Past Due A/R Analysis",
-    u"Ranked Profit Analysis",
-    u"Vendor Inventory Analysis",
-    u"Ratio Analysis",
-};
+constexpr bool rowsAreComplete()
+{
+    return std::ranges::all_of(screens, [](const Screen& screen) {
+        const SupportedRow& row = screen.supported;
+        const auto isBefore = [&](const Screen& other) { return other.supported.number == row.number - 1; };
+        const auto agrees = [&](const Screen& other) {
+            return (other.supported.number == row.number) == (other.supported.caption == row.caption);
+        };
+        return (row.number == 1 || std::ranges::any_of(screens, isBefore)) &&
+               std::ranges::all_of(screens, agrees);
+    });
+}
+static_assert(rowsAreComplete(),
+              "The supported screens have the numbers 1, 2, 3 ..., and each row its own one.");
+
+// Every row once.
+std::vector<TextSpan> supportedScreens()
+{
+    std::map<int, TextSpan> rows;
+    for (const Screen& screen : screens)
+        rows[screen.supported.number] = screen.supported.caption;
+    std::vector<TextSpan> captions;
+    for (const auto& [number, caption] : rows)
+        captions.push_back(caption);
+    return captions;
+}
 
 } // namespace
 
@@ -62,7 +67,7 @@ Declaration Startup::declare() const
                                         .font = {.family = sansSerif, .points = 12}}},
                                  {ListBox{.name = "List1",
                                           .spokenName = u"Supported screens",
-                                          .items = supportedScreens,
+                                          .items = supportedScreens(),
                                           .font = {.family = sansSerif, .points = 8.25, .bold = true}},
                                   1}})}},
             .width = 640,
@@ -77,7 +82,8 @@ Handlers Startup::handlers()
 void Startup::Form_Load()
 {
     Show();
-    Form& window = windowFor(IdentifyScreen());
+    const Screen* screen = IdentifyScreen();
+    Form& window = screen ? *windows.at(screen) : *this;
     Hide();
     window.Show();
 }
@@ -88,22 +94,15 @@ void Startup::ReloadScreen()
     Form_Load();
 }
 
-Text Startup::IdentifyScreen()
+const Screen* Startup::IdentifyScreen()
 {
-    const Text screen = platform().clipboardText();
-    const Recognised recognised = recognise(screen);
-    if (recognised.ranked)
-        RecordWriter().text(screen).endRecord().writeTo(scratchFile);
-    if (recognised.identifier.empty())
+    const Text text = platform().clipboardText();
+    const Screen* screen = recognise(text);
+    if (!screen)
         platform().message(u"Need Data", u"Clipboard contains no data");
-    return Text(recognised.identifier);
-}
-
-Form& Startup::windowFor(TextSpan identifier)
-{
-    const auto serves = [&](const Dispatch& dispatch) { return dispatch.identifier == identifier; };
-    const auto at = std::find_if(dispatchTable.begin(), dispatchTable.end(), serves);
-    return at == dispatchTable.end() ? *this : *at->window;
+    else if (screen->ranked())
+        RecordWriter().text(text).endRecord().writeTo(scratchFile);
+    return screen;
 }
 
 } // namespace plotvue
