@@ -3,9 +3,9 @@
 #include "reading.h"
 
 #include "app/recognition.h"
+#include "app/screens.h"
 #include "captures.h"
 #include "history/monthlyreader.h"
-#include "history/screens.h"
 #include "rounds.h"
 
 #include <memory>

@@ -18,7 +18,7 @@ struct WindowMaker {
         return *windows.emplace_back(std::make_unique<HistoryWindow>(platform, home, *screen));
     }
     Form& operator()(MakeWindow make) const { return *windows.emplace_back(make(platform, home)); }
-    Form& operator()(const RankedWindows& ranked) const
+    Form& operator()(const Ranked& ranked) const
     {
         Form& drillDown =
             *windows.emplace_back(std::make_unique<DrillDownWindow>(platform, *ranked.drillDown));

@@ -4,13 +4,16 @@
 
 #include "group/frmqxm21cxs.h"
 #include "group/frmqxm21sxc.h"
-#include "history/screens.h"
+#include "history/screen.h"
 #include "ranked/analyses.h"
 
 #include <array>
 #include <memory>
 
 namespace plotvue {
+
+extern const MonthlyScreen frmProduct, frmSalesman, frmCustomerE, frmCustP, frmCustP2, frmPware, frmSJHIST,
+    frmSite, frmDriver, frmTruck, frmCSTORE, frmGLexpense, frmGLarch, frmLateCharge, frmActive;
 
 // A row of the list of supported screens. Screens may share one.
 struct SupportedRow {
@@ -20,7 +23,7 @@ struct SupportedRow {
 
 using MakeWindow = std::unique_ptr<Form> (*)(Platform&, Form& home);
 
-struct RankedWindows {
+struct Ranked {
     const RankedAnalysis* list;
     const DrillDownDesign* drillDown;
 };
@@ -28,10 +31,10 @@ struct RankedWindows {
 struct Screen {
     TextSpan marker; // a text that holds it is this screen
     SupportedRow supported;
-    std::variant<const MonthlyScreen*, MakeWindow, RankedWindows> window;
+    std::variant<const MonthlyScreen*, MakeWindow, Ranked> window;
     bool needsZero = false; // whether the text must also hold a "0"
 
-    constexpr bool ranked() const { return std::holds_alternative<RankedWindows>(window); }
+    constexpr bool ranked() const { return std::holds_alternative<Ranked>(window); }
 };
 
 template <typename Window>
@@ -50,12 +53,11 @@ inline constexpr std::array screens{
     Screen{u"QXM31H", {7, u"Product History"}, &frmProduct},
     Screen{u"QXM21D", {5, u"Salesman History"}, &frmSalesman},
     Screen{u"QXMACTIVE", {8, u"Active Customer Count"}, &frmActive},
-    Screen{
-        u"TO MONTH PROFIT AN", {15, u"Month2Month Profit Analysis"}, RankedWindows{&frmM2Mpft, &frmM2MpftA}},
-    Screen{u"RANKED PROFIT AN", {17, u"Ranked Profit Analysis"}, RankedWindows{&frmProfRank, &frmProfRankA}},
-    Screen{u"RANKED PAST", {16, u"Past Due A/R Analysis"}, RankedWindows{&frmPastdue, &frmPastdueA}},
-    Screen{u"VENDOR INVENTORY", {18, u"Vendor Inventory Analysis"}, RankedWindows{&frmVendInv, &frmVendInvA}},
-    Screen{u"FINANCIAL RATIO", {19, u"Ratio Analysis"}, RankedWindows{&frmRatio, &frmRatioA}},
+    Screen{u"TO MONTH PROFIT AN", {15, u"Month2Month Profit Analysis"}, Ranked{&frmM2Mpft, &frmM2MpftA}},
+    Screen{u"RANKED PROFIT AN", {17, u"Ranked Profit Analysis"}, Ranked{&frmProfRank, &frmProfRankA}},
+    Screen{u"RANKED PAST", {16, u"Past Due A/R Analysis"}, Ranked{&frmPastdue, &frmPastdueA}},
+    Screen{u"VENDOR INVENTORY", {18, u"Vendor Inventory Analysis"}, Ranked{&frmVendInv, &frmVendInvA}},
+    Screen{u"FINANCIAL RATIO", {19, u"Ratio Analysis"}, Ranked{&frmRatio, &frmRatioA}},
     Screen{u"QXM12E1", customerSales, &frmCustomerE},
     Screen{u"PFMEXP1", {3, u"G/L Expense/Volume"}, &frmGLexpense},
     Screen{u"QXM21SXC", salesmanCategory, makeWindow<frmQXM21SXC>},

@@ -11,7 +11,6 @@
 // line of business.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
@@ -24,7 +23,7 @@ TextSpan lineOfBusiness(const ScreenLines&, const DataType& type)
 
 } // namespace
 
-const MonthlyScreen frmActive{
+extern const MonthlyScreen frmActive{
     .window = "frmActive",
     .words = {{u"QXMACTIVE"}},
     .blocks = twoHalves(5),

@@ -10,7 +10,6 @@
 // identifier the process ends.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
@@ -23,7 +22,7 @@ TextSpan storeName(const ScreenLines& lines, const DataType&)
 
 } // namespace
 
-const MonthlyScreen frmCSTORE{
+extern const MonthlyScreen frmCSTORE{
     .window = "frmCSTORE",
     .words = {{u"YTD"}, {u"PCS05H1B", RequiredWord::Otherwise::End}},
     .day = 9,

@@ -9,11 +9,10 @@
 //   7  AUG99 159528.35 139888.96   9615.13      AUG98 158825.34 135058.07   7580.57
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
-const MonthlyScreen frmCustomerE{
+extern const MonthlyScreen frmCustomerE{
     .window = "frmCustomerE",
     .words = {{u"QXM12E1"}},
     .shortPositions = ShortPositions::OfWords,

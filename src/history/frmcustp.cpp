@@ -11,7 +11,6 @@
 // A "QXM12P2" capture holds every word too and is read with this layout.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
@@ -27,7 +26,7 @@ bool isAbsentOrNear(Position position)
 
 } // namespace
 
-const MonthlyScreen frmCustP{
+extern const MonthlyScreen frmCustP{
     .window = "frmCustP",
     .words = {{u"YTD"}, {u"QTY"}, {.word = u"PCAT", .accepts = isAbsentOrNear}, {u"QXM12P"}},
     .shortPositions = ShortPositions::OfWordsAndTitles,

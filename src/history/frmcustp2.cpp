@@ -13,7 +13,6 @@
 
 #include "capture/failure.h"
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 #include <algorithm>
 
@@ -32,7 +31,7 @@ TextSpan customer(const ScreenLines& lines, const DataType&)
 
 } // namespace
 
-const MonthlyScreen frmCustP2{
+extern const MonthlyScreen frmCustP2{
     .window = "frmCustP2",
     .words = {{u"YTD"}, {u"QTY"}, {u"QXM12P2"}},
     .shortPositions = ShortPositions::OfWordsAndTitles,

@@ -11,7 +11,6 @@
 // in the identifier, the title and the order of the data types.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
@@ -34,7 +33,7 @@ MonthlyScreen deliveryScreen(Name window, TextSpan identifier, TextSpan title, s
 
 } // namespace
 
-const MonthlyScreen frmDriver = deliveryScreen("frmDriver", u"QXM855DH", u"Driver: ", {0, 2, 1, 3, 4});
-const MonthlyScreen frmTruck = deliveryScreen("frmTruck", u"QXM855TH", u"Truck: ", {4, 3, 1, 2, 0});
+extern const MonthlyScreen frmDriver = deliveryScreen("frmDriver", u"QXM855DH", u"Driver: ", {0, 2, 1, 3, 4});
+extern const MonthlyScreen frmTruck = deliveryScreen("frmTruck", u"QXM855TH", u"Truck: ", {4, 3, 1, 2, 0});
 
 } // namespace plotvue

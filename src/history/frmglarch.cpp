@@ -11,7 +11,7 @@
 
 #include "capture/failure.h"
 #include "capture/number.h"
-#include "history/screens.h"
+#include "history/screen.h"
 
 namespace plotvue {
 
@@ -67,7 +67,7 @@ void turn(std::vector<double>& values)
 
 } // namespace
 
-const MonthlyScreen frmGLarch{
+extern const MonthlyScreen frmGLarch{
     .window = "frmGLarch",
     .words = {{u"PFMGLARCH1"}},
     .place = placeInCalendar,

@@ -11,11 +11,10 @@
 // The right half begins a column further to the left than on the sales screens.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
-const MonthlyScreen frmGLexpense{
+extern const MonthlyScreen frmGLexpense{
     .window = "frmGLexpense",
     .words = {{u"PFMEXP1"}},
     .blocks = {{.firstMonth = 1, .column = 1, .line = 7}, {.firstMonth = 13, .column = 41, .line = 7}},

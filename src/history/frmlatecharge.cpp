@@ -9,7 +9,6 @@
 
 #include "capture/failure.h"
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
@@ -54,7 +53,7 @@ double lost(const MonthRow& row)
 
 } // namespace
 
-const MonthlyScreen frmLateCharge{
+extern const MonthlyScreen frmLateCharge{
     .window = "frmLateCharge",
     .caption = u"Late Charge Analysis",
     .words = {{u"QXMLCHIST"}},

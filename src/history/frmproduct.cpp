@@ -9,7 +9,6 @@
 //   7  SEP99    129942 115258.92   9031.08      SEP98    121950  93174.61   7635.50
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
@@ -42,7 +41,7 @@ TextSpan productName(const ScreenLines& lines, const DataType&)
 
 } // namespace
 
-const MonthlyScreen frmProduct{
+extern const MonthlyScreen frmProduct{
     .window = "frmProduct",
     .words = {{u"QXM31H"}},
     .day = 16,

@@ -12,11 +12,10 @@
 // The names of the product and of the unit of the pack begin in column 44.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
-const MonthlyScreen frmPware{
+extern const MonthlyScreen frmPware{
     .window = "frmPware",
     .words = {{u"QXM32C"}},
     .day = 16,

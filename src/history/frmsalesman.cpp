@@ -13,11 +13,10 @@
 // charted in the window that has just been hidden.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
-const MonthlyScreen frmSalesman{
+extern const MonthlyScreen frmSalesman{
     .window = "frmSalesman",
     .words = {{u"QXM21D", RequiredWord::Otherwise::GoOn}},
     .shortPositions = ShortPositions::OfWords,

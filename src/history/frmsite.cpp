@@ -10,11 +10,10 @@
 // been hidden. Without the identifier the process ends.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
-const MonthlyScreen frmSite{
+extern const MonthlyScreen frmSite{
     .window = "frmSite",
     .words = {{u"QTY", RequiredWord::Otherwise::GoOn}, {u"CRD812H", RequiredWord::Otherwise::End}},
     .day = -3,

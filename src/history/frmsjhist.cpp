@@ -9,11 +9,10 @@
 //   7  NOV99 185021.51 176201.99  12050.08      NOV98 183893.03 171971.19  15053.99
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
-const MonthlyScreen frmSJHIST{
+extern const MonthlyScreen frmSJHIST{
     .window = "frmSJHIST",
     .words = {{u"QXMSJHIST"}},
     .day = 19,
