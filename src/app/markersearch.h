@@ -1,4 +1,4 @@
-// A fast search for many markers at once.
+// Looks for many markers in a text at once.
 #pragma once
 
 #include "capture/text.h"
@@ -9,7 +9,7 @@
 
 namespace plotvue {
 
-// A bit for each marker, the lowest one for the first.
+// A bit for each marker. The first marker has the lowest bit.
 using MarkerSet = std::uint32_t;
 
 class MarkerSearch {
@@ -17,7 +17,8 @@ public:
     static constexpr std::size_t maxMarkers = 32;
     static constexpr std::size_t minLength = 6; // of a marker
 
-    // The markers must outlive the search. More or shorter markers do not compile.
+    // The markers must outlive the search. More than `maxMarkers`, or one shorter than `minLength`, do not
+    // compile.
     consteval explicit MarkerSearch(std::span<const TextSpan> markers) : markers_(markers)
     {
         if (markers.size() > maxMarkers)
@@ -30,23 +31,23 @@ public:
         }
     }
 
-    // The markers that the text holds. Goes once through the text and ends early where it finds the first
-    // marker; the later markers may then be missing from the set.
+    // The markers that the text holds. The search goes through the text once and ends as soon as it finds the
+    // first marker; other markers may then be missing from the result.
     MarkerSet in(TextSpan text) const;
 
 private:
     static constexpr std::size_t characters = 128;
 
-    // The markers that may begin where these characters are. Two characters with four between them rule out
-    // nearly every place of any text, whatever language it is in.
+    // The markers that can begin at a place, by the character there and the one that a marker of `minLength`
+    // ends with. The two rule out nearly every place of a text, in any language.
     MarkerSet candidates(char16_t first, char16_t last) const
     {
         return withFirst_[first % characters] & withLast_[last % characters];
     }
 
     std::span<const TextSpan> markers_;
-    // The markers with a character as their first one and as the last one of `minLength`, by the remainder of
-    // its code after division by `characters`.
+    // Which markers have a character as their first one, and which have it as number `minLength`, by its code
+    // modulo `characters`.
     std::array<MarkerSet, characters> withFirst_{}, withLast_{};
 };
 

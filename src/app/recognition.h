@@ -5,8 +5,8 @@
 
 namespace plotvue {
 
-// The first screen of the list whose marker the text holds; null when there is none. Goes once through the
-// text. Throws Failure when the screen needs a "0" and the first one is after position 32767.
+// The first screen of the list whose marker the text holds; null when there is none. Throws Failure when the
+// screen needs a "0" and the first "0" of the text is after position 32767.
 const Screen* recognise(TextSpan text);
 
 } // namespace plotvue

@@ -1,4 +1,4 @@
-// Every host screen that PlotVue charts. This is the only list of them: recognition, the windows, the list of
+// The list of the host screens that PlotVue charts. There is no other: recognition, the windows, the list of
 // supported screens, the fuzzers and the tests take the screens from here.
 #pragma once
 
@@ -15,9 +15,9 @@ namespace plotvue {
 extern const MonthlyScreen frmProduct, frmSalesman, frmCustomerE, frmCustP, frmCustP2, frmPware, frmSJHIST,
     frmSite, frmDriver, frmTruck, frmCSTORE, frmGLexpense, frmGLarch, frmLateCharge, frmActive;
 
-// A row of the list of supported screens. Screens may share one.
+// A row of the list in the start-up window. Several screens may share a row.
 struct SupportedRow {
-    int number; // from 1, the uppermost
+    int number; // 1 is at the top
     TextSpan caption;
 };
 
@@ -29,10 +29,10 @@ struct Ranked {
 };
 
 struct Screen {
-    TextSpan marker; // a text that holds it is this screen
+    TextSpan marker; // the text by which the screen is recognised
     SupportedRow supported;
     std::variant<const MonthlyScreen*, MakeWindow, Ranked> window;
-    bool needsZero = false; // whether the text must also hold a "0"
+    bool needsZero = false; // whether the screen is recognised only where it holds a "0" as well
 
     constexpr bool ranked() const { return std::holds_alternative<Ranked>(window); }
 };
@@ -47,7 +47,7 @@ inline constexpr SupportedRow customerSales{4, u"Customer Sales History"};
 inline constexpr SupportedRow salesmanCategory{6, u"Salesman/Category Analysis"};
 inline constexpr bool needsZero = true;
 
-// In the order of recognition: a text with two markers is the earlier screen, and every "QXM12P2" screen
+// The order is that of recognition: of two markers in a text the earlier one wins. Every "QXM12P2" screen
 // holds "QXM12P" too. A ranked analysis has no identifier and is recognised by words of its title.
 inline constexpr std::array screens{
     Screen{u"QXM31H", {7, u"Product History"}, &frmProduct},

@@ -26,7 +26,7 @@ constexpr bool rowsAreComplete()
 static_assert(rowsAreComplete(),
               "The supported screens have the numbers 1, 2, 3 ..., and each row its own one.");
 
-// Every row once.
+// The captions from the top. A row that several screens share is there once.
 std::vector<TextSpan> supportedScreens()
 {
     std::map<int, TextSpan> rows;

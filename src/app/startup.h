@@ -12,7 +12,7 @@ class Startup : public Form {
 public:
     explicit Startup(Platform& platform) : Form(platform) {}
 
-    // The window that each screen opens. It is to be complete before this window is first shown.
+    // The window that each screen opens. All of them are needed before this window is first shown.
     std::map<const Screen*, Form*> windows;
 
     Name name() const override { return "startup"; }

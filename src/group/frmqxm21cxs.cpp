@@ -9,8 +9,8 @@ namespace plotvue {
 
 namespace {
 
-// The options by index: the data types, the groups, the total. A group has its sales first, then its profit,
-// then its volume; on the other salesman/category screen the order is another one.
+// The options by index are the data types, then the groups, then the total. The values of a group are in the
+// order of the data types, unlike those of the other salesman/category screen.
 constexpr std::array<TextSpan, valuesPerGroup> types{u"Sales", u"Profit", u"Volume"};
 constexpr int firstGroup = 3;
 constexpr int total = firstGroup + maxGroups;

@@ -25,7 +25,7 @@ int countAfter(TextSpan line, TextSpan mark, Position length)
     return toInt16(leadingNumber(mid(line, start, length)), u"A count on the screen");
 }
 
-// The names between the semicolons. A last name without a semicolon ends with the line.
+// The names are between semicolons. The last name may end with the line in place of a semicolon.
 std::vector<TextSpan> namesIn(TextSpan line, int count)
 {
     TextSpan rest = mid(line, find(line, u";") + 1);

@@ -27,8 +27,8 @@ struct GroupScreen {
 inline constexpr int maxGroups = 4;
 inline constexpr int valuesPerGroup = 3;
 
-// A line that is missing at the end of the capture is read as an empty line. `wanted` has a flag for each of
-// the 12 values of a salesman; a value that is not wanted is not read and is 0.
+// Lines that are missing at the end of the capture are read as empty lines. `wanted` has a flag for each of
+// the 12 values of a salesman; a value without its flag is not read and is 0.
 // Throws Failure when the count of salesmen is not 0 to 23, for a count that does not fit into 16 bits and
 // for a number that is too large for a double. The text spans point into the capture.
 GroupScreen readGroups(TextSpan capture, const std::vector<bool>& wanted);

@@ -6,8 +6,8 @@
 //   5   JUL99   84923.5 128060.18  36279.68
 //   6   JUN99  114297.0 166583.21  49087.20      JUN98  106650.2 147155.78  40861.70
 //
-// The store's name begins on line 1, in the column after the one of the colon on line 2. Without the
-// identifier the process ends.
+// The name of the store is on line 1 and begins one column after the colon of line 2. Without the identifier
+// the process ends.
 
 #include "history/salesfields.h"
 

@@ -20,7 +20,7 @@ namespace plotvue {
 
 namespace {
 
-// Throws Failure when the colon is in column 35 or later.
+// Throws Failure when the colon is the last character of the line, or is in column 35 or later.
 TextSpan customer(const ScreenLines& lines, const DataType&)
 {
     const TextSpan line = lines[2];

@@ -20,7 +20,7 @@ namespace {
 constexpr int years = 5;
 constexpr int yearLine = 4;
 
-// From 0, the oldest.
+// The oldest year is 0.
 int yearOf(int month)
 {
     return years - 1 - (month - 1) / 12;
@@ -41,7 +41,7 @@ int yearAfterSlash(const ScreenLines& lines)
     });
 }
 
-// "OCT", and "J99" in the row of January.
+// "OCT", but "J99" for January.
 Text monthOrYear(const MonthRow& row, int, int firstYear)
 {
     if (!holds(row.line, u"JAN"))
@@ -54,7 +54,7 @@ double wholeAmount(const MonthRow& row)
     return toInt32(row.read({0, 13}), u"An amount on the screen");
 }
 
-// An account with more negative months than positive ones is drawn upside down.
+// Changes all signs of an account that has more negative months than positive ones.
 void turn(std::vector<double>& values)
 {
     int sign = 0;

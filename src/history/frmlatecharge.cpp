@@ -18,7 +18,7 @@ struct Amounts {
     double total, open, paid;
 };
 
-// Every amount is read whatever is charted, so that each of them can fail.
+// All three are read whatever is charted: a single one that is too large fails.
 Amounts amountsIn(const MonthRow& row)
 {
     return {row.read({6, 9}), row.read({16, 9}), row.read({25, 9})};

@@ -14,7 +14,7 @@ namespace plotvue {
 
 namespace {
 
-// The rows follow the dash line, whatever line it is on.
+// The first month is on the line after the dashes, wherever they are.
 MonthPlace placeAfterDashLine(const MonthlyScreen& screen, const ScreenLines& lines, int month)
 {
     MonthPlace place = placeInBlocks(screen, lines, month);
@@ -22,7 +22,7 @@ MonthPlace placeAfterDashLine(const MonthlyScreen& screen, const ScreenLines& li
     return place;
 }
 
-// Of line 2, from the colon on. A colon at the very end of the line does not count.
+// Cuts line 2, `from` characters after its colon. A colon that is the last character does not count.
 TextSpan afterColon(const ScreenLines& lines, int from, Position length)
 {
     const TextSpan line = withoutLast(lines[2]);

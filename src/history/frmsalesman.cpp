@@ -9,8 +9,7 @@
 //   7  OCT99   8403.74  36838.63   7873.25
 //   8  SEP99  22473.64  97780.36  19857.15      SEP98  22207.05  97217.75  15444.03
 //
-// The lines of the months are fixed, whatever line the headings are on. A capture of another screen is
-// charted in the window that has just been hidden.
+// A capture of another screen is charted in the window that has just been hidden.
 
 #include "history/salesfields.h"
 

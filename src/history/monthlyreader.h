@@ -5,18 +5,18 @@
 
 namespace plotvue {
 
-// What the required words say about a capture.
+// What the window has to do with a capture, by the words that its screen requires.
 struct Acceptance {
     bool leave = false;      // the window hides and the start-up window is shown
     bool stop = false;       // nothing is charted
     bool end = false;        // the process ends
-    Position identifier = 0; // of the word looked for last; 0 where it is absent
+    Position identifier = 0; // position of the screen identifier; 0 where it is absent or not looked for
 };
 
-// Throws Failure when a position that the screen holds in 16 bits does not fit.
+// Throws Failure when the position of a word must fit into 16 bits and does not.
 Acceptance accept(const MonthlyScreen& screen, TextSpan capture);
 
-// A slot for every month, from the oldest to the newest, and an empty one at the end.
+// The series have a slot for every month, from the oldest to the newest, and an empty one at the end.
 struct MonthlySeries {
     std::vector<double> values;
     std::vector<double> second; // empty where the screen has no second series

@@ -1,4 +1,4 @@
-// What the host's sales history screens have in common: volume, sales and profit of a month.
+// What the sales history screens of the host have in common: the volume, the sales and the profit of a month.
 #pragma once
 
 #include "history/screen.h"
@@ -7,8 +7,7 @@ namespace plotvue {
 
 inline constexpr Field volume{6, 9}, sales{16, 9}, profit{26, 9};
 
-// The five data types of the sales screens. Their percentages are worked out in two orders, which differ in
-// the last bit.
+// The five data types of the sales screens. `percent` is quotientTimesHundred or hundredTimesQuotient.
 inline std::vector<DataType> salesTypes(Value (*percent)(Field, Field), TextSpan percentOption,
                                         TextSpan unitOption)
 {
@@ -36,7 +35,7 @@ inline std::vector<Period> periodsShort()
     return {{u"12", 13}, {u"24", 25}, {u"6", 6}};
 }
 
-// The host prints 13 months down the left half of the screen and 12 more, a line lower, down the right.
+// 13 months in the left half of the screen, and 12 more in the right half, where they begin a line lower.
 inline std::vector<Block> twoHalves(int firstLine)
 {
     return {{.firstMonth = 1, .column = 1, .line = firstLine},

@@ -27,10 +27,11 @@ struct RequiredWord {
         GoOn, // the window is left, and the capture is charted in it all the same
         End   // the process ends
     } otherwise = Otherwise::Stop;
-    bool (*accepts)(Position) = isPresent; // the word's first position in the capture, 0 where it is absent
+    bool (*accepts)(Position) = isPresent; // is given the word's first position; 0 where it is absent
 };
 
-// Which positions in the capture must fit into 16 bits.
+// Which positions must fit into 16 bits: those of the required words in the capture, and those at which a
+// title is cut in its line.
 enum class ShortPositions { None, OfWords, OfWordsAndTitles };
 
 struct MonthPlace {
@@ -38,25 +39,25 @@ struct MonthPlace {
     int line;
 };
 
-// A run of months, one to a line, the newest first. It ends where the next block begins.
+// Months one below the other, the newest at the top. A block ends with the month before the next block.
 struct Block {
     int firstMonth;
     int column;
     int line; // of the first month
 };
 
-// Where the blocks put a month.
+// The usual place of a month: in the block that holds it.
 MonthPlace placeInBlocks(const MonthlyScreen& screen, const ScreenLines& lines, int month);
 
 struct Field {
-    int offset = 0; // columns from the first column of the month
+    int offset = 0; // columns after the first column of the month
     int width = 0;
 };
 
-// A month on the screen.
+// What the screen shows of a month.
 struct MonthRow {
     int month;
-    int column;
+    int column; // in which the month begins
     TextSpan line;
     bool dropCommas;
 
@@ -64,14 +65,14 @@ struct MonthRow {
     double read(Field field) const;
 };
 
-// "OCT99", or "O99" where more than 18 months are shown.
+// The usual label: "OCT99", or "O99" where more than 18 months are charted.
 Text monthAndYear(const MonthRow& row, int months, int firstYear);
 
-// What is charted of a month. Throws Failure for a number that is too large.
+// Works out what is charted of a month. Throws Failure when a number is too large.
 using Value = std::function<double(const MonthRow&)>;
 
 Value valueOf(Field field);
-// Both are 0 when `b` is 0. They differ in the last bit.
+// Two ways to work out a percentage, which can differ in the last bit. Both give 0 when `b` is 0.
 Value quotientTimesHundred(Field a, Field b); // a / b * 100
 Value hundredTimesQuotient(Field a, Field b); // 100 * a / b
 
@@ -80,8 +81,8 @@ struct DataType {
     TextSpan caption{}; // title at position 1; empty: the title and the decimals are not set
     int decimals = 0;
     Value value;
-    bool projected = false; // whether the rest of the newest month is charted on top of it
-    Value second{};         // the second series of a screen without a day; it is hidden where this is empty
+    bool projected = false; // whether the second series is the rest of the newest month
+    Value second{};         // another second series; while it is empty, the series is hidden
 };
 
 // A part of a title: a text, or characters of a line.
@@ -89,12 +90,12 @@ struct Piece {
     TextSpan text{};
 
     int line = 0;     // 0: the piece is `text`
-    TextSpan after{}; // the first occurrence in the line counts; absent or empty counts as position 0
-    int from = 0;     // characters from the position of `after` to the piece
+    TextSpan after{}; // its first occurrence in the line; empty or absent: position 0
+    int from = 0;     // the piece begins this many characters after the position of `after`
     Position length = toTheEnd;
     bool lineEnd = true; // whether the piece may hold the line's last character, its carriage return
 
-    TextSpan (*cut)(const ScreenLines&, const DataType&) = nullptr; // in place of all this
+    TextSpan (*cut)(const ScreenLines&, const DataType&) = nullptr; // returns the piece in place of all this
 };
 
 struct Period {
@@ -108,17 +109,17 @@ struct MonthlyScreen {
 
     std::vector<RequiredWord> words; // the screen identifier is the last
     ShortPositions shortPositions = ShortPositions::None;
-    // Characters from the first one of the identifier to the two digits of the day, from which the rest of
-    // the newest month is projected; none: no projection.
+    // The two digits of the day begin this many characters after the first one of the identifier. They tell
+    // how much of the newest month is over; without a day nothing is projected.
     std::optional<int> day{};
 
     std::vector<Block> blocks{};
     MonthPlace (*place)(const MonthlyScreen&, const ScreenLines&, int month) = placeInBlocks;
     bool dropCommas = false;
-    // Is asked as soon as the lines are cut, and before it is known that the capture has all of them.
+    // For the label. Is called before the reader can run out of text.
     int (*firstYear)(const ScreenLines&) = nullptr;
     Text (*label)(const MonthRow&, int months, int firstYear) = monthAndYear;
-    void (*finish)(std::vector<double>& values) = nullptr; // a last change to the values of all months
+    void (*finish)(std::vector<double>& values) = nullptr; // changes the values when all months are read
 
     std::vector<DataType> types;   // by option index; a single one where there is no choice
     std::vector<Piece> subject;    // title at position 2
@@ -128,10 +129,10 @@ struct MonthlyScreen {
     TextSpan periodFrame = u"Months", typeFrame = u"Data Type"; // captions; empty: none
     std::vector<int> periodOrder = {1, 0, 2};                   // indices from the top
     std::vector<int> typeOrder = {0, 1, 2, 3, 4};               // indices from the top; empty: no choice
-    std::map<int, TextSpan> legends{};                          // of the series of a screen without a day
+    std::map<int, TextSpan> legends{};                          // by series, where nothing is projected
 };
 
-// Whether the types have a second series of their own.
+// Whether a data type has a second series that is not the projection.
 bool hasOwnSecondSeries(const MonthlyScreen& screen);
 
 } // namespace plotvue

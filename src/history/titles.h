@@ -1,12 +1,12 @@
-// Titles put together from pieces of the screen.
+// Puts titles together from pieces of the screen.
 #pragma once
 
 #include "history/screen.h"
 
 namespace plotvue {
 
-// The pieces one after the other. Throws Failure for a piece that cannot be cut, and for a position that must
-// fit into 16 bits and does not.
+// Returns the pieces joined together. Throws Failure when a piece cannot be cut, or when a position must fit
+// into 16 bits and does not.
 Text compose(const std::vector<Piece>& pieces, const ScreenLines& lines, const DataType& type,
              ShortPositions positions);
 

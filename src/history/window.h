@@ -26,7 +26,7 @@ private:
     const MonthlyScreen& screen_;
 };
 
-// What the window of the screen is made of.
+// The controls of the screen's window and their arrangement.
 Declaration declareHistoryWindow(const MonthlyScreen& screen);
 
 } // namespace plotvue

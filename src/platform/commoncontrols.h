@@ -10,7 +10,7 @@ Button printButton();
 Button refreshButton();
 Button exitButton(TextSpan caption);
 
-// The options of the group "optSales"; the one with index 0 is chosen when the window opens.
+// The frame of the group "optSales". The option with index 0 is chosen when the window opens.
 OptionFrame dataTypeFrame(std::vector<Option> options, TextSpan caption = u"Data Type");
 
 } // namespace plotvue
