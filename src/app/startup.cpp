@@ -3,28 +3,11 @@
 #include "app/recognition.h"
 #include "ranked/exchange.h"
 
-#include <algorithm>
-
 namespace plotvue {
 
 namespace {
 
 constexpr TextSpan sansSerif = u"MS Sans Serif";
-
-constexpr bool rowsAreComplete()
-{
-    return std::ranges::all_of(screens, [](const Screen& screen) {
-        const SupportedRow& row = screen.supported;
-        const auto isBefore = [&](const Screen& other) { return other.supported.number == row.number - 1; };
-        const auto agrees = [&](const Screen& other) {
-            return (other.supported.number == row.number) == (other.supported.caption == row.caption);
-        };
-        return (row.number == 1 || std::ranges::any_of(screens, isBefore)) &&
-               std::ranges::all_of(screens, agrees);
-    });
-}
-static_assert(rowsAreComplete(),
-              "The supported screens have the numbers 1, 2, 3 ..., and each row its own one.");
 
 // The captions from the top. A row that several screens share is there once.
 std::vector<TextSpan> supportedScreens()
