@@ -21,12 +21,9 @@ FOR_WINDOWS = ROOT / "build/windows/plotvue.exe"
 sys.path.insert(0, str(ROOT / "tests/windows"))
 from wine import Wine  # noqa: E402
 
-MONTHLY = ["product", "salesman", "customer", "custcat", "custpack", "prodware", "salesjournal", "site",
-           "driver", "truck", "cstore", "glexpense", "glhistory", "latecharge", "active"]
-GROUPS = ["salesmencategories", "categoriessalesmen"]
-RANKED = ["monthtomonth", "profitrank", "pastdue", "vendors", "ratios"]
-# What is pressed before the picture is taken; a drill-down is the first row of its list.
-KEYS = {name + "-chart": ["Down", "Return"] for name in RANKED}
+SAMPLES = ["startup"] + sorted(path.stem for path in (ROOT / "samples").glob("*.txt"))
+# What opens the first row of a list; a chart opens no window then.
+OPEN_ROW = ["Down", "Return"]
 README = ["product", "monthtomonth", "monthtomonth-chart", "pastdue-chart", "salesmencategories", "glhistory"]
 
 DARK = """[Colors:Window]
@@ -111,10 +108,18 @@ def wait_for(condition, seconds=10):
     raise SystemExit("a window did not appear")
 
 
-def take(display, name, picture, directory, extra):
-    """The picture of the window that stands in front once the keys for it have been pressed."""
-    sample = name.removesuffix("-chart")
+def take(display, sample, folder, directory, extra, wanted=None):
+    """Takes the pictures of the window that the sample opens and, as SAMPLE-chart, of the window that its first row
+    opens, unless others are wanted. Returns the names of the pictures."""
     owner = None
+    names = []
+
+    def save(window, name):
+        if wanted is None or name in wanted:
+            folder.mkdir(parents=True, exist_ok=True)
+            display.run("import", "-window", window, "-strip", str(folder / (name + ".png")), check=True)
+            names.append(name)
+
     text = None if sample == "startup" else ROOT / "samples" / (sample + ".txt")
     if text or display.keeps_text: # else nobody owns the clipboard
         owner = subprocess.Popen(["xclip", "-quiet", "-selection", "clipboard", text or os.devnull],
@@ -131,13 +136,18 @@ def take(display, name, picture, directory, extra):
         time.sleep(0.4 * display.slowness)
         before = display.windows()
         display.run("xdotool", "windowfocus", "--sync", before[-1])
-        for key in KEYS.get(name, []):
+        time.sleep(0.3 * display.slowness)
+        save(before[-1], sample)
+        if sample == "startup":
+            return names
+        for key in OPEN_ROW:
             display.run("xdotool", "key", key)
             time.sleep(0.3 * display.slowness)
         time.sleep(0.3 * display.slowness)
-        front = next((window for window in display.windows() if window not in before), before[-1])
-        picture.parent.mkdir(parents=True, exist_ok=True)
-        display.run("import", "-window", front, "-strip", str(picture), check=True)
+        for window in display.windows():
+            if window not in before:
+                save(window, sample + "-chart")
+        return names
     finally:
         program.kill()
         program.wait()
@@ -155,18 +165,14 @@ def write_page(folder, names, kinds):
         "<style>img{max-width:48%;vertical-align:top}</style>" + rows)
 
 
-NAMES = ["startup"] + MONTHLY + GROUPS + [n for r in RANKED for n in (r, r + "-chart")]
-
-
 def take_under_wine():
     folder = ROOT / "build/pictures-windows"
     kinds = [100, 150, 200]
     with WineDisplay() as display, tempfile.TemporaryDirectory() as directory:
         for percent in kinds:
             display.scale(percent)
-            for name in NAMES:
-                take(display, name, folder / str(percent) / (name + ".png"), directory, {})
-    write_page(folder, NAMES, [str(percent) for percent in kinds])
+            names = [name for sample in SAMPLES for name in take(display, sample, folder / str(percent), directory, {})]
+    write_page(folder, names, [str(percent) for percent in kinds])
     print(folder / "index.html")
 
 
@@ -181,8 +187,8 @@ def main():
         raise SystemExit("Build the release preset first: ./run does it.")
     with Display() as display, tempfile.TemporaryDirectory() as directory:
         if not everything:
-            for name in README:
-                take(display, name, ROOT / "docs" / (name + ".png"), directory, {})
+            for sample in sorted({name.removesuffix("-chart") for name in README}):
+                take(display, sample, ROOT / "docs", directory, {}, wanted=README)
             return
         pathlib.Path(directory, "kdeglobals").write_text(DARK)
         dark = {"XDG_CONFIG_HOME": directory, "XDG_CURRENT_DESKTOP": "KDE", "KDE_FULL_SESSION": "true",
@@ -191,9 +197,8 @@ def main():
                  "dark-200": {**dark, "QT_SCALE_FACTOR": "2"}}
         folder = ROOT / "build/pictures"
         for kind, extra in kinds.items():
-            for name in NAMES:
-                take(display, name, folder / kind / (name + ".png"), directory, extra)
-        write_page(folder, NAMES, list(kinds))
+            names = [name for sample in SAMPLES for name in take(display, sample, folder / kind, directory, extra)]
+        write_page(folder, names, list(kinds))
         print(folder / "index.html")
 
 

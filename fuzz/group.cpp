@@ -1,5 +1,5 @@
 #include "fuzz.h"
-#include "group/reading.h"
+#include "group/groupreader.h"
 
 #include <algorithm>
 
@@ -9,11 +9,11 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const Text capture = fuzz::textOf(data, size);
     fuzz::mayFail([&] {
-        const GroupScreen screen = readGroups(capture, std::vector<bool>(mostGroups * figuresAGroup, true));
+        const GroupScreen screen = readGroups(capture, std::vector<bool>(maxGroups * valuesPerGroup, true));
         fuzz::always(screen.salesmen.size() <= 23);
         fuzz::always(screen.names.size() == static_cast<std::size_t>(std::max(screen.groups, 0)));
         for (const Salesman& salesman : screen.salesmen)
-            fuzz::always(salesman.figures.size() <= mostGroups * figuresAGroup);
+            fuzz::always(salesman.values.size() <= maxGroups * valuesPerGroup);
     });
     return 0;
 }

@@ -1,6 +1,6 @@
+#include "app/screens.h"
 #include "fuzz.h"
-#include "history/reading.h"
-#include "history/screens.h"
+#include "history/monthlyreader.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,10 +8,6 @@
 using namespace plotvue;
 
 namespace {
-
-const MonthlyScreen* const screens[] = {&frmProduct, &frmSalesman, &frmCustomerE, &frmCustP,  &frmCustP2,
-                                        &frmPware,   &frmSJHIST,   &frmSite,      &frmDriver, &frmTruck,
-                                        &frmCSTORE,  &frmGLarch,   &frmGLexpense, &frmActive, &frmLateCharge};
 
 void read(const MonthlyScreen& screen, TextSpan capture)
 {
@@ -21,14 +17,14 @@ void read(const MonthlyScreen& screen, TextSpan capture)
     for (const Period& period : screen.periods)
         for (const DataType& type : screen.types)
             fuzz::mayFail([&] {
-                const MonthlyFigures figures =
+                const MonthlySeries series =
                     readMonths(screen, capture, acceptance.identifier, period.months, type);
-                fuzz::always(figures.values.size() == static_cast<std::size_t>(period.months) + 1);
-                fuzz::always(figures.labels.size() == figures.values.size());
-                fuzz::always(figures.second.empty() || figures.second.size() == figures.values.size());
+                fuzz::always(series.values.size() == static_cast<std::size_t>(period.months) + 1);
+                fuzz::always(series.labels.size() == series.values.size());
+                fuzz::always(series.second.empty() || series.second.size() == series.values.size());
                 const auto finite = [](double value) { return std::isfinite(value); };
-                fuzz::always(std::all_of(figures.values.begin(), figures.values.end(), finite));
-                fuzz::always(std::all_of(figures.second.begin(), figures.second.end(), finite));
+                fuzz::always(std::all_of(series.values.begin(), series.values.end(), finite));
+                fuzz::always(std::all_of(series.second.begin(), series.second.end(), finite));
             });
 }
 
@@ -37,7 +33,8 @@ void read(const MonthlyScreen& screen, TextSpan capture)
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const Text capture = fuzz::textOf(data, size);
-    for (const MonthlyScreen* screen : screens)
-        fuzz::mayFail([&] { read(*screen, capture); });
+    for (const Screen& screen : screens)
+        if (const auto* monthly = std::get_if<const MonthlyScreen*>(&screen.window))
+            fuzz::mayFail([&] { read(**monthly, capture); });
     return 0;
 }

@@ -1,4 +1,4 @@
-// All windows, and the table that leads from a screen to its window.
+// The windows of all screens and the start-up window that leads to them.
 #pragma once
 
 #include "app/startup.h"
@@ -11,16 +11,22 @@ class Application {
 public:
     explicit Application(Platform& platform);
 
-    // The process starts: the start-up window loads.
+    // Starts the process: the start-up window loads.
     void start();
 
-    // The window of that name, loaded or not; null when there is none.
+    // Every window, loaded or not: the start-up window and those of each screen.
+    std::vector<Form*> windows();
+
+    // The window of that name; null when there is none.
     Form* window(Name name);
+
+    // The window that a screen opens.
+    Form& windowOf(const Screen& screen) { return *startup_.windows.at(&screen); }
 
 private:
     Platform& platform_;
     Startup startup_;
-    std::vector<std::unique_ptr<Form>> windows_;
+    std::vector<std::unique_ptr<Form>> others_;
 };
 
 } // namespace plotvue

@@ -1,17 +1,12 @@
 // Which host screen a text is.
 #pragma once
 
-#include "capture/text.h"
+#include "app/screens.h"
 
 namespace plotvue {
 
-struct Recognised {
-    TextSpan identifier; // of the screen, or an internal one for the ranked analyses; empty: none
-    bool ranked = false; // the whole capture goes to the scratch file
-};
-
-// Takes the first marker of the recognition order that occurs in `screen`. One pass, whatever the length.
-// Throws Failure when a marker that asks for a "0" has its first "0" behind position 32767.
-Recognised recognise(TextSpan screen);
+// The first screen of the list whose marker the text holds; null when there is none. Throws Failure when the
+// screen needs a "0" and the first "0" of the text is after position 32767.
+const Screen* recognise(TextSpan text);
 
 } // namespace plotvue

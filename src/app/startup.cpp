@@ -3,35 +3,23 @@
 #include "app/recognition.h"
 #include "ranked/exchange.h"
 
-#include <algorithm>
-
 namespace plotvue {
 
 namespace {
 
 constexpr TextSpan sansSerif = u"MS Sans Serif";
 
-const std::vector<TextSpan> supportedScreens{
-    u"Sales Journal History",
-    u"G/L History",
-    u"G/L Expense/Volume",
-    u"Customer Sales History",
-    u"Salesman History",
-    u"Salesman/Category Analysis",
-    u"Product History",
-    u"Active Customer Count",
-    u"Prodware History",
-    u"Late Charge Analysis",
-    u"Truck History",
-    u"Driver History",
-    u"Cardlock Site History",
-    u"C-Store History",
-    u"Month2Month Profit Analysis",
-    u"Past Due A/R Analysis",
-    u"Ranked Profit Analysis",
-    u"Vendor Inventory Analysis",
-    u"Ratio Analysis",
-};
+// The captions from the top. A row that several screens share is there once.
+std::vector<TextSpan> supportedScreens()
+{
+    std::map<int, TextSpan> rows;
+    for (const Screen& screen : screens)
+        rows[screen.supported.number] = screen.supported.caption;
+    std::vector<TextSpan> captions;
+    for (const auto& [number, caption] : rows)
+        captions.push_back(caption);
+    return captions;
+}
 
 } // namespace
 
@@ -62,7 +50,7 @@ Declaration Startup::declare() const
                                         .font = {.family = sansSerif, .points = 12}}},
                                  {ListBox{.name = "List1",
                                           .spokenName = u"Supported screens",
-                                          .items = supportedScreens,
+                                          .items = supportedScreens(),
                                           .font = {.family = sansSerif, .points = 8.25, .bold = true}},
                                   1}})}},
             .width = 640,
@@ -77,7 +65,8 @@ Handlers Startup::handlers()
 void Startup::Form_Load()
 {
     show();
-    Form& window = windowFor(IdentifyScreen());
+    const Screen* screen = IdentifyScreen();
+    Form& window = screen ? *windows.at(screen) : *this;
     hide();
     window.show();
 }
@@ -88,22 +77,15 @@ void Startup::ReloadScreen()
     Form_Load();
 }
 
-Text Startup::IdentifyScreen()
+const Screen* Startup::IdentifyScreen()
 {
-    const Text screen = platform().clipboardText();
-    const Recognised recognised = recognise(screen);
-    if (recognised.ranked)
-        RecordWriter().text(screen).endRecord().writeTo(scratchFile);
-    if (recognised.identifier.empty())
+    const Text text = platform().clipboardText();
+    const Screen* screen = recognise(text);
+    if (!screen)
         platform().message(u"Need Data", u"Clipboard contains no data");
-    return Text(recognised.identifier);
-}
-
-Form& Startup::windowFor(TextSpan identifier)
-{
-    const auto serves = [&](const Dispatch& dispatch) { return dispatch.identifier == identifier; };
-    const auto at = std::find_if(dispatchTable.begin(), dispatchTable.end(), serves);
-    return at == dispatchTable.end() ? *this : *at->window;
+    else if (screen->ranked())
+        RecordWriter().text(text).endRecord().writeTo(scratchFile);
+    return screen;
 }
 
 } // namespace plotvue

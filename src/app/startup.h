@@ -1,22 +1,19 @@
 // The start-up window: recognises what the clipboard holds and shows the window made for it.
 #pragma once
 
+#include "app/screens.h"
 #include "platform/form.h"
 
-namespace plotvue {
+#include <map>
 
-// The window that serves a screen identifier; windows are kept for the life of the process.
-struct Dispatch {
-    TextSpan identifier;
-    Form* window;
-};
+namespace plotvue {
 
 class Startup : public Form {
 public:
     explicit Startup(Platform& platform) : Form(platform) {}
 
-    // To be set before the window is first shown; looked up in this order.
-    std::vector<Dispatch> dispatchTable;
+    // The window that each screen opens. All of them are needed before this window is first shown.
+    std::map<const Screen*, Form*> windows;
 
     Name name() const override { return "startup"; }
 
@@ -31,11 +28,9 @@ private:
     void Command2_Click() { platform().end(); }
     void ReloadScreen();
 
-    // The screen identifier of the clipboard's text; empty, after a message, when it is none. A capture of
-    // a ranked analysis is saved for the list windows to read.
-    Text IdentifyScreen();
-
-    Form& windowFor(TextSpan identifier);
+    // The screen on the clipboard; null, after a message, when there is none. The capture of a ranked
+    // analysis is saved for its list window to read.
+    const Screen* IdentifyScreen();
 };
 
 } // namespace plotvue

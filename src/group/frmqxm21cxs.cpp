@@ -9,11 +9,11 @@ namespace plotvue {
 
 namespace {
 
-// Options by index: a data type, then a group or the total. Within a group this window takes the first figure
-// for sales, the second for profit and the third for volume, unlike its sister.
-constexpr std::array<TextSpan, figuresAGroup> types{u"Sales", u"Profit", u"Volume"};
+// The options by index are the data types, then the groups, then the total. The values of a group are in the
+// order of the data types, unlike those of the other salesman/category screen.
+constexpr std::array<TextSpan, valuesPerGroup> types{u"Sales", u"Profit", u"Volume"};
 constexpr int firstGroup = 3;
-constexpr int total = firstGroup + mostGroups;
+constexpr int total = firstGroup + maxGroups;
 constexpr TextSpan totalName = u"ALL";
 
 } // namespace
@@ -26,30 +26,24 @@ Declaration frmQXM21CXS::declare() const
                              .group = "optSales",
                              .options = {{3, u""}, {4, u""}, {5, u""}, {6, u""}, {total, u"Total"}},
                              .chosen = total};
-    std::vector<Item> side{{groupTypeFrame()}, {groups}, {Space{}, 1}};
-    for (Item& button : groupButtons())
-        side.push_back(std::move(button));
-    return {
-        .name = name(),
-        .caption = u"Plotvue!",
-        .content = {
-            Box::Direction::Row,
-            {{ChartBox{.name = "ChartFX1", .chart = {.design = {.labels = ChartDesign::Labels::Names}}}, 3},
-             {GridBox{.name = "MSFlexGrid1",
-                      .spokenName = u"Figures charted",
-                      .format = u"<Sales Rep|>",
-                      .figures = {1}},
-              1},
-             column(std::move(side))}}};
+    return declareScreenWindow(
+        name(), u"Plotvue!",
+        {{ChartBox{.name = "ChartFX1", .chart = {.design = {.labels = ChartDesign::Labels::Names}}}, 3},
+         {GridBox{.name = "MSFlexGrid1",
+                  .spokenName = u"Figures charted",
+                  .format = u"<Sales Rep|>",
+                  .figures = {1}},
+          1}},
+        {groupTypeFrame(), groups});
 }
 
 void frmQXM21CXS::drawChart(TextSpan capture)
 {
     const int type = chosenType(), group = chosenGroup();
     std::vector<bool> wanted;
-    for (int i = 0; i < mostGroups * figuresAGroup; ++i)
-        wanted.push_back(i % figuresAGroup == type &&
-                         (group == total || group == firstGroup + i / figuresAGroup));
+    for (int i = 0; i < maxGroups * valuesPerGroup; ++i)
+        wanted.push_back(i % valuesPerGroup == type &&
+                         (group == total || group == firstGroup + i / valuesPerGroup));
     const GroupScreen screen = readCapture(capture, [&] { return readGroups(capture, wanted); });
 
     Text title(types.at(static_cast<std::size_t>(type)));
@@ -61,8 +55,8 @@ void frmQXM21CXS::drawChart(TextSpan capture)
     std::vector<Text> labels(slots);
     for (std::size_t s = 0; s + 1 < slots; ++s) {
         labels[s] = screen.salesmen[s].label;
-        for (const double figure : screen.salesmen[s].figures)
-            values[s] = finite(values[s] + figure);
+        for (const double value : screen.salesmen[s].values)
+            values[s] = finite(values[s] + value);
     }
     fillGrid(labels, values, title);
 
@@ -81,7 +75,7 @@ TextSpan frmQXM21CXS::nameGroups(const GroupScreen& screen)
     const int group = chosenGroup();
     TextSpan chosen;
     controls().options("optSales").change([&](OptionGroup& optSales) {
-        for (int i = 0; i < mostGroups; ++i) {
+        for (int i = 0; i < maxGroups; ++i) {
             const bool there = i < screen.groups;
             const TextSpan caption = there ? screen.names[static_cast<std::size_t>(i)] : TextSpan{};
             optSales.setCaption(firstGroup + i, caption);

@@ -1,4 +1,5 @@
-// Category by salesman: one group, or the total of all, across the salesmen, with a list of the figures.
+// Category by salesman: the sales, profit or volume of each salesman in one group or in all of them, and a
+// grid of the values.
 #pragma once
 
 #include "group/window.h"
@@ -17,7 +18,7 @@ protected:
 
 private:
     int chosenGroup() const { return controls().options("optSales")->chosenIn(1); }
-    // Captions of the group options, and the name of the chosen group.
+    // Gives the group options their captions and returns the name of the chosen group.
     TextSpan nameGroups(const GroupScreen& screen);
     void fillGrid(const std::vector<Text>& labels, const std::vector<double>& values, TextSpan title);
 };

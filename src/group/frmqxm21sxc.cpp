@@ -11,53 +11,48 @@ namespace {
 
 struct Type {
     TextSpan title;
-    int place; // of its figure within a group
+    int place; // among the values of a group
 };
 
 // The host prints the volume between sales and profit.
 constexpr std::array types{Type{u"Sales", 0}, Type{u"Profit", 2}, Type{u"Volume", 1}};
 
-constexpr int seriesAlwaysCharted = 3;
+constexpr int minSeries = 3;
 
 } // namespace
 
 Declaration frmQXM21SXC::declare() const
 {
-    std::vector<Item> side{{groupTypeFrame()}, {Space{}, 1}};
-    for (Item& button : groupButtons())
-        side.push_back(std::move(button));
-    return {.name = name(),
-            .caption = u"Plotvue!",
-            .content = {Box::Direction::Row,
-                        {{ChartBox{.name = "ChartFX1",
-                                   .chart = {.design = {.bars = ChartDesign::Bars::Grouped,
-                                                        .labels = ChartDesign::Labels::Names}}},
-                          1},
-                         column(std::move(side))}}};
+    return declareScreenWindow(name(), u"Plotvue!",
+                               {{ChartBox{.name = "ChartFX1",
+                                          .chart = {.design = {.bars = ChartDesign::Bars::Grouped,
+                                                               .labels = ChartDesign::Labels::Names}}},
+                                 1}},
+                               {groupTypeFrame()});
 }
 
 void frmQXM21SXC::drawChart(TextSpan capture)
 {
     const Type& type = types.at(static_cast<std::size_t>(chosenType()));
     std::vector<bool> wanted;
-    for (int i = 0; i < mostGroups * figuresAGroup; ++i)
-        wanted.push_back(i % figuresAGroup == type.place);
+    for (int i = 0; i < maxGroups * valuesPerGroup; ++i)
+        wanted.push_back(i % valuesPerGroup == type.place);
     const GroupScreen screen = readCapture(capture, [&] { return readGroups(capture, wanted); });
 
     const std::size_t slots = screen.salesmen.size() + 1;
-    std::vector<std::vector<double>> series(mostGroups, std::vector<double>(slots));
+    std::vector<std::vector<double>> series(maxGroups, std::vector<double>(slots));
     std::vector<Text> labels(slots);
     for (std::size_t s = 0; s + 1 < slots; ++s) {
         const Salesman& salesman = screen.salesmen[s];
         labels[s] = salesman.label;
-        const std::size_t groups = salesman.figures.size() / figuresAGroup;
+        const std::size_t groups = salesman.values.size() / valuesPerGroup;
         for (std::size_t group = 0; group < groups; ++group)
-            series[group][s] = salesman.figures[group * figuresAGroup + static_cast<std::size_t>(type.place)];
+            series[group][s] = salesman.values[group * valuesPerGroup + static_cast<std::size_t>(type.place)];
     }
     ChartArrayData data;
-    series.resize(static_cast<std::size_t>(std::clamp(screen.groups, seriesAlwaysCharted, mostGroups)));
-    for (const std::vector<double>& figures : series)
-        data.AddArray(figures);
+    series.resize(static_cast<std::size_t>(std::clamp(screen.groups, minSeries, maxGroups)));
+    for (const std::vector<double>& values : series)
+        data.AddArray(values);
     data.AddArray(labels);
 
     controls().chart("ChartFX1").change([&](Chart& ChartFX1) {

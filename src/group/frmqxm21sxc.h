@@ -1,4 +1,4 @@
-// Salesman by category: one figure for every salesman, a series a group.
+// Salesman by category: the sales, profit or volume of each salesman, with a series for each group.
 #pragma once
 
 #include "group/window.h"

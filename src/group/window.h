@@ -1,39 +1,26 @@
-// What the two salesman/category windows have in common: they read the clipboard at every drawing, and are
-// left, refreshed and printed like the history windows.
+// What the two salesman/category windows have in common.
 #pragma once
 
-#include "group/reading.h"
-#include "platform/form.h"
+#include "group/groupreader.h"
+#include "platform/screenwindow.h"
 
 namespace plotvue {
 
-class GroupWindow : public Form {
+class GroupWindow : public ScreenWindow {
 public:
-    GroupWindow(Platform& platform, Form& startup) : Form(platform), startup_(startup) {}
+    using ScreenWindow::ScreenWindow;
 
 protected:
-    Handlers handlers() override;
-    void Form_Load() override { RefreshChart(); }
-    void wayOut() override { cmdExit_Click(); }
+    void RefreshChart() override;
 
-    // The clipboard holds the window's screen: draw it.
-    virtual void drawChart(TextSpan capture) = 0;
     virtual TextSpan identifier() const = 0;
 
+    // Draws a capture that holds the identifier.
+    virtual void drawChart(TextSpan capture) = 0;
+
     int chosenType() const { return controls().options("optSales")->chosenIn(0); }
-
-private:
-    void optSales_Click() { RefreshChart(); }
-    void cmdRefresh_Click() { RefreshChart(); }
-    void cmdPrint_Click() { printWindow(); }
-    void cmdExit_Click() { leaveFor(startup_); }
-    void RefreshChart();
-
-    Form& startup_;
 };
 
-// The data-type frame and the buttons of both windows.
 OptionFrame groupTypeFrame();
-std::vector<Item> groupButtons();
 
 } // namespace plotvue

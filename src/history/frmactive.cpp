@@ -7,26 +7,32 @@
 //   5   DEC99   1,865     436     789   2,636
 //   6   NOV99   1,733     441     815   2,550    NOV98   1,651     424     681   2,351
 //
-// "All" is the host's own column, not a sum. The data type is told in the title, not above it; the second
-// title is line 2 as a whole.
+// The newest month is never charted. "All" is the host's own column, not a sum. The large title names the
+// line of business.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
-const MonthlyScreen frmActive{
+namespace {
+
+TextSpan lineOfBusiness(const ScreenLines&, const DataType& type)
+{
+    return type.option;
+}
+
+} // namespace
+
+extern const MonthlyScreen frmActive{
     .window = "frmActive",
-    .needed = {{u"QXMACTIVE"}},
-    .blocks = {{.firstMonth = 1, .column = 1, .row = 4}, {.firstMonth = 15, .column = 42, .row = 6}},
-    .skippedMonths = 1,
+    .words = {{u"QXMACTIVE"}},
+    .blocks = twoHalves(5),
     .dropCommas = true,
-    .second = SecondSeries::None,
-    .types = {{.option = u"Fuels", .value = figure({5, 9}), .suffix = u" - Fuels"},
-              {.option = u"Lubes/Other", .value = figure({13, 9}), .suffix = u" - Lubes/Other"},
-              {.option = u"Cardlock", .value = figure({21, 9}), .suffix = u" - Cardlock"},
-              {.option = u"All", .value = figure({29, 8}), .suffix = u" - All"}},
-    .subject = {{.text = u"Count of Active Customers"}},
+    .types = {{.option = u"Fuels", .value = valueOf({5, 9})},
+              {.option = u"Lubes/Other", .value = valueOf({13, 9})},
+              {.option = u"Cardlock", .value = valueOf({21, 9})},
+              {.option = u"All", .value = valueOf({29, 8})}},
+    .subject = {{.text = u"Count of Active Customers - "}, {.cut = lineOfBusiness}},
     .subject2 = {{.line = 2, .from = 1, .lineEnd = false}},
     .periods = periodsShort(),
     .typeOrder = {3, 1, 0, 2},

@@ -6,22 +6,30 @@
 //   5   JUL99   84923.5 128060.18  36279.68
 //   6   JUN99  114297.0 166583.21  49087.20      JUN98  106650.2 147155.78  40861.70
 //
-// The store's name stands on line 1, behind the column of line 2's colon. Without the identifier the whole
-// process ends.
+// The name of the store is on line 1 and begins one column after the colon of line 2. Without the identifier
+// the process ends.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
-const MonthlyScreen frmCSTORE{
+namespace {
+
+TextSpan storeName(const ScreenLines& lines, const DataType&)
+{
+    return mid(lines[1], find(lines[2], u":") + 1, 35);
+}
+
+} // namespace
+
+extern const MonthlyScreen frmCSTORE{
     .window = "frmCSTORE",
-    .needed = {{u"YTD"}, {u"PCS05H1B", Needed::Missing::End}},
+    .words = {{u"YTD"}, {u"PCS05H1B", RequiredWord::Otherwise::End}},
     .day = 9,
     .blocks = twoHalves(5),
     .types = salesTypes(hundredTimesQuotient, u"G/P %", u"Unit G/P"),
-    .subject = {{.text = u"Store: "}, {.line = 1, .behind = u":", .from = 1, .length = 35, .behindLine = 2}},
-    .subject2 = {{.line = 2, .behind = u":", .from = 1, .lineEnd = false}},
+    .subject = {{.text = u"Store: "}, {.line = 1, .cut = storeName}},
+    .subject2 = {{.line = 2, .after = u":", .from = 1, .lineEnd = false}},
     .periods = periodsShort(),
 };
 

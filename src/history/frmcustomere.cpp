@@ -7,23 +7,20 @@
 //   5  ----- --------- --------- ---------      ----- --------- --------- ---------
 //   6  SEP99 101728.55  87285.95   4935.34
 //   7  AUG99 159528.35 139888.96   9615.13      AUG98 158825.34 135058.07   7580.57
-//
-// The rows stand at fixed lines.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
-const MonthlyScreen frmCustomerE{
+extern const MonthlyScreen frmCustomerE{
     .window = "frmCustomerE",
-    .needed = {{u"QXM12E1"}},
-    .shortPositions = ShortPositions::OfNeededWords,
+    .words = {{u"QXM12E1"}},
+    .shortPositions = ShortPositions::OfWords,
     .day = 16,
     .blocks = twoHalves(6),
     .types = salesTypesLong(),
-    .subject = {{.text = u"Customer: "}, {.line = 2, .behind = u":", .from = 1, .length = 35}},
-    .subject2 = {{.text = u"Product: "}, {.line = 3, .behind = u":", .from = 1, .length = 10}},
+    .subject = {{.text = u"Customer: "}, {.line = 2, .after = u":", .from = 1, .length = 35}},
+    .subject2 = {{.text = u"Product: "}, {.line = 3, .after = u":", .from = 1, .length = 10}},
     .periods = periodsLong(),
 };
 

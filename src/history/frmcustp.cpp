@@ -8,26 +8,33 @@
 //   6  FEB00   3771.92  26295.09   5083.72
 //   7  JAN00  11318.14  79555.59  11207.01      JAN99  10069.95  69003.35   9839.33
 //
-// "PCAT" may be missing; what is refused is a capture in which it first stands far down, at character 501 or
-// later. A "QXM12P2" capture holds every word too and is read with this layout.
+// A "QXM12P2" capture holds all the required words too and is read as if it were this screen.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
-const MonthlyScreen frmCustP{
+namespace {
+
+// "PCAT" may be absent, but its first occurrence must not be this far down the capture.
+constexpr Position farDown = 501;
+
+bool isAbsentOrNear(Position position)
+{
+    return position < farDown;
+}
+
+} // namespace
+
+extern const MonthlyScreen frmCustP{
     .window = "frmCustP",
-    .needed = {{u"YTD"},
-               {u"QTY"},
-               {.word = u"PCAT", .missing = Needed::Missing::Passes, .below = 501},
-               {u"QXM12P"}},
-    .shortPositions = ShortPositions::All,
+    .words = {{u"YTD"}, {u"QTY"}, {.word = u"PCAT", .accepts = isAbsentOrNear}, {u"QXM12P"}},
+    .shortPositions = ShortPositions::OfWordsAndTitles,
     .day = 7,
     .blocks = twoHalves(6),
     .types = salesTypesLong(),
-    .subject = {{.text = u"Customer: "}, {.line = 2, .behind = u":", .from = 1, .lineEnd = false}},
-    .subject2 = {{.text = u"Category: "}, {.line = 3, .behind = u":", .from = 1, .length = 10}},
+    .subject = {{.text = u"Customer: "}, {.line = 2, .after = u":", .from = 1, .lineEnd = false}},
+    .subject2 = {{.text = u"Category: "}, {.line = 3, .after = u":", .from = 1, .length = 10}},
     .periods = periodsLong(),
 };
 

@@ -9,27 +9,42 @@
 //   7  MAY00   7544.31  87910.01  12180.02
 //   8  APR00  10319.80 121826.16  15913.88      APR99   8991.43 102709.49  18181.62
 //
-// The customer never reaches past column 34, where the host prints the next field of the line.
+// The customer ends at the latest in column 34, before the host's next field.
 
+#include "capture/failure.h"
 #include "history/salesfields.h"
-#include "history/screens.h"
+
+#include <algorithm>
 
 namespace plotvue {
 
-const MonthlyScreen frmCustP2{
+namespace {
+
+// Throws Failure when the colon is the last character of the line, or is in column 35 or later.
+TextSpan customer(const ScreenLines& lines, const DataType&)
+{
+    const TextSpan line = lines[2];
+    const Position start = toInt16(static_cast<double>(find(line, u":")), u"A line of the copied text") + 1;
+    const Position end = std::min<Position>(std::ssize(line), 35);
+    return mid(line, start, end - start);
+}
+
+} // namespace
+
+extern const MonthlyScreen frmCustP2{
     .window = "frmCustP2",
-    .needed = {{u"YTD"}, {u"QTY"}, {u"QXM12P2"}},
-    .shortPositions = ShortPositions::All,
+    .words = {{u"YTD"}, {u"QTY"}, {u"QXM12P2"}},
+    .shortPositions = ShortPositions::OfWordsAndTitles,
     .day = 8,
     .blocks = twoHalves(7),
     .types = salesTypesLong(),
-    .subject = {{.text = u"Customer: "}, {.line = 2, .behind = u":", .from = 1, .lineLimit = 35}},
+    .subject = {{.text = u"Customer: "}, {.line = 2, .cut = customer}},
     .subject2 = {{.text = u"Prod/Pak/WH:  "},
-                 {.line = 3, .behind = u":", .from = 2, .length = 10},
+                 {.line = 3, .after = u":", .from = 2, .length = 10},
                  {.text = u" /"},
-                 {.line = 3, .behind = u"PACK:", .from = 5, .length = 3},
+                 {.line = 3, .after = u"PACK:", .from = 5, .length = 3},
                  {.text = u"/"},
-                 {.line = 4, .behind = u":", .from = 2, .length = 3}},
+                 {.line = 4, .after = u":", .from = 2, .length = 3}},
     .periods = periodsLong(),
 };
 

@@ -7,11 +7,10 @@
 //   6   FEB00 125565.05 137231.16  17149.87
 //   7   JAN00 179285.34 195852.01  25457.29      JAN99 178483.37 179281.24  24796.05
 //
-// Without the identifier the hidden window is charted all the same. The two screens differ in the identifier,
-// the title and the order of the data types, which on the truck's window stand upside down.
+// A capture without the identifier is charted in the window that has just been hidden. The two screens differ
+// in the identifier, the title and the order of the data types.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
@@ -21,12 +20,12 @@ MonthlyScreen deliveryScreen(Name window, TextSpan identifier, TextSpan title, s
 {
     return {
         .window = window,
-        .needed = {{u"YTD"}, {u"QTY"}, {identifier, Needed::Missing::GoOn}},
+        .words = {{u"YTD"}, {u"QTY"}, {identifier, RequiredWord::Otherwise::GoOn}},
         .day = 16,
         .blocks = twoHalves(6),
         .types = salesTypes(hundredTimesQuotient, u"G/P %", u"Unit G/P"),
-        .subject = {{.text = title}, {.line = 2, .behind = u":", .from = 2, .lineEnd = false}},
-        .subject2 = {{.text = u"Category: "}, {.line = 3, .behind = u":", .from = 1, .lineEnd = false}},
+        .subject = {{.text = title}, {.line = 2, .after = u":", .from = 2, .lineEnd = false}},
+        .subject2 = {{.text = u"Category: "}, {.line = 3, .after = u":", .from = 1, .lineEnd = false}},
         .periods = periodsShort(),
         .typeOrder = std::move(typeOrder),
     };
@@ -34,7 +33,7 @@ MonthlyScreen deliveryScreen(Name window, TextSpan identifier, TextSpan title, s
 
 } // namespace
 
-const MonthlyScreen frmDriver = deliveryScreen("frmDriver", u"QXM855DH", u"Driver: ", {0, 2, 1, 3, 4});
-const MonthlyScreen frmTruck = deliveryScreen("frmTruck", u"QXM855TH", u"Truck: ", {4, 3, 1, 2, 0});
+extern const MonthlyScreen frmDriver = deliveryScreen("frmDriver", u"QXM855DH", u"Driver: ", {0, 2, 1, 3, 4});
+extern const MonthlyScreen frmTruck = deliveryScreen("frmTruck", u"QXM855TH", u"Truck: ", {4, 3, 1, 2, 0});
 
 } // namespace plotvue

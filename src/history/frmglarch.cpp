@@ -7,37 +7,77 @@
 //   6    JAN -1,010,294.59 -1,137,042.52 -1,166,225.43 -1,198,271.50 -1,277,492.50
 //   17   DEC -1,025,888.69 -1,052,613.16 -1,112,255.06 -1,191,640.76 -1,338,832.50
 //
-// The newest point is always December of the last column. Amounts are whole numbers, and an account that is
-// mostly negative is drawn positive.
+// The newest month is always December of the last column. The amounts are whole numbers.
 
-#include "history/salesfields.h"
-#include "history/screens.h"
+#include "capture/failure.h"
+#include "capture/number.h"
+#include "history/screen.h"
 
 namespace plotvue {
 
 namespace {
 
-constexpr Field amount{0, 13};
+constexpr int years = 5;
+constexpr int yearLine = 4;
+
+// The oldest year is 0.
+int yearOf(int month)
+{
+    return years - 1 - (month - 1) / 12;
+}
+
+MonthPlace placeInCalendar(const MonthlyScreen&, const ScreenLines&, int month)
+{
+    return {.column = 6 + 14 * yearOf(month), .line = 17 - (month - 1) % 12};
+}
+
+int yearAfterSlash(const ScreenLines& lines)
+{
+    if (lines.count() < yearLine)
+        return 0;
+    const TextSpan line = lines[yearLine];
+    return readLine(line, [&] {
+        return toInt16(leadingNumber(mid(line, find(line, u"/") + 1, 4)), u"The first year on the screen");
+    });
+}
+
+// "OCT", but "J99" for January.
+Text monthOrYear(const MonthRow& row, int, int firstYear)
+{
+    if (!holds(row.line, u"JAN"))
+        return Text(mid(row.line, 2, 3));
+    return Text(mid(row.line, 2, 1)) + Text(mid(signedNumber(firstYear + yearOf(row.month)), 4, 2));
+}
+
+double wholeAmount(const MonthRow& row)
+{
+    return toInt32(row.read({0, 13}), u"An amount on the screen");
+}
+
+// Changes all signs of an account that has more negative months than positive ones.
+void turn(std::vector<double>& values)
+{
+    int sign = 0;
+    for (const double value : values)
+        sign += value < 0 ? -1 : value > 0 ? 1 : 0;
+    if (sign < 0)
+        for (double& value : values)
+            value = toInt32(0 - value, u"An amount on the screen");
+}
 
 } // namespace
 
-const MonthlyScreen frmGLarch{
+extern const MonthlyScreen frmGLarch{
     .window = "frmGLarch",
-    .needed = {{u"PFMGLARCH1"}},
-    .blocks = {{.firstMonth = 1, .column = 62, .row = 17, .step = -1, .years = 4},
-               {.firstMonth = 13, .column = 48, .row = 17, .step = -1, .years = 3},
-               {.firstMonth = 25, .column = 34, .row = 17, .step = -1, .years = 2},
-               {.firstMonth = 37, .column = 20, .row = 17, .step = -1, .years = 1},
-               {.firstMonth = 49, .column = 6, .row = 17, .step = -1, .years = 0}},
+    .words = {{u"PFMGLARCH1"}},
+    .place = placeInCalendar,
     .dropCommas = true,
-    .baseYear = Piece{.line = 4, .behind = u"/", .from = 1, .length = 4},
-    .labels = MonthLabels::CalendarRows,
-    .amounts = Amounts::WholeTurned,
-    .second = SecondSeries::None,
-    .types = {{.value = figure(amount)}},
-    .subject = {{.text = u"G/L History for Acct: "},
-                {.line = 2, .behind = u":", .from = 1, .lineEnd = false}},
-    .subject2 = {{.line = 3, .behind = u":", .from = 1, .lineEnd = false}},
+    .firstYear = yearAfterSlash,
+    .label = monthOrYear,
+    .finish = turn,
+    .types = {{.value = wholeAmount}},
+    .subject = {{.text = u"G/L History for Acct: "}, {.line = 2, .after = u":", .from = 1, .lineEnd = false}},
+    .subject2 = {{.line = 3, .after = u":", .from = 1, .lineEnd = false}},
     .periods = {{u"1", 12}, {u"2", 24}, {u"3", 36}, {u"4", 48}, {u"5", 60}},
     .periodFrame = u"Years",
     .periodOrder = {0, 1, 2, 3, 4},

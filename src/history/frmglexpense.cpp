@@ -7,30 +7,27 @@
 //   6   OCT99   24,759.55   634,443.63  3.9026
 //   7   SEP99   53,526.38 1,269,974.69  4.2148  SEP98   49,425.37 1,159,950.64  4.2610
 //
-// No date and no projection; the cents are the host's own column. The right half begins a column further left
-// than on the sales screens, on the line of the first charted month.
+// The newest month is never charted. There is no date and no projection. The cents are the host's own column.
+// The right half begins a column further to the left than on the sales screens.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
-const MonthlyScreen frmGLexpense{
+extern const MonthlyScreen frmGLexpense{
     .window = "frmGLexpense",
-    .needed = {{u"PFMEXP1"}},
-    .blocks = {{.firstMonth = 1, .column = 1, .row = 6}, {.firstMonth = 14, .column = 41, .row = 7}},
-    .skippedMonths = 1,
+    .words = {{u"PFMEXP1"}},
+    .blocks = {{.firstMonth = 1, .column = 1, .line = 7}, {.firstMonth = 13, .column = 41, .line = 7}},
     .dropCommas = true,
-    .second = SecondSeries::None,
-    .types = {{.option = u"Dollars", .caption = u"Dollars", .value = figure({5, 12})},
-              {.option = u"Volume", .caption = u"Volume", .value = figure({17, 14})},
+    .types = {{.option = u"Dollars", .caption = u"Dollars", .value = valueOf({5, 12})},
+              {.option = u"Volume", .caption = u"Volume", .value = valueOf({17, 14})},
               {.option = u"Cents/Gallon",
                .caption = u"Cents per Gallon",
                .decimals = 2,
-               .value = figure({30, 8})}},
+               .value = valueOf({30, 8})}},
     .subject = {{.text = u"Expense/Volume for Acct:"},
-                {.line = 2, .behind = u":", .from = 1, .lineEnd = false}},
-    .subject2 = {{.line = 3, .behind = u":", .from = 1, .lineEnd = false}},
+                {.line = 2, .after = u":", .from = 1, .lineEnd = false}},
+    .subject2 = {{.line = 3, .after = u":", .from = 1, .lineEnd = false}},
     .periods = periodsShort(),
     .typeOrder = {2, 0, 1},
 };

@@ -5,39 +5,65 @@
 //   4   SEP99  5,727.96  4,961.21   667.08
 //   5   AUG99  5,914.47  3,672.97 2,003.37       AUG98  6,489.12    368.23 5,527.76
 //
-// Paid and lost stand on each other; for the other data types the second series is hidden. Every amount of a
-// row is read whatever is charted.
+// "Paid/Lost" charts what was lost on top of what was paid.
 
+#include "capture/failure.h"
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
 namespace {
 
-constexpr Field total{6, 9}, open{16, 9}, paid{25, 9};
+struct Amounts {
+    double total, open, paid;
+};
+
+// All three are read whatever is charted: a single one that is too large fails.
+Amounts amountsIn(const MonthRow& row)
+{
+    return {row.read({6, 9}), row.read({16, 9}), row.read({25, 9})};
+}
+
+double total(const MonthRow& row)
+{
+    return amountsIn(row).total;
+}
+
+double open(const MonthRow& row)
+{
+    return amountsIn(row).open;
+}
+
+double paid(const MonthRow& row)
+{
+    return amountsIn(row).paid;
+}
+
+double percentPaid(const MonthRow& row)
+{
+    const Amounts amounts = amountsIn(row);
+    return amounts.total == 0 ? 0 : finite(finite(amounts.paid / amounts.total) * 100);
+}
+
+double lost(const MonthRow& row)
+{
+    const Amounts amounts = amountsIn(row);
+    return finite(finite(amounts.total - amounts.open) - amounts.paid);
+}
 
 } // namespace
 
-const MonthlyScreen frmLateCharge{
+extern const MonthlyScreen frmLateCharge{
     .window = "frmLateCharge",
-    .captionOnLoad = u"Late Charge Analysis",
-    .needed = {{u"QXMLCHIST"}},
+    .caption = u"Late Charge Analysis",
+    .words = {{u"QXMLCHIST"}},
     .blocks = twoHalves(4),
     .dropCommas = true,
-    .readAlways = {total, open, paid},
-    .second = SecondSeries::OwnValue,
-    .types = {{.option = u"Total", .caption = u"Total Charges", .value = figure(total)},
-              {.option = u"Open", .caption = u"Open", .value = figure(open)},
-              {.option = u"Paid", .caption = u"Paid", .value = figure(paid)},
-              {.option = u"Paid %",
-               .caption = u"% Collected",
-               .decimals = 1,
-               .value = quotientTimesHundred(paid, total)},
-              {.option = u"Paid/Lost",
-               .caption = u"Paid/Lost",
-               .value = figure(paid),
-               .second = rest(total, open, paid)}},
+    .types = {{.option = u"Total", .caption = u"Total Charges", .value = total},
+              {.option = u"Open", .caption = u"Open", .value = open},
+              {.option = u"Paid", .caption = u"Paid", .value = paid},
+              {.option = u"Paid %", .caption = u"% Collected", .decimals = 1, .value = percentPaid},
+              {.option = u"Paid/Lost", .caption = u"Paid/Lost", .value = paid, .second = lost}},
     .subject = {{.text = u"Late Charge History"}},
     .periods = periodsShort(),
     .typeOrder = {4, 3, 0, 2, 1},

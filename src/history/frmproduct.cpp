@@ -9,22 +9,49 @@
 //   7  SEP99    129942 115258.92   9031.08      SEP98    121950  93174.61   7635.50
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
-const MonthlyScreen frmProduct{
+namespace {
+
+// The first month is on the line after the dashes, wherever they are.
+MonthPlace placeAfterDashLine(const MonthlyScreen& screen, const ScreenLines& lines, int month)
+{
+    MonthPlace place = placeInBlocks(screen, lines, month);
+    place.line += lines.dashLine();
+    return place;
+}
+
+// Cuts line 2, `from` characters after its colon. A colon that is the last character does not count.
+TextSpan afterColon(const ScreenLines& lines, int from, Position length)
+{
+    const TextSpan line = withoutLast(lines[2]);
+    return mid(line, find(line, u":") + from, length);
+}
+
+TextSpan productNumber(const ScreenLines& lines, const DataType&)
+{
+    return afterColon(lines, 1, 10);
+}
+
+TextSpan productName(const ScreenLines& lines, const DataType&)
+{
+    return afterColon(lines, 11, toTheEnd);
+}
+
+} // namespace
+
+extern const MonthlyScreen frmProduct{
     .window = "frmProduct",
-    .needed = {{u"QXM31H"}},
+    .words = {{u"QXM31H"}},
     .day = 16,
-    .rowsHangOnDashLine = true,
     .blocks = twoHalves(1),
+    .place = placeAfterDashLine,
     .types = salesTypesLong(),
-    .subject =
-        {{.text = u"Product: "},
-         {.line = 2, .behind = u":", .from = 1, .length = 10, .lineEnd = false, .behindBeforeEnd = true},
-         {.text = u" "},
-         {.line = 2, .behind = u":", .from = 11, .lineEnd = false, .behindBeforeEnd = true}},
+    .subject = {{.text = u"Product: "},
+                {.line = 2, .cut = productNumber},
+                {.text = u" "},
+                {.line = 2, .cut = productName}},
     .periods = periodsLong(),
 };
 

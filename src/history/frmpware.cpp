@@ -9,27 +9,26 @@
 //   7  NOV99  97840.31 109601.92  10476.05
 //   8  OCT99 118446.72 135027.93  12242.67      OCT98 108135.24 121262.58  14575.70
 //
-// The product's and the pack unit's names stand at column 44.
+// The names of the product and of the unit of the pack begin in column 44.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
-const MonthlyScreen frmPware{
+extern const MonthlyScreen frmPware{
     .window = "frmPware",
-    .needed = {{u"QXM32C"}},
+    .words = {{u"QXM32C"}},
     .day = 16,
     .blocks = twoHalves(7),
     .types = salesTypes(hundredTimesQuotient, u"GP %", u"G/P Units"),
-    .subject = {{.line = 2, .behind = u":", .from = 2, .length = 10, .lineEnd = false},
+    .subject = {{.line = 2, .after = u":", .from = 2, .length = 10, .lineEnd = false},
                 {.text = u"  "},
                 {.line = 2, .from = 44, .lineEnd = false}},
     .subject2 = {{.text = u"Pack: "},
-                 {.line = 3, .behind = u":", .from = 2, .length = 4},
+                 {.line = 3, .after = u":", .from = 2, .length = 4},
                  {.line = 3, .from = 44, .length = 5},
                  {.text = u"  WH: "},
-                 {.line = 4, .behind = u":", .from = 1, .length = 3}},
+                 {.line = 4, .after = u":", .from = 1, .length = 3}},
     .periods = periodsLong(),
     .periodFrame = u"",
     .typeFrame = u"",

@@ -9,26 +9,24 @@
 //   7  OCT99   8403.74  36838.63   7873.25
 //   8  SEP99  22473.64  97780.36  19857.15      SEP98  22207.05  97217.75  15444.03
 //
-// The rows stand at fixed lines: headings a line lower shift every month by a row. A capture of another
-// screen is charted into the window that has just been hidden.
+// A capture of another screen is charted in the window that has just been hidden.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
-const MonthlyScreen frmSalesman{
+extern const MonthlyScreen frmSalesman{
     .window = "frmSalesman",
-    .needed = {{u"QXM21D", Needed::Missing::GoOn}},
-    .shortPositions = ShortPositions::OfNeededWords,
+    .words = {{u"QXM21D", RequiredWord::Otherwise::GoOn}},
+    .shortPositions = ShortPositions::OfWords,
     .day = 16,
     .blocks = twoHalves(7),
     .types = salesTypesLong(),
     .subject = {{.text = u"Sales Rep: "},
-                {.line = 2, .behind = u":", .from = 3, .length = 3},
+                {.line = 2, .after = u":", .from = 3, .length = 3},
                 {.text = u"  "},
-                {.line = 3, .behind = u":", .from = 1, .lineEnd = false}},
-    .subject2 = {{.text = u"Category: "}, {.line = 4, .behind = u":", .from = 1, .lineEnd = false}},
+                {.line = 3, .after = u":", .from = 1, .lineEnd = false}},
+    .subject2 = {{.text = u"Category: "}, {.line = 4, .after = u":", .from = 1, .lineEnd = false}},
     .periods = periodsLong(),
 };
 

@@ -6,22 +6,21 @@
 //   5   NOV99  62159.09  75185.33   6166.18
 //   6   OCT99 118114.87 141100.53  12280.43      OCT98 110518.10 125481.06  12572.32
 //
-// The day stands in front of the identifier. Without "QTY" the hidden window is charted all the same; without
-// the identifier the whole process ends.
+// The day is to the left of the identifier. A capture without "QTY" is charted in the window that has just
+// been hidden. Without the identifier the process ends.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
-const MonthlyScreen frmSite{
+extern const MonthlyScreen frmSite{
     .window = "frmSite",
-    .needed = {{u"QTY", Needed::Missing::GoOn}, {u"CRD812H", Needed::Missing::End}},
+    .words = {{u"QTY", RequiredWord::Otherwise::GoOn}, {u"CRD812H", RequiredWord::Otherwise::End}},
     .day = -3,
     .blocks = twoHalves(5),
     .types = salesTypes(hundredTimesQuotient, u"G/P %", u"Unit G/P"),
-    .subject = {{.text = u"C/L Site: "}, {.line = 2, .behind = u"SITE:", .from = 6, .lineEnd = false}},
-    .subject2 = {{.text = u"Fuel: "}, {.line = 2, .behind = u":", .from = 2, .length = 8}},
+    .subject = {{.text = u"C/L Site: "}, {.line = 2, .after = u"SITE:", .from = 6, .lineEnd = false}},
+    .subject2 = {{.text = u"Fuel: "}, {.line = 2, .after = u":", .from = 2, .length = 8}},
     .periods = periodsShort(),
 };
 

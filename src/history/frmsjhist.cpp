@@ -7,25 +7,22 @@
 //   5  ----- --------- --------- ---------      ----- --------- --------- ---------
 //   6  DEC99  32268.86  29896.12   2427.12
 //   7  NOV99 185021.51 176201.99  12050.08      NOV98 183893.03 171971.19  15053.99
-//
-// The rows stand at fixed lines.
 
 #include "history/salesfields.h"
-#include "history/screens.h"
 
 namespace plotvue {
 
-const MonthlyScreen frmSJHIST{
+extern const MonthlyScreen frmSJHIST{
     .window = "frmSJHIST",
-    .needed = {{u"QXMSJHIST"}},
+    .words = {{u"QXMSJHIST"}},
     .day = 19,
     .blocks = twoHalves(6),
     .types = salesTypes(hundredTimesQuotient, u"G/P %", u"Unit G/P"),
     .subject = {{.text = u"WH: "},
-                {.line = 2, .behind = u":", .from = 1, .length = 25},
+                {.line = 2, .after = u":", .from = 1, .length = 25},
                 {.text = u"  PftCtr: "},
-                {.line = 2, .behind = u"CTR:", .from = 4, .lineEnd = false}},
-    .subject2 = {{.text = u"Category: "}, {.line = 3, .behind = u":", .from = 1, .lineEnd = false}},
+                {.line = 2, .after = u"CTR:", .from = 4, .lineEnd = false}},
+    .subject2 = {{.text = u"Category: "}, {.line = 3, .after = u":", .from = 1, .lineEnd = false}},
     .periods = periodsShort(),
 };
 

@@ -1,4 +1,4 @@
-// What the host's sales history screens have in common: volume, sales and profit of a month.
+// What the sales history screens of the host have in common: the volume, the sales and the profit of a month.
 #pragma once
 
 #include "history/screen.h"
@@ -7,15 +7,14 @@ namespace plotvue {
 
 inline constexpr Field volume{6, 9}, sales{16, 9}, profit{26, 9};
 
-// The five data types of the sales screens. Their percentages are worked out in two orders, which differ in
-// the last bit.
+// The five data types of the sales screens. `percent` is quotientTimesHundred or hundredTimesQuotient.
 inline std::vector<DataType> salesTypes(Value (*percent)(Field, Field), TextSpan percentOption,
                                         TextSpan unitOption)
 {
     return {
-        {.option = u"Sales", .caption = u"Sales", .value = figure(sales), .projected = true},
-        {.option = u"Profit", .caption = u"Profit", .value = figure(profit), .projected = true},
-        {.option = u"Volume", .caption = u"Volume", .value = figure(volume), .projected = true},
+        {.option = u"Sales", .caption = u"Sales", .value = valueOf(sales), .projected = true},
+        {.option = u"Profit", .caption = u"Profit", .value = valueOf(profit), .projected = true},
+        {.option = u"Volume", .caption = u"Volume", .value = valueOf(volume), .projected = true},
         {.option = percentOption, .caption = u"Profit%", .decimals = 2, .value = percent(profit, sales)},
         {.option = unitOption, .caption = u"Unit G/P", .decimals = 2, .value = percent(profit, volume)},
     };
@@ -36,11 +35,11 @@ inline std::vector<Period> periodsShort()
     return {{u"12", 13}, {u"24", 25}, {u"6", 6}};
 }
 
-// The host prints 13 months down the left half of the screen and 12 more, a line lower, down the right.
-inline std::vector<Block> twoHalves(int firstRow)
+// 13 months in the left half of the screen, and 12 more in the right half, where they begin a line lower.
+inline std::vector<Block> twoHalves(int firstLine)
 {
-    return {{.firstMonth = 1, .column = 1, .row = firstRow},
-            {.firstMonth = 14, .column = 42, .row = firstRow + 1}};
+    return {{.firstMonth = 1, .column = 1, .line = firstLine},
+            {.firstMonth = 14, .column = 42, .line = firstLine + 1}};
 }
 
 } // namespace plotvue

@@ -1,111 +1,101 @@
-// A monthly history screen of the host, said as data. Lines, columns, months and years are counted from 1,
-// months from the newest backwards.
+// A monthly history screen of the host, described as data. What a single screen does in its own way is a
+// function in the file of that screen. Lines, columns and months are counted from 1, months from the newest
+// to the oldest.
 #pragma once
 
+#include "capture/lines.h"
 #include "platform/declaration.h"
 
+#include <functional>
 #include <optional>
 
 namespace plotvue {
 
-// A word that must stand in the capture; the words are looked for in their order.
-struct Needed {
-    enum class Missing {
-        Stop,  // hide, show the start-up window and read no further
-        GoOn,  // hide, show the start-up window and chart the text into the hidden window all the same
-        End,   // end the process
-        Passes // nothing; only a word that stands too late stops
-    };
+struct DataType;
+struct MonthlyScreen;
+
+constexpr bool isPresent(Position position)
+{
+    return position > 0;
+}
+
+// A word that the capture must hold. The words of a screen are looked for in their order.
+struct RequiredWord {
     TextSpan word;
-    Missing missing = Missing::Stop;
-    Position below = toTheEnd; // stops when the word first stands at this position or later
+    enum class Otherwise {
+        Stop, // the window is left and nothing is charted
+        GoOn, // the window is left, and the capture is charted in it all the same
+        End   // the process ends
+    } otherwise = Otherwise::Stop;
+    bool (*accepts)(Position) = isPresent; // is given the word's first position; 0 where it is absent
 };
 
-// Which positions found by search are held in 16 bits, and fail beyond 32767.
-enum class ShortPositions { None, OfNeededWords, All };
+// Which positions must fit into 16 bits: those of the required words in the capture, and those at which a
+// title is cut in its line.
+enum class ShortPositions { None, OfWords, OfWordsAndTitles };
 
-// A run of months in a column of the screen. Of the blocks that have begun, the last holds the month.
+struct MonthPlace {
+    int column;
+    int line;
+};
+
+// Months one below the other, the newest at the top. A block ends with the month before the next block.
 struct Block {
     int firstMonth;
     int column;
-    int row;       // of the first month; counted from the dash line where the screen's rows hang on it
-    int step = 1;  // rows from a month to the one before it
-    int years = 0; // behind the base year, where months stand in columns by year
+    int line; // of the first month
 };
 
+// The usual place of a month: in the block that holds it.
+MonthPlace placeInBlocks(const MonthlyScreen& screen, const ScreenLines& lines, int month);
+
 struct Field {
-    int offset = 0; // columns behind the block's column
+    int offset = 0; // columns after the first column of the month
     int width = 0;
 };
 
-// What is charted of a month.
-struct Value {
-    enum class Is {
-        Nothing,              // 0
-        Figure,               // a
-        QuotientTimesHundred, // a / b * 100; 0 when b is 0
-        HundredTimesQuotient, // 100 * a / b; 0 when b is 0
-        Rest                  // a - b - c
-    } is = Is::Nothing;
-    Field a{}, b{}, c{};
+// What the screen shows of a month.
+struct MonthRow {
+    int month;
+    int column; // in which the month begins
+    TextSpan line;
+    bool dropCommas;
+
+    // Throws Failure when the number is too large.
+    double read(Field field) const;
 };
 
-constexpr Value figure(Field a)
-{
-    return {Value::Is::Figure, a};
-}
-constexpr Value quotientTimesHundred(Field a, Field b)
-{
-    return {Value::Is::QuotientTimesHundred, a, b};
-}
-constexpr Value hundredTimesQuotient(Field a, Field b)
-{
-    return {Value::Is::HundredTimesQuotient, a, b};
-}
-constexpr Value rest(Field a, Field b, Field c)
-{
-    return {Value::Is::Rest, a, b, c};
-}
+// The usual label: "OCT99", or "O99" where more than 18 months are charted.
+Text monthAndYear(const MonthRow& row, int months, int firstYear);
+
+// Works out what is charted of a month. Throws Failure when a number is too large.
+using Value = std::function<double(const MonthRow&)>;
+
+Value valueOf(Field field);
+// Two ways to work out a percentage, which can differ in the last bit. Both give 0 when `b` is 0.
+Value quotientTimesHundred(Field a, Field b); // a / b * 100
+Value hundredTimesQuotient(Field a, Field b); // 100 * a / b
 
 struct DataType {
     TextSpan option{};  // caption of its option
-    TextSpan caption{}; // title at position 1; empty: neither it nor the decimals are set
+    TextSpan caption{}; // title at position 1; empty: the title and the decimals are not set
     int decimals = 0;
-    Value value{};
-    bool projected = false;
-    Value second{};    // of screens with a second series of their own, which is hidden while Nothing
-    TextSpan suffix{}; // of the title at position 2
+    Value value;
+    bool projected = false; // whether the second series is the rest of the newest month
+    Value second{};         // another second series; while it is empty, the series is hidden
 };
 
-// A piece of a title: a text of its own, or characters cut from a line.
+// A part of a title: a text, or characters of a line.
 struct Piece {
     TextSpan text{};
 
-    int line = 0;      // the line that is cut; 0: the piece is `text`
-    TextSpan behind{}; // first occurrence counts; absent counts as position 0, and empty means so
-    int from = 0;      // characters behind the first one of `behind`
+    int line = 0;     // 0: the piece is `text`
+    TextSpan after{}; // its first occurrence in the line; empty or absent: position 0
+    int from = 0;     // the piece begins this many characters after the position of `after`
     Position length = toTheEnd;
-    bool lineEnd = true; // may reach into the line's last character, its carriage return
+    bool lineEnd = true; // whether the piece may hold the line's last character, its carriage return
 
-    int behindLine = 0;            // the line in which `behind` is looked for, where it is another one
-    bool behindBeforeEnd = false;  // `behind` is not looked for in the line's last character
-    Position lineLimit = toTheEnd; // cut as if the line were no longer, and a start behind its end fails
-};
-
-enum class SecondSeries {
-    None,
-    Projection, // the rest of the newest month at the pace so far
-    OwnValue    // DataType::second
-};
-
-enum class MonthLabels {
-    MonthAndYear, // at the block's column: "OCT99", or "O99" where more than 18 months are shown
-    CalendarRows  // "OCT" in columns 2 to 4, and "J99" in the row of January
-};
-
-enum class Amounts {
-    AsRead,
-    WholeTurned // rounded to 32-bit whole numbers, and turned where most of them are negative
+    TextSpan (*cut)(const ScreenLines&, const DataType&) = nullptr; // returns the piece in place of all this
 };
 
 struct Period {
@@ -115,31 +105,34 @@ struct Period {
 
 struct MonthlyScreen {
     Name window;
-    TextSpan captionOnLoad{}; // empty: the window keeps "Plotvue!"
+    TextSpan caption = u"Plotvue!";
 
-    std::vector<Needed> needed; // the screen identifier is the last
+    std::vector<RequiredWord> words; // the screen identifier is the last
     ShortPositions shortPositions = ShortPositions::None;
-    std::optional<int> day{}; // characters from the identifier's first to the two of the day; none: no day
+    // The two digits of the day begin this many characters after the first one of the identifier. They tell
+    // how much of the newest month is over; without a day nothing is projected.
+    std::optional<int> day{};
 
-    bool rowsHangOnDashLine = false;
-    std::vector<Block> blocks;
-    int skippedMonths = 0; // newest rows that are on the screen and never charted
+    std::vector<Block> blocks{};
+    MonthPlace (*place)(const MonthlyScreen&, const ScreenLines&, int month) = placeInBlocks;
     bool dropCommas = false;
-    std::vector<Field> readAlways{}; // fields read for every data type, needed or not
-    std::optional<Piece> baseYear{};
-    MonthLabels labels = MonthLabels::MonthAndYear;
-    Amounts amounts = Amounts::AsRead;
-    SecondSeries second = SecondSeries::Projection;
+    // For the label. Is called before the reader can run out of text.
+    int (*firstYear)(const ScreenLines&) = nullptr;
+    Text (*label)(const MonthRow&, int months, int firstYear) = monthAndYear;
+    void (*finish)(std::vector<double>& values) = nullptr; // changes the values when all months are read
 
-    std::vector<DataType> types;   // by option index; one without caption where there is no choice
+    std::vector<DataType> types;   // by option index; a single one where there is no choice
     std::vector<Piece> subject;    // title at position 2
-    std::vector<Piece> subject2{}; // title at position 3; empty: not set
+    std::vector<Piece> subject2{}; // title at position 3; empty: the title is not set
 
     std::vector<Period> periods;                                // by option index
-    TextSpan periodFrame = u"Months", typeFrame = u"Data Type"; // captions; empty: untitled
-    std::vector<int> periodOrder = {1, 0, 2};                   // from the top
-    std::vector<int> typeOrder = {0, 1, 2, 3, 4};               // from the top; empty: no choice
-    std::map<int, TextSpan> legends{{1, u"Projected"}};         // of series that are shown together
+    TextSpan periodFrame = u"Months", typeFrame = u"Data Type"; // captions; empty: none
+    std::vector<int> periodOrder = {1, 0, 2};                   // indices from the top
+    std::vector<int> typeOrder = {0, 1, 2, 3, 4};               // indices from the top; empty: no choice
+    std::map<int, TextSpan> legends{};                          // by series, where nothing is projected
 };
+
+// Whether a data type has a second series that is not the projection.
+bool hasOwnSecondSeries(const MonthlyScreen& screen);
 
 } // namespace plotvue

@@ -1,29 +1,54 @@
 #include "history/window.h"
 
 #include "capture/failure.h"
-#include "history/reading.h"
+#include "history/monthlyreader.h"
+#include "platform/commoncontrols.h"
 
 namespace plotvue {
+
+namespace {
+
+OptionFrame periodFrame(const MonthlyScreen& screen)
+{
+    OptionFrame frame{.name = "Frame2",
+                      .caption = screen.periodFrame,
+                      .spokenName = u"Months",
+                      .group = "opt12",
+                      .options = {},
+                      .chosen = 0};
+    for (const int index : screen.periodOrder)
+        frame.options.push_back({index, screen.periods.at(static_cast<std::size_t>(index)).caption});
+    return frame;
+}
+
+OptionFrame typeFrame(const MonthlyScreen& screen)
+{
+    std::vector<Option> options;
+    for (const int index : screen.typeOrder)
+        options.push_back({index, screen.types.at(static_cast<std::size_t>(index)).option});
+    return dataTypeFrame(std::move(options), screen.typeFrame);
+}
+
+} // namespace
+
+Declaration declareHistoryWindow(const MonthlyScreen& screen)
+{
+    ChartDesign design{.legends = screen.legends};
+    if (screen.day) {
+        design.projection = 1;
+        design.legends = {{1, u"Projected"}};
+    }
+    std::vector<OptionFrame> frames{periodFrame(screen)};
+    if (!screen.typeOrder.empty())
+        frames.push_back(typeFrame(screen));
+    return declareScreenWindow(screen.window, screen.caption,
+                               {{ChartBox{.name = "ChartFX1", .chart = {.design = design}}, 1}},
+                               std::move(frames));
+}
 
 Declaration HistoryWindow::declare() const
 {
     return declareHistoryWindow(screen_);
-}
-
-Handlers HistoryWindow::handlers()
-{
-    return {{"opt12", [this](int) { opt12_Click(); }},
-            {"optSales", [this](int) { optSales_Click(); }},
-            {"cmdRefresh", [this](int) { cmdRefresh_Click(); }},
-            {"cmdPrint", [this](int) { cmdPrint_Click(); }},
-            {"cmdExit", [this](int) { cmdExit_Click(); }}};
-}
-
-void HistoryWindow::Form_Load()
-{
-    if (!screen_.captionOnLoad.empty())
-        controls().caption.set(Text(screen_.captionOnLoad));
-    RefreshChart();
 }
 
 void HistoryWindow::RefreshChart()
@@ -38,24 +63,24 @@ void HistoryWindow::RefreshChart()
         return;
 
     const DataType& type = chosenType();
-    const MonthlyFigures figures = readCapture(
+    const MonthlySeries series = readCapture(
         capture, [&] { return readMonths(screen_, capture, acceptance.identifier, chosenMonths(), type); });
 
     controls().chart("ChartFX1").change([&](Chart& ChartFX1) {
-        if (screen_.second == SecondSeries::OwnValue)
-            ChartFX1.showSeries(1, type.second.is != Value::Is::Nothing);
+        if (hasOwnSecondSeries(screen_))
+            ChartFX1.showSeries(1, type.second != nullptr);
         if (!type.caption.empty()) {
             ChartFX1.SetTitle(1, type.caption);
             ChartFX1.SetValueDecimals(type.decimals);
         }
-        ChartFX1.SetTitle(2, figures.subject);
+        ChartFX1.SetTitle(2, series.subject);
         if (!screen_.subject2.empty())
-            ChartFX1.SetTitle(3, figures.subject2);
+            ChartFX1.SetTitle(3, series.subject2);
         ChartArrayData data;
-        data.AddArray(figures.values);
-        if (screen_.second != SecondSeries::None)
-            data.AddArray(figures.second);
-        data.AddArray(figures.labels);
+        data.AddArray(series.values);
+        if (!series.second.empty())
+            data.AddArray(series.second);
+        data.AddArray(series.labels);
         ChartFX1.SetChartData(data);
     });
 }

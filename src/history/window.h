@@ -1,18 +1,15 @@
-// The history chart window: one chart, the period and data-type options, and three buttons. What differs from
-// screen to screen is the screen's data.
+// The window of a monthly history screen: a chart, the periods, the data types and three buttons.
 #pragma once
 
 #include "history/screen.h"
-#include "platform/form.h"
+#include "platform/screenwindow.h"
 
 namespace plotvue {
 
-class HistoryWindow : public Form {
+class HistoryWindow : public ScreenWindow {
 public:
-    // `startup` is shown again when the window is left.
-    HistoryWindow(Platform& platform, Form& startup, const MonthlyScreen& screen)
-        : Form(platform),
-          startup_(startup),
+    HistoryWindow(Platform& platform, Form& home, const MonthlyScreen& screen)
+        : ScreenWindow(platform, home),
           screen_(screen)
     {}
 
@@ -20,28 +17,16 @@ public:
 
 protected:
     Declaration declare() const override;
-    Handlers handlers() override;
-    void Form_Load() override;
-    void wayOut() override { cmdExit_Click(); }
+    void RefreshChart() override;
 
 private:
-    void opt12_Click() { RefreshChart(); }
-    void optSales_Click() { RefreshChart(); }
-    void cmdRefresh_Click() { RefreshChart(); }
-    void cmdPrint_Click() { printWindow(); }
-    void cmdExit_Click() { leaveFor(startup_); }
-
-    // Reads the clipboard afresh, parses it and draws; nothing is kept from one drawing to the next.
-    void RefreshChart();
-
     int chosenMonths() const;
     const DataType& chosenType() const;
 
-    Form& startup_;
     const MonthlyScreen& screen_;
 };
 
-// The declaration of a screen's window, as a plain value.
+// The controls of the screen's window and their arrangement.
 Declaration declareHistoryWindow(const MonthlyScreen& screen);
 
 } // namespace plotvue

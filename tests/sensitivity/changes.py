@@ -106,20 +106,19 @@ def neighbours(kind, path, opening):
 
 
 def order():
-    """Neighbours in the recognition order, the dispatch tables and the markers of the ranked screens."""
-    yield from neighbours("order", "src/app/recognition.cpp", r"recognitionOrder\{")
-    text, _ = code_of("src/app/application.cpp")
-    served = [found.span(1) for found in re.finditer(r"\{u\"\w+\", ([^}]+)\}", text)]
-    for one, two in zip(served, served[1:]):
-        if text[one[0]:one[1]].count(",") == text[two[0]:two[1]].count(","):
-            yield swapped("order", "src/app/application.cpp", text, one, two)
+    """Neighbours in the list of screens, their windows, and the markers of the ranked screens."""
+    yield from neighbours("order", "src/app/screens.h", r"screens\{")
+    text, _ = code_of("src/app/screens.h")
+    windows = [found.span() for found in re.finditer(r"Ranked\{&[^}]+\}|&frm\w+|makeWindow<frm\w+>", text)]
+    for one, two in zip(windows, windows[1:]):
+        yield swapped("order", "src/app/screens.h", text, one, two)
     for path in sources(["ranked"]):
         yield from neighbours("order", path, r"\.markers = \{")
 
 
 def captions():
     """Neighbours among the texts of a file: captions, titles, marks."""
-    for path in [*sources(["capture", *SCREENS]), "src/history/salesfields.h"]:
+    for path in [*sources(["capture", *SCREENS]), "src/history/salesfields.h", "src/app/screens.h"]:
         text, _ = code_of(path)
         found = [match.span() for match in re.finditer(r"//[^\n]*|#[^\n]*|u\"(?:\\.|[^\"\\])*\"", text)
                  if match[0].startswith("u")]

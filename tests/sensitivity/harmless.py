@@ -28,11 +28,13 @@ HARMLESS = {
         r"0xF4 -> 245": "what begins so is beyond the last character",
         r"0x7F -> 126|0xD800\) <<|0x10000\) &|- -> \+ \]0x(D800|10000)": "the bit that differs is cut off",
     },
-    r"history/reading": {
-        r"\? dayOf.* : \[0": "the day of a screen that has none is not used",
-        r"double part = \[|int baseYear = \[": NOT_USED,
-        r"baseYearLine = \[4 -> 3": "a fourth line that is not there has no year, and the reader runs out at once",
-        r"\[ \* -> / \]block\.step": "a month is one row up or one row down",
+    r"history/monthlyreader": {
+        r"\? dayAt.* : \[0": "the day of a screen that has none is not used",
+        r"\? screen\.firstYear.* : \[0": "the first year of a screen that has none is not used",
+        r"double part = \[": NOT_USED,
+    },
+    r"history/frmglarch": {
+        r"yearLine = \[4 -> 3": "a fourth line that is not there has no year, and the reader runs out at once",
     },
     r"window\.cpp|drilldown": {
         r"types\.empty\(\) \? \[0": "what draws a chart without types does not look at it",
@@ -44,7 +46,7 @@ HARMLESS = {
     },
     r"group/": {
         r"mid\(rest, 1, end( - \[1 -> 0\]|\[ - -> \+ \]1)": "the semicolon behind a figure ends the number",
-        r"i\[ < -> <= \]mostGroups \* figuresAGroup": NOTHING_MORE,
+        r"i\[ < -> <= \]maxGroups \* valuesPerGroup": NOTHING_MORE,
     },
     r"ranked/exchange": {
         r"descriptor|written|count|buffer\[|done|good": SYSTEM_CALL,
@@ -68,9 +70,9 @@ HARMLESS = {
         r"\(value.*\[ < -> <= \]0 \? down : up\) \+= value": ZERO,
         r"int slot = 0; slot\[ < -> <= \](input\.figures\.slotCount\(\)|layout\.pointCount|figures\.pointCount)": NOTHING_THERE,
     },
-    r"app/recognition": {
-        r"digits|characters = |commonLength = \[6 -> 5|markersWith|found & |possible (==|>>)": ONLY_WHERE,
-        r"i\[ < -> <= \]recognitionOrder": "no candidate has a bit behind the last marker's",
+    r"app/(recognition|markersearch)": {
+        r"maxMarkers|characters = |minLength = \[6 -> 5|with(First|Last)_|found & |possible (==|>>)": ONLY_WHERE,
+        r"i\[ < -> <= \](screens|markers)": "no candidate has a bit after the last marker's",
     },
 }
 

@@ -8,12 +8,6 @@
 
 namespace plotvue::sessions {
 
-const std::set<std::string> historyWindows{
-    "frmProduct",    "frmSalesman", "frmCustomerE", "frmCustP",    "frmCustP2",  "frmPware",
-    "frmSite",       "frmSJHIST",   "frmGLexpense", "frmGLarch",   "frmDriver",  "frmTruck",
-    "frmLateCharge", "frmCSTORE",   "frmActive",    "frmQXM21SXC", "frmQXM21CXS"};
-const std::set<std::string> listWindows{"frmM2Mpft", "frmPastdue", "frmProfRank", "frmVendInv", "frmRatio"};
-
 namespace {
 
 bool holds(const std::vector<std::string>& items, const std::string& item)
@@ -98,14 +92,11 @@ void Walk::finish()
 {
     if (over())
         return;
-    std::set<std::string> windows{"startup"};
-    windows.insert(historyWindows.begin(), historyWindows.end());
-    windows.insert(listWindows.begin(), listWindows.end());
-    for (const std::string& list : listWindows)
-        windows.insert(list + "A");
-    for (const std::string& name : windows) {
-        const Form& window = *player_.application().window(name);
-        if (window.loaded() != loaded_.contains(name) || window.visible() != visible_.contains(name))
+    std::map<std::string, const Form*> windows; // in the order of their names
+    for (const Form* window : player_.application().windows())
+        windows.emplace(window->name(), window);
+    for (const auto& [name, window] : windows) {
+        if (window->loaded() != loaded_.contains(name) || window->visible() != visible_.contains(name))
             throw Wrong(name + " is not loaded or visible as the events told");
         if (manner_.talkative)
             play("dump " + name);

@@ -16,6 +16,8 @@ Walk::Walk(replay::Stage& stage, const Random& random, std::ostream& script, Man
         print(event);
         heard(event);
     };
+    for (const Screen& screen : screens)
+        (screen.ranked() ? lists_ : charts_).emplace(player_.application().windowOf(screen).name());
 }
 
 void Walk::heard(const Event& event)
@@ -134,7 +136,7 @@ void Walk::tour()
 
 void Walk::use(const std::string& window)
 {
-    if (historyWindows.contains(window) && random_.inPercent(15))
+    if (charts_.contains(window) && random_.inPercent(15))
         return random_.inPercent(50) ? twiceRefreshedIsTheSame(window) : shownAgainIsTheSame(window);
     std::vector<Offer> all = offers(window);
     all.push_back({"close " + window});
@@ -147,7 +149,7 @@ void Walk::use(const std::string& window)
             all = {{"click startup Command2", "close startup"}};
     }
     const std::string line = random_.from(random_.from(all));
-    if (listWindows.contains(window) && line.starts_with("row") && whole_)
+    if (lists_.contains(window) && line.starts_with("row") && whole_)
         return backThenDownIsTheSame(window, line);
     play(line);
 }

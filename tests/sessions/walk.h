@@ -16,8 +16,6 @@ struct Wrong : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-extern const std::set<std::string> historyWindows, listWindows; // charts of a row: the list's name and an A
-
 void mustBePlain(TextSpan sentence); // of an error report, and none about a mistake of the program's own
 void mustBeEqual(const std::string& what, const std::string& one, const std::string& other);
 
@@ -65,7 +63,9 @@ private:
     Manner manner_;
     std::ostringstream out_;
     replay::Player player_;
-    std::set<std::string> loaded_, visible_;        // by the events
+    std::set<std::string> lists_, charts_;   // windows that a ranked or another screen opens; a row of a list
+                                             // opens the window with the name of the list and an A
+    std::set<std::string> loaded_, visible_; // by the events
     std::vector<std::string> loadedNow_, shownNow_; // by the line played last
     std::string end_ = "still alive";
     std::optional<Text> error_; // what the error report says

@@ -1,4 +1,4 @@
-#include "history/screens.h"
+#include "app/screens.h"
 #include "support/capturebuilder.h"
 #include "unit/saleshistory.h"
 

@@ -1,7 +1,7 @@
 // What the tests of the monthly windows share.
 #pragma once
 
-#include "history/screens.h"
+#include "app/screens.h"
 #include "history/window.h"
 #include "support/capturebuilder.h"
 #include "support/monthlytable.h"

@@ -1,5 +1,5 @@
 // What all history windows have in common, seen on the product window.
-#include "history/screens.h"
+#include "app/screens.h"
 #include "history/window.h"
 #include "support/capturebuilder.h"
 #include "support/session.h"

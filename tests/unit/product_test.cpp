@@ -1,6 +1,6 @@
+#include "app/screens.h"
 #include "capture/utf8.h"
-#include "history/reading.h"
-#include "history/screens.h"
+#include "history/monthlyreader.h"
 #include "unit/product_fixture.h"
 
 #include <gmock/gmock.h>

@@ -1,9 +1,9 @@
 // What the error report says: a sentence that tells the manager what is wrong with the screen.
 #include "app/recognition.h"
+#include "app/screens.h"
 #include "capture/failure.h"
 #include "capture/month.h"
-#include "history/reading.h"
-#include "history/screens.h"
+#include "history/monthlyreader.h"
 #include "support/capturebuilder.h"
 #include "support/session.h"
 

@@ -1,4 +1,4 @@
-#include "group/reading.h"
+#include "group/groupreader.h"
 
 #include "capture/failure.h"
 #include "capture/lines.h"
@@ -10,7 +10,7 @@ namespace plotvue {
 
 namespace {
 
-constexpr int mostSalesmen = 23;
+constexpr int maxSalesmen = 23;
 
 TextSpan nextLine(TextSpan& rest)
 {
@@ -25,7 +25,7 @@ int countAfter(TextSpan line, TextSpan mark, Position length)
     return toInt16(leadingNumber(mid(line, start, length)), u"A count on the screen");
 }
 
-// The names between the semicolons; the last may go without one and then ends with the line.
+// The names are between semicolons. The last name may end with the line in place of a semicolon.
 std::vector<TextSpan> namesIn(TextSpan line, int count)
 {
     TextSpan rest = mid(line, find(line, u";") + 1);
@@ -40,14 +40,14 @@ std::vector<TextSpan> namesIn(TextSpan line, int count)
     return names;
 }
 
-Salesman readSalesman(TextSpan line, std::size_t figures, const std::vector<bool>& wanted)
+Salesman readSalesman(TextSpan line, std::size_t values, const std::vector<bool>& wanted)
 {
-    Salesman salesman{Text(mid(line, 1, 2)) + u'_' + Text(mid(line, 3, 2)), std::vector<double>(figures)};
+    Salesman salesman{Text(mid(line, 1, 2)) + u'_' + Text(mid(line, 3, 2)), std::vector<double>(values)};
     TextSpan rest = mid(line, 6);
-    for (std::size_t i = 0; i < figures; ++i) {
+    for (std::size_t i = 0; i < values; ++i) {
         const Position end = find(rest, u";");
         if (end && wanted[i])
-            salesman.figures[i] = leadingNumber(mid(rest, 1, end - 1));
+            salesman.values[i] = leadingNumber(mid(rest, 1, end - 1));
         rest = mid(rest, end + 1);
     }
     return salesman;
@@ -65,16 +65,16 @@ GroupScreen readGroups(TextSpan capture, const std::vector<bool>& wanted)
     const int salesmen = readLine(groupLine, [&] {
         screen.groups = countAfter(groupLine, u"GROUPS:", 2);
         const int count = countAfter(groupLine, u"SCOUNT:", 9);
-        if (count < 0 || count > mostSalesmen)
+        if (count < 0 || count > maxSalesmen)
             throw Failure{
                 u"The count of salesmen on the screen is outside 0 to 23, which is all that can be charted."};
         return count;
     });
     screen.names = namesIn(groupLine, screen.groups);
-    const auto figures = static_cast<std::size_t>(std::clamp(screen.groups, 0, mostGroups) * figuresAGroup);
+    const auto values = static_cast<std::size_t>(std::clamp(screen.groups, 0, maxGroups) * valuesPerGroup);
     for (int i = 0; i < salesmen; ++i) {
         const TextSpan line = nextLine(rest);
-        screen.salesmen.push_back(readLine(line, [&] { return readSalesman(line, figures, wanted); }));
+        screen.salesmen.push_back(readLine(line, [&] { return readSalesman(line, values, wanted); }));
     }
     return screen;
 }

@@ -1,0 +1,84 @@
+#include "history/monthlyreader.h"
+
+#include "capture/failure.h"
+#include "capture/month.h"
+#include "capture/number.h"
+#include "history/titles.h"
+
+namespace plotvue {
+
+namespace {
+
+MonthRow rowOf(const MonthlyScreen& screen, const ScreenLines& lines, int month)
+{
+    const MonthPlace place = screen.place(screen, lines, month);
+    return {month, place.column, lines[place.line], screen.dropCommas};
+}
+
+double dayAt(TextSpan capture, Position position)
+{
+    const TextSpan field = mid(capture, position, 2);
+    return readLine(field, [&] { return leadingNumber(field); });
+}
+
+} // namespace
+
+Acceptance accept(const MonthlyScreen& screen, TextSpan capture)
+{
+    Acceptance result;
+    for (const RequiredWord& required : screen.words) {
+        result.identifier = find(capture, required.word);
+        if (screen.shortPositions != ShortPositions::None)
+            toInt16(static_cast<double>(result.identifier), u"The copied text");
+        if (required.accepts(result.identifier))
+            continue;
+        result.end = required.otherwise == RequiredWord::Otherwise::End;
+        result.stop = required.otherwise == RequiredWord::Otherwise::Stop;
+        result.leave |= !result.end;
+        if (result.stop || result.end)
+            break;
+    }
+    return result;
+}
+
+MonthlySeries readMonths(const MonthlyScreen& screen, TextSpan capture, Position identifier, int months,
+                         const DataType& type)
+{
+    const double day = screen.day ? dayAt(capture, identifier + *screen.day) : 0;
+
+    const ScreenLines lines(capture);
+    const int firstYear = screen.firstYear ? screen.firstYear(lines) : 0;
+    lines.requireAll();
+
+    MonthlySeries series;
+    const auto slots = static_cast<std::size_t>(months) + 1;
+    series.values.resize(slots);
+    series.labels.resize(slots);
+    if (screen.day || hasOwnSecondSeries(screen))
+        series.second.resize(slots);
+
+    for (int month = 1; month <= months; ++month) {
+        const auto slot = static_cast<std::size_t>(months - month);
+        const MonthRow row = rowOf(screen, lines, month);
+        readLine(row.line, [&] {
+            series.labels[slot] = screen.label(row, months, firstYear);
+            double part = 1;
+            if (screen.day && month == 1)
+                part = elapsedPart(daysOfMonth(mid(row.line, row.column, 3)), day);
+            const double value = type.value(row);
+            series.values[slot] = value;
+            if (type.second)
+                series.second[slot] = type.second(row);
+            else if (type.projected && month == 1)
+                series.second[slot] = finite(finite(value / part) - value);
+        });
+    }
+    if (screen.finish)
+        screen.finish(series.values);
+
+    series.subject = compose(screen.subject, lines, type, screen.shortPositions);
+    series.subject2 = compose(screen.subject2, lines, type, screen.shortPositions);
+    return series;
+}
+
+} // namespace plotvue
