@@ -93,7 +93,7 @@ Text Startup::IdentifyScreen()
     const Text screen = platform().clipboardText();
     const Recognised recognised = recognise(screen);
     if (recognised.ranked)
-        RecordWriter().text(screen).endRecord().writeTo(scratchFile);
+        writeRecords(scratchFile, {{Text(screen)}});
     if (recognised.identifier.empty())
         platform().message(u"Need Data", u"Clipboard contains no data");
     return Text(recognised.identifier);

@@ -9,7 +9,8 @@ namespace {
 
 enum Type { Sales, Profit, Volume, Percent, PerUnit };
 
-// Profit by sales or volume; the profit is not read where there is nothing to divide by.
+// 100 times the profit by the divisor: sales or volume. Where the divisor is 0, so is the result, and the
+// profit is not read, so it cannot be too large.
 double perHundred(TextSpan profitLine, Position profitWidth, TextSpan divisorLine, int month)
 {
     const double divisor = monthFigure(divisorLine, month);

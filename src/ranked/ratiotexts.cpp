@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <span>
 
 namespace plotvue {
 
@@ -11,6 +10,8 @@ namespace {
 struct Ratio {
     TextSpan code, name, note;
 };
+
+constexpr Ratio unknown{{}, u"Undefined Ratio", u"No information available."};
 
 constexpr std::array ratios{
     Ratio{u"CUR ", u"Current Ratio",
@@ -39,42 +40,36 @@ constexpr std::array components{
     Ratio{u"SLS ", u"Total Sales", u"Total Sales"},
     Ratio{u"CASH", u"Total Cash", u"Total Cash"},
     Ratio{u"CLIB", u"Current Liabilities", u"Current Liabilities"},
-    Ratio{u"TLIB", u"Total Liabilites", u"Total Liabilites"}, // spelled as the managers know it
+    Ratio{u"TLIB", u"Total Liabilites", u"Total Liabilites"}, // the spelling that managers know
 };
 
-const Ratio* lookUp(std::span<const Ratio> table, TextSpan code)
+template <typename Table>
+const Ratio& lookUp(const Table& table, TextSpan code, const Ratio& otherwise)
 {
-    const auto at =
-        std::find_if(table.begin(), table.end(), [&](const Ratio& ratio) { return ratio.code == code; });
-    return at == table.end() ? nullptr : &*at;
+    const auto at = std::ranges::find(table, code, &Ratio::code);
+    return at == table.end() ? otherwise : *at;
 }
 
-const Ratio* lookUpBoth(TextSpan code)
+const Ratio& ratioOrComponent(TextSpan code)
 {
-    const Ratio* ratio = lookUp(ratios, code);
-    return ratio ? ratio : lookUp(components, code);
+    return lookUp(ratios, code, lookUp(components, code, unknown));
 }
-
-constexpr TextSpan undefined = u"Undefined Ratio";
 
 } // namespace
 
 TextSpan ratioName(TextSpan code)
 {
-    const Ratio* ratio = lookUp(ratios, code);
-    return ratio ? ratio->name : undefined;
+    return lookUp(ratios, code, unknown).name;
 }
 
 TextSpan ratioOrComponentName(TextSpan code)
 {
-    const Ratio* ratio = lookUpBoth(code);
-    return ratio ? ratio->name : undefined;
+    return ratioOrComponent(code).name;
 }
 
-TextSpan ratioNote(TextSpan code)
+TextSpan ratioOrComponentNote(TextSpan code)
 {
-    const Ratio* ratio = lookUpBoth(code);
-    return ratio ? ratio->note : u"No information available.";
+    return ratioOrComponent(code).note;
 }
 
 } // namespace plotvue

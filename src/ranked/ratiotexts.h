@@ -1,17 +1,17 @@
-// What the financial ratios are called and what they mean, by the host's code of four characters, blanks and
-// case included.
+// The names of the financial ratios and the notes on them. A code has four characters; blanks and case count.
 #pragma once
 
 #include "capture/text.h"
 
 namespace plotvue {
 
-// "Undefined Ratio" for a code that is none. The components of formulas have names in the drill-down window
-// only.
+// "Undefined Ratio" for an unknown code.
 TextSpan ratioName(TextSpan code);
+
+// The same for ratios and for the components of their formulas.
 TextSpan ratioOrComponentName(TextSpan code);
 
-// "No information available." for a code without a note.
-TextSpan ratioNote(TextSpan code);
+// "No information available." for an unknown code.
+TextSpan ratioOrComponentNote(TextSpan code);
 
 } // namespace plotvue

@@ -106,7 +106,7 @@ def neighbours(kind, path, opening):
 
 
 def order():
-    """Neighbours in the recognition order, the dispatch tables and the markers of the ranked screens."""
+    """Neighbours in the recognition order, the dispatch tables and the rules of the ranked screens."""
     yield from neighbours("order", "src/app/recognition.cpp", r"recognitionOrder\{")
     text, _ = code_of("src/app/application.cpp")
     served = [found.span(1) for found in re.finditer(r"\{u\"\w+\", ([^}]+)\}", text)]
@@ -114,7 +114,7 @@ def order():
         if text[one[0]:one[1]].count(",") == text[two[0]:two[1]].count(","):
             yield swapped("order", "src/app/application.cpp", text, one, two)
     for path in sources(["ranked"]):
-        yield from neighbours("order", path, r"\.markers = \{")
+        yield from neighbours("order", path, r"\.rules = \{")
 
 
 def captions():

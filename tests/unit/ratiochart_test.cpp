@@ -1,37 +1,23 @@
-#include "unit/ratio_fixture.h"
+// The chart of a ratio: thirteen months, and its name.
+#include "rankedfixture.h"
 
-namespace plotvue {
+namespace plotvue::test {
 namespace {
 
-using namespace test;
+RankedSession opened(TextSpan capture, int row = 1)
+{
+    return {ratios, capture, row};
+}
 
-constexpr Name drillDown = "frmRatioA";
-
-const Texts oldestFirst{u"OCT98", u"NOV98", u"DEC98", u"JAN99", u"FEB99", u"MAR99", u"APR99",
-                        u"MAY99", u"JUN99", u"JUL99", u"AUG99", u"SEP99", u"OCT99"};
-
-struct Opened : Session {
-    explicit Opened(TextSpan capture, int row = 1)
-    {
-        start(capture);
-        events();
-        clickRow("frmRatio", "MSFlexGrid1", row);
-    }
-    ChartContent drawn() { return chart(drillDown); }
-};
-
-// One ratio with these lines, opened.
+// One ratio with these lines.
 Text oneRatio(const Lines& lines)
 {
-    return hostScreen({ratioTitle, thirteenMonths}) + hostScreen(lines);
+    return hostScreen({ratioTitle, u"Mlabel " + Text(monthLabels)}) + hostScreen(lines);
 }
 
 TEST(RatioChart, ShowsThirteenMonthsOfTheClickedRatio)
 {
-    Opened session(twoRatios());
-    EXPECT_EQ(session.events(), (Events{"load frmRatioA", "show frmRatioA"}));
-    EXPECT_TRUE(session.visible("frmRatio"));
-    EXPECT_EQ(session.caption(drillDown), u"PlotVue");
+    RankedSession session = opened(twoRatios());
     const ChartContent chart = session.drawn();
     const std::map<int, Text> titles{{2, u"Current Ratio"}};
     EXPECT_EQ(chart.titles, titles);
@@ -42,24 +28,10 @@ TEST(RatioChart, ShowsThirteenMonthsOfTheClickedRatio)
     EXPECT_FALSE(chart.decimals);
 }
 
-TEST(RatioChart, HasItsButtonsAndNoDataTypes)
-{
-    Opened session(twoRatios());
-    std::vector<std::string> names;
-    for (const auto& [name, control] : session.app.window(drillDown)->view().state().controls)
-        names.push_back(name);
-    EXPECT_EQ(names, (std::vector<std::string>{"ChartFX1", "cmdBack", "cmdExit", "cmdFormula", "cmdNext",
-                                               "cmdNote", "cmdPrint"}));
-    EXPECT_EQ(session.text(drillDown, "cmdFormula"), u"Formula");
-    EXPECT_EQ(session.text(drillDown, "cmdNote"), u"Ratio Notes");
-    EXPECT_EQ(session.text(drillDown, "cmdNext"), u"Down");
-    EXPECT_EQ(session.text(drillDown, "cmdExit"), u"Close");
-}
-
 // Figures of thirteen columns with other digits on both sides.
 TEST(RatioChart, EveryFieldHasItsColumns)
 {
-    Opened session(hostScreen({
+    RankedSession session = opened(hostScreen({
         ratioTitle,
         u"Mlabel A0001B0002C0003D0004E0005F0006G0007H0008I0009J0010K0011L0012M0013N0014",
         u"1:CUR "
@@ -89,15 +61,16 @@ TEST(RatioChart, TheAxisReachesTheLargestOfMonthsAndBenchmark)
         double largest;
     } const cases[] = {{u"5", u"4", 5}, {u"5", u"6.5", 6.5}, {u"-5", u"-4", 0}, {u"-5", u"", 0}};
     for (const auto& tested : cases) {
-        Opened session(oneRatio({ratioLine(u"1:", u"CUR ", {tested.newest}), u"2:CUR ",
-                                 benchmarkLine(tested.benchmark, u"99", u"99"), u"4: ", u"5: ", u"6: "}));
+        RankedSession session =
+            opened(oneRatio({ratioLine(u"1:", u"CUR ", {tested.newest}), u"2:CUR ",
+                             benchmarkLine(tested.benchmark, u"99", u"99"), u"4: ", u"5: ", u"6: "}));
         EXPECT_EQ(session.drawn().axisMax, tested.largest);
     }
 }
 
 TEST(RatioChart, TheAxisReachesAtLeastZero)
 {
-    Opened session(
+    RankedSession session = opened(
         oneRatio({ratioLine(u"1:", u"CUR ", Lines(7, u"-2")), ratioLine(u"2:", u"CUR ", Lines(6, u"-3")),
                   benchmarkLine(u"-1", u"", u""), u"4: ", u"5: ", u"6: "}));
     EXPECT_EQ(session.drawn().axisMax, 0);
@@ -105,7 +78,7 @@ TEST(RatioChart, TheAxisReachesAtLeastZero)
 
 TEST(RatioChart, BlankFiguresAreZero)
 {
-    Opened session(oneRatio({u"1:CUR ", u"2:CUR ", u"3:", u"4: ", u"5: ", u"6: "}));
+    RankedSession session = opened(oneRatio({u"1:CUR ", u"2:CUR ", u"3:", u"4: ", u"5: ", u"6: "}));
     EXPECT_EQ(session.drawn().series, std::vector<Numbers>{Numbers(13)});
     EXPECT_EQ(session.drawn().axisMax, 0);
 }
@@ -121,13 +94,12 @@ class RatioKnown : public testing::TestWithParam<Named> {};
 // The code of the second line tells, whatever stands on the first.
 TEST_P(RatioKnown, HasANameAndANote)
 {
-    Opened session(
+    RankedSession session = opened(
         oneRatio({u"1:XXXX", Text(u"2:") + GetParam().code + u"    1", u"3:", u"4: ", u"5: ", u"6: STD"}));
-    EXPECT_EQ(session.drawn().titles.at(2), GetParam().name);
-    session.events();
+    EXPECT_EQ(session.subject(), GetParam().name);
     std::vector<std::pair<Text, Text>> messages;
     session.platform.listener = [&](const Event& event) { messages.emplace_back(event.title, event.text); };
-    session.press(drillDown, "cmdNote");
+    session.use("cmdNote");
     EXPECT_EQ(messages, (std::vector<std::pair<Text, Text>>{{u"Ratio Notes", GetParam().note}}));
 }
 
@@ -171,10 +143,9 @@ INSTANTIATE_TEST_SUITE_P(Others, RatioKnown,
 
 TEST(RatioChart, ACodeWithoutItsBlanksIsUndefined)
 {
-    Opened session(oneRatio({u"1:Q", u"2:Q", u"3:", u"4: ", u"5: ", u"6: STD"}));
-    EXPECT_EQ(session.drawn().titles.at(2), u"Undefined Ratio");
-    session.events();
-    session.press(drillDown, "cmdNote");
+    RankedSession session = opened(oneRatio({u"1:Q", u"2:Q", u"3:", u"4: ", u"5: ", u"6: STD"}));
+    EXPECT_EQ(session.subject(), u"Undefined Ratio");
+    session.use("cmdNote");
     EXPECT_EQ(session.events(), Events{"message Ratio Notes: No information available."});
 }
 
@@ -187,10 +158,10 @@ class RatioTitle : public testing::TestWithParam<Own> {};
 
 TEST_P(RatioTitle, IsTheScreensOwnNameWhereItHasOne)
 {
-    Opened session(oneRatio({u"1:CUR ", u"2:CUR ", GetParam().line, u"4: ", u"5: ", u"6: STD"}));
-    EXPECT_EQ(session.drawn().titles.at(2), GetParam().name);
-    session.events();
-    session.press(drillDown, "cmdNote"); // which is looked up by the code all the same
+    RankedSession session =
+        opened(oneRatio({u"1:CUR ", u"2:CUR ", GetParam().line, u"4: ", u"5: ", u"6: STD"}));
+    EXPECT_EQ(session.subject(), GetParam().name);
+    session.use("cmdNote"); // which is looked up by the code all the same
     EXPECT_EQ(session.events(),
               Events{"message Ratio Notes: Ratio of short-term assets to short-term liabilities. "
                      " A quick measure of solvency."});
@@ -205,14 +176,15 @@ INSTANTIATE_TEST_SUITE_P(Lines, RatioTitle,
 
 TEST(RatioChart, WithoutMonthLabelsThePointsHaveNone)
 {
-    Opened session(hostScreen({ratioTitle, u"1:CUR ", u"2:CUR ", u"3:", u"4: ", u"5: ", u"6: "}));
+    RankedSession session =
+        opened(hostScreen({ratioTitle, u"1:CUR ", u"2:CUR ", u"3:", u"4: ", u"5: ", u"6: "}));
     EXPECT_EQ(session.drawn().labels, Texts(13));
 }
 
 TEST(RatioChart, TheSampleIsReadAsItStands)
 {
-    Opened session(sample("ratios"), 9);
-    EXPECT_EQ(session.drawn().titles.at(2), u"Inventory");
+    RankedSession session = opened(sample("ratios"), 9);
+    EXPECT_EQ(session.subject(), u"Inventory");
     EXPECT_EQ(session.drawn().series,
               (std::vector<Numbers>{{1167669, 1194963, 1246651, 1231229, 1282783, 1281877, 1194421, 1220306,
                                      1273458, 1268572, 1225894, 1315452, 1248493}}));
@@ -221,4 +193,4 @@ TEST(RatioChart, TheSampleIsReadAsItStands)
 }
 
 } // namespace
-} // namespace plotvue
+} // namespace plotvue::test
