@@ -23,6 +23,8 @@ namespace {
 
 using To = LineField::To;
 
+constexpr Position previousColumn = 20; // of the previous profit on the "Mprofit" line
+
 void drawEntry(View& view, const Record& record, int type)
 {
     draw(view, record, type, record[2]);
@@ -41,8 +43,8 @@ const RankedAnalysis frmM2Mpft = list(
                               {To::EntryNumber, marginPart, 32, 9}},
                    .then = count},
                   {.marker = u"MONTH TO MONTH", .fields = {{To::ScreenText, header, 1}}}},
-        // A gain of exactly 0 is counted as a loss, yet both grids list it. Among the gains it takes a row
-        // that was counted for another entry, and the last gain gets none.
+        // A gain of exactly 0 is counted as a loss, but both grids list it. So it takes a row of the gains
+        // that was counted for another entry, and the last gain is not listed.
         .grids = {grid(gains,
                        {.name = "MSFlexGrid1",
                         .spokenName = u"Gains",
@@ -56,7 +58,7 @@ const RankedAnalysis frmM2Mpft = list(
                                   u"|Product Group  "},
                        PictureBox{"Picture2", u"Losses", PictureBox::Shows::Loss})},
     },
-    20);
+    previousColumn);
 
 const DrillDownDesign frmM2MpftA = drillDown("frmM2MpftA", frmM2Mpft, drawEntry);
 

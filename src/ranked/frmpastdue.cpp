@@ -34,7 +34,7 @@ double bucket(TextSpan line, int number)
     return leadingNumber(mid(line, 7 + 8 * number, 8));
 }
 
-// Until the screen has given its labels, a line of crosses is an ageing line.
+// Before the first "Mlabel" line, a line with five crosses is an ageing line.
 void startWithCrosses(RankedScreen& screen)
 {
     screen.texts[ageingKey] = u"xxxxx";
@@ -45,8 +45,8 @@ void countEntry(RankedScreen& screen, TextSpan)
     ++screen.counts[0];
 }
 
-// Every line that holds the current month's label is the current entry's ageing line, another "Mlabel" line
-// included.
+// Every line that holds the current month's label is taken for the current entry's ageing line. An "Mlabel"
+// line may be one, too.
 void takeAgeing(RankedScreen& screen, TextSpan line)
 {
     if (!holds(line, mid(screen.texts[ageingKey], 1, 5)))

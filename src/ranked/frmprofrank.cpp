@@ -21,6 +21,8 @@ namespace {
 
 using To = LineField::To;
 
+constexpr Position previousColumn = 21; // of the previous profit on the "Mprofit" line
+
 // The last of the lines 2 to 5 that holds either marker; the second where none does, as when the list has a
 // row for a rank that the screen lacks.
 TextSpan componentLine(const Record& record)
@@ -59,7 +61,7 @@ const RankedAnalysis frmProfRank = list(
              .format = u"Rank |Profit (current)|Customer|Customer Name                                      "
                        u"|Product Group  "})},
     },
-    21);
+    previousColumn);
 
 const DrillDownDesign frmProfRankA = drillDown("frmProfRankA", frmProfRank, drawEntry);
 

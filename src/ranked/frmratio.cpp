@@ -11,7 +11,7 @@
 //     6: STD
 //
 // Every value of the first two lines has 13 columns and a blank, the first from column 9 on. The third line
-// may name the ratio after "3A:". The sixth is the note on it; STD is short for PlotVue's own note.
+// may name the ratio after "3A:". The sixth is a note on it; STD means the note that PlotVue has.
 
 #include "capture/number.h"
 #include "ranked/analyses.h"

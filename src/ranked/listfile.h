@@ -15,8 +15,8 @@ public:
     // Throws Failure when the list file cannot be read.
     explicit ListFile(const RankedAnalysis& analysis) : analysis_(analysis), reader_(listFile) {}
 
-    // Reads on until a record has the key. When none of the first `limit` records has it, takes the last of
-    // them. Throws Failure when the file ends before that.
+    // Reads on until a record has the key, at most to the record number `limit`, and returns the last record
+    // that was read. Throws Failure when the file ends before that.
     const Record& find(const KeyValues& key, int limit);
 
     int position() const { return position_; }           // of the record read last, from 1

@@ -7,12 +7,9 @@
 namespace plotvue {
 
 inline constexpr int monthColumns = 13;
-inline constexpr Position columnWidth = 8;
+inline constexpr Position columnWidth = 8; // of a figure
 
-// The number at column 8 * month - 5. Months count from 1, the newest.
-double monthFigure(TextSpan line, int month, Position width = columnWidth);
-
-// The 5 characters at column 5 * month - 4: "OCT99".
+// The 5 characters at column 5 * month - 4: "OCT99". Months count from 1, the newest.
 Text monthLabel(TextSpan labels, int month);
 
 // The lines of which the data types are made.

@@ -16,11 +16,11 @@ enum Count { gains, losses };
 // Counts the current entry as a loss when its figure is 0 or less, otherwise as a gain.
 void count(RankedScreen& screen, TextSpan line);
 
-// The grid of the gains or of the losses. Each lists an entry of exactly 0.
+// The grid of the gains or the losses. Both list an entry whose figure is exactly 0.
 RankedGrid grid(Count count, GridBox box, std::optional<PictureBox> picture = {});
 
-// `own` with what both have alike: more rules, the heading and the key. The territory's previous profit is in
-// `previousColumn` to column 30 of the "Mprofit" line.
+// Adds what both have in common: a rule before `own` rules and three after them, the heading, the key. On the
+// "Mprofit" line the territory's previous profit is in `previousColumn` to column 30.
 RankedAnalysis list(RankedAnalysis own, Position previousColumn);
 
 DrillDownDesign drillDown(Name window, const RankedAnalysis& analysis,

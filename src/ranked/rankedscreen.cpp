@@ -10,7 +10,7 @@ namespace {
 
 constexpr Position rankColumn = 6;
 constexpr Position rankLength = 3;
-constexpr int searchedLines = 1000; // for an entry's first line, those after the screen's last one included
+constexpr int searchedLines = 1000; // for an entry's first line; empty ones follow the screen's last
 
 std::vector<TextSpan> cutLines(TextSpan rest, int maxLines)
 {
