@@ -50,7 +50,7 @@ void countEntry(RankedScreen& screen, TextSpan)
 
 void nameByCode(RankedScreen& screen, TextSpan line)
 {
-    screen.currentEntry().texts[name] = ratioName(codeOf(line));
+    screen.currentEntry().texts[name] = ratio(codeOf(line)).name;
 }
 
 // The name after "3A:", up to a bar or the end of the line; absent where the line has no "3A:".
@@ -87,7 +87,7 @@ Text noteMessage(const Record& record)
 {
     const TextSpan note = textOf(record, 6);
     const TextSpan bare = note.ends_with(carriageReturn) ? withoutLast(note) : note;
-    return Text(bare == u"STD" ? ratioOrComponentNote(codeOf(record[2])) : note);
+    return Text(bare == u"STD" ? ratioOrComponent(codeOf(record[2])).note : note);
 }
 
 double monthValue(const Record& record, int month)
@@ -114,7 +114,7 @@ void draw(View& view, const Record& record, int)
         textOf(record, line);
 
     ChartControl& ChartFX1 = view.chart("ChartFX1");
-    ChartFX1.SetTitle(2, ownName(record[3]).value_or(ratioOrComponentName(codeOf(record[2]))));
+    ChartFX1.SetTitle(2, ownName(record[3]).value_or(ratioOrComponent(codeOf(record[2])).name));
     ChartFX1.SetAxisMax(largest);
     ChartArrayData data;
     data.AddArray(values);

@@ -28,8 +28,7 @@ struct Key {
     TextSpan recordStart{}; // the entry's first line in the list file must begin with it
 };
 
-// One value for each part, in their order.
-using KeyValues = RecordFields;
+using KeyValues = RecordFields; // one for each part
 
 // Throws Failure when the part is a number and the text one that is too large for a double.
 RecordField keyValue(const KeyPart& part, TextSpan text);

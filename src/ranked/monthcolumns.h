@@ -12,7 +12,7 @@ inline constexpr Position columnWidth = 8; // of a figure
 // The 5 characters at column 5 * month - 4: "OCT99". Months count from 1, the newest.
 Text monthLabel(TextSpan labels, int month);
 
-// The lines of which the data types are made.
+// The lines from which the data types are worked out.
 struct MonthLines {
     TextSpan volume, sales, profit;
     Position profitWidthOfPercent = columnWidth; // the width of the profit that is divided by sales

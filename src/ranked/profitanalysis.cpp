@@ -109,7 +109,7 @@ void draw(View& view, const Record& record, int type, TextSpan componentLine)
 
     const TextSpan entry = record[1];
     const MonthType& chosen = monthTypes()[static_cast<std::size_t>(type)];
-    // The profit of the percentage has one column more: the first one of the next month.
+    // The percentage reads each profit one column too wide, into the next month.
     const ChartArrayData months = monthSeries(
         record[0], {.volume = record[3], .sales = record[4], .profit = record[5], .profitWidthOfPercent = 9},
         type);

@@ -7,10 +7,6 @@ namespace plotvue {
 
 namespace {
 
-struct Ratio {
-    TextSpan code, name, note;
-};
-
 constexpr Ratio unknown{{}, u"Undefined Ratio", u"No information available."};
 
 constexpr std::array ratios{
@@ -50,26 +46,16 @@ const Ratio& lookUp(const Table& table, TextSpan code, const Ratio& otherwise)
     return at == table.end() ? otherwise : *at;
 }
 
+} // namespace
+
+const Ratio& ratio(TextSpan code)
+{
+    return lookUp(ratios, code, unknown);
+}
+
 const Ratio& ratioOrComponent(TextSpan code)
 {
     return lookUp(ratios, code, lookUp(components, code, unknown));
-}
-
-} // namespace
-
-TextSpan ratioName(TextSpan code)
-{
-    return lookUp(ratios, code, unknown).name;
-}
-
-TextSpan ratioOrComponentName(TextSpan code)
-{
-    return ratioOrComponent(code).name;
-}
-
-TextSpan ratioOrComponentNote(TextSpan code)
-{
-    return ratioOrComponent(code).note;
 }
 
 } // namespace plotvue

@@ -1,17 +1,17 @@
-// The names of the financial ratios and the notes on them. A code has four characters; blanks and case count.
+// The names of the financial ratios and the notes on them.
 #pragma once
 
 #include "capture/text.h"
 
 namespace plotvue {
 
-// "Undefined Ratio" for an unknown code.
-TextSpan ratioName(TextSpan code);
+struct Ratio {
+    TextSpan code; // four characters; blanks and case count
+    TextSpan name, note;
+};
 
-// The same for ratios and for the components of their formulas.
-TextSpan ratioOrComponentName(TextSpan code);
-
-// "No information available." for an unknown code.
-TextSpan ratioOrComponentNote(TextSpan code);
+// Of an unknown code, the name is "Undefined Ratio" and the note "No information available.".
+const Ratio& ratio(TextSpan code);
+const Ratio& ratioOrComponent(TextSpan code); // also knows the components of the ratios' formulas
 
 } // namespace plotvue

@@ -9,7 +9,7 @@ RankedSession opened(const CaptureBuilder& capture)
     return {m2m, capture.text()};
 }
 
-// About the territory's profits.
+// What the list says about the territory's profits.
 Text sentence(TextSpan current, TextSpan previous)
 {
     MonthToMonthScreen screen;
@@ -90,7 +90,7 @@ TEST(MonthToMonth, AGainOfCentsIsNoLoss)
     EXPECT_EQ(session.column(2, lossesGrid), Texts{u"10002"});
 }
 
-TEST(MonthToMonth, AGainOfZeroBehindTheLastGainIsALossOnly)
+TEST(MonthToMonth, AGainOfZeroAfterTheLastGainIsALossOnly)
 {
     MonthToMonthScreen screen;
     RankedSession session = opened(screen.add(1, u"30").add(2, u"10").add(3, u"0"));
@@ -142,7 +142,7 @@ TEST(MonthToMonth, MarkersMayStandAnywhereAndSeveralOnALine)
 TEST(MonthToMonth, ALineMayOpenAnEntryAndGiveItsGain)
 {
     MonthToMonthScreen screen;
-    screen.add(1, u"30").put(10, 1, u"RANK:  2;  GAIN:"); // a gain stands where a rank does
+    screen.add(1, u"30").put(10, 1, u"RANK:  2;  GAIN:"); // columns 6 to 8 are of both
     RankedSession session = opened(screen);
     EXPECT_EQ(session.column(1), (Texts{u"30", u"2"}));
 }

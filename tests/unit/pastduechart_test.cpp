@@ -143,7 +143,7 @@ TEST(PastdueChart, ARankLineThatEndsEarlyKeepsItsLineEndInTheTitle)
     EXPECT_EQ(session.drawn().titles.at(2), u"10442 - ACME\r  ");
 }
 
-TEST(PastdueChart, ACaptureCutBehindTheRankLineShowsNothingOwed)
+TEST(PastdueChart, ACaptureCutAfterTheRankLineShowsNothingOwed)
 {
     RankedSession session = opened({pastdueTitle, pastdueMonths, u"RANK:  1     10442"});
     EXPECT_EQ(session.drawn().series, (std::vector<Numbers>{Numbers(6, 0)}));

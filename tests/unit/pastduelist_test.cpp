@@ -58,8 +58,7 @@ struct Length {
 
 class AgeingLine : public testing::TestWithParam<Length> {};
 
-// Every amount is 1 and stands at the left of its columns, so that a short line cuts none of those it
-// reaches.
+// Every amount is a 1 in the first of its columns, so a short line holds it whole or not at all.
 TEST_P(AgeingLine, IsSummedAsFarAsItReaches)
 {
     const Text whole = u"OCT99 1       1       1       1       1       1       1       1       1       ";
@@ -101,7 +100,7 @@ TEST(PastdueList, WordsAndBlanksWhereAmountsShouldBeCountNothing)
     EXPECT_EQ(session.rows().at(0), row);
 }
 
-TEST(PastdueList, AgeingLinesCountOnlyBehindTheMonthLabels)
+TEST(PastdueList, AgeingLinesCountOnlyAfterTheMonthLabels)
 {
     RankedSession session(
         pastdue, hostScreen({pastdueTitle, u"RANK:  1     10442", ageing(u"OCT99", {u"1200", u"300"}),
@@ -132,7 +131,7 @@ TEST(PastdueList, TheMonthLabelsOfALaterPageTakeOver)
                              ageing(u"OCT99", {u"10", u"1"}), u"Mlabel NOV99OCT99SEP99AUG99JUL99JUN99",
                              ageing(u"OCT99", {u"99", u"99"}), u"RANK:  2     10443",
                              ageing(u"NOV99", {u"20", u"2"}), ageing(u"OCT99", {u"99", u"99"})}));
-    // The labels' own line still holds the month before: its blank amounts are the customer's for a while.
+    // The second line of labels holds OCT99 too. So it is an ageing line of the customer, with blank amounts.
     EXPECT_EQ(session.rows().at(0).at(5), u"0");
     EXPECT_EQ(session.rows().at(1).at(5), u"22");
 }

@@ -1,5 +1,5 @@
-// The columns of the two profit screens: figures fill them to the edges, and on both sides of every border
-// stand other digits, so that a column or a width off by one reads another figure.
+// The columns of the two profit screens. Figures fill them to the edges, with other digits on both sides, so
+// a column or a width that is off by one reads another figure.
 #include "rankedfixture.h"
 
 namespace plotvue::test {

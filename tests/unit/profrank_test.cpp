@@ -55,7 +55,7 @@ TEST(RankedProfit, SaysWhatTheTerritoryGained)
     RankedProfitScreen screen;
     screen.add(1, u"5").put(totalsLine, 1, u"Mprofit   8000.75 9 -9250.25");
     RankedSession session = opened(screen);
-    // The 9 stands in column 20, where only the month-to-month screen reads.
+    // The 9 is in column 20, which is read on the month-to-month screen only.
     EXPECT_EQ(session.header("txtL2"),
               u"Total profit for the territory increased by  17251 (from -9251 to  8000).");
     EXPECT_EQ(session.header("txtHeader"), u"RANKED PROFIT ANALYSIS");

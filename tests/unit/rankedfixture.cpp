@@ -200,7 +200,7 @@ Text rankLine(TextSpan rank, TextSpan number, TextSpan name, TextSpan city, Text
         .text(u"");
 }
 
-// Amounts of eight columns from column 7 on.
+// An ageing line: amounts of 8 columns each, from column 7 on.
 Text ageing(TextSpan month, const Lines& amounts)
 {
     Text line = atLeft(month, 6);
@@ -233,7 +233,7 @@ Text twoCustomers()
     });
 }
 
-// The category has its 30 characters.
+// A "RANK:" line whose category is filled up to 30 characters.
 Text vendorLine(TextSpan rank, TextSpan vendor, TextSpan category)
 {
     return CaptureBuilder(1)
@@ -243,7 +243,7 @@ Text vendorLine(TextSpan rank, TextSpan vendor, TextSpan category)
         .text(u"");
 }
 
-// Thirteen figures of eight columns from column 3 on.
+// A line of 13 figures: 8 columns each, from column 3 on.
 Text months(TextSpan mark, const Lines& figures)
 {
     Text line = atLeft(mark, 2);
@@ -252,7 +252,7 @@ Text months(TextSpan mark, const Lines& figures)
     return line;
 }
 
-// The first of them earns a quarter of its sales in most months.
+// Two pairs of vendor and category. The first earns a quarter of its sales in most months.
 Text twoPairs()
 {
     return hostScreen({
@@ -275,7 +275,7 @@ Text twoPairs()
     });
 }
 
-// Figures of 13 columns, one blank apart, from column 9 on.
+// A line of figures: 13 columns and a blank each, from column 9 on.
 Text ratioLine(TextSpan mark, TextSpan code, const Lines& figures)
 {
     Text line = atLeft(Text(mark) + Text(code), 8);
@@ -284,7 +284,7 @@ Text ratioLine(TextSpan mark, TextSpan code, const Lines& figures)
     return line;
 }
 
-// A figure in column 3, the value in 31, the benchmark in 45.
+// A figure of 13 columns from column 3 on, the value from 31, the benchmark from 45.
 Text benchmarkLine(TextSpan figure, TextSpan value, TextSpan benchmark)
 {
     return CaptureBuilder(1)
@@ -304,7 +304,7 @@ Text explained(TextSpan data, TextSpan formula, TextSpan note, TextSpan third)
     return hostScreen({ratioTitle, u"1:GP  ", u"2:GP  ", third, data, formula, note});
 }
 
-// One is known by its code, the other has a name and a note of its own.
+// The first is known by its code, the second has a name and a note of its own.
 Text twoRatios()
 {
     return hostScreen({

@@ -22,14 +22,15 @@ extern const Texts oldestFirst; // the same labels
 // A list window and its drill-down window.
 class RankedSession : public Session {
 public:
-    RankedSession(Name listWindow, TextSpan capture); // opens the list
-    RankedSession(Name listWindow, TextSpan capture, int row,
-                  Name grid = firstGrid); // also clicks, forgets events
+    // Opens the list.
+    RankedSession(Name listWindow, TextSpan capture);
+    // Opens the list and clicks a row; what happened until then is forgotten.
+    RankedSession(Name listWindow, TextSpan capture, int row, Name grid = firstGrid);
 
     const Name list;
     const std::string drillDown;
 
-    void open(TextSpan capture); // after Exit
+    void open(TextSpan capture); // leaves the list, copies, and presses Refresh
     void click(int row, Name grid = firstGrid) { clickRow(list, grid, row); }
     void use(Name button) { press(drillDown, button); }
     void down() { use("cmdNext"); }

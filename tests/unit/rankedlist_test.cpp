@@ -209,7 +209,7 @@ INSTANTIATE_TEST_SUITE_P(Every, RankedHundred,
 
 struct Windows {
     Name list;
-    Text caption; // of both
+    Text caption; // of both windows
     Texts listControls, drillDownControls;
 };
 

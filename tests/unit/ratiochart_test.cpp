@@ -91,7 +91,7 @@ struct Named {
 
 class RatioKnown : public testing::TestWithParam<Named> {};
 
-// The code of the second line tells, whatever stands on the first.
+// The code of the second line counts, not that of the first.
 TEST_P(RatioKnown, HasANameAndANote)
 {
     RankedSession session = opened(

@@ -140,7 +140,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Sum{u"F:                        99999999 9999999", u"FIFO: $109,999,998"},
                     Sum{u"F:                         -123456", u"FIFO: -$123,456"}));
 
-TEST(VendorChart, APairCutBehindItsRankLineShowsZeros)
+TEST(VendorChart, APairCutAfterItsRankLineShowsZeros)
 {
     RankedSession session =
         opened(hostScreen({vendorTitle, u"Mlabel " + Text(monthLabels), vendorLine(u"1", u"A", u"X")}));

@@ -48,8 +48,8 @@ TEST(VendorFiles, ListThePairsByRank)
     EXPECT_TRUE(file.starts_with("\"\",\"RANK:  1 "));
 }
 
-// An empty vendor and an empty category stand on the first line that is too short for both, at the latest
-// behind the last line of the screen.
+// A missing rank has no vendor and no category. So it is found on the first line that is too short for both,
+// or after the last line of the screen.
 TEST(VendorFiles, AMissingRankIsListedWithALineThatHasNoPair)
 {
     RankedSession session = opened(hostScreen({vendorTitle, vendorLine(u"2", u"B", u"Y")}), 2);
