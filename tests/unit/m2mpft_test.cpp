@@ -26,6 +26,7 @@ TEST(MonthToMonth, PicturesTellGainsFromLosses)
     const PictureBox& loss = frmM2Mpft.grids[1].picture.value();
     EXPECT_EQ(loss.name, "Picture2");
     EXPECT_EQ(loss.shows, PictureBox::Shows::Loss);
+    EXPECT_FALSE(frmProfRank.grids[0].picture);
 }
 
 TEST(MonthToMonth, TheHeadingsHaveTheirPadding)

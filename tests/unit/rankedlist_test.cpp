@@ -28,6 +28,7 @@ TEST_P(RankedList, OpensFromTheCaptureOnTheClipboard)
     RankedSession session = opened(GetParam().capture);
     EXPECT_EQ(session.events(), opening(GetParam().list));
     EXPECT_EQ(session.rows().size(), 3u);
+    EXPECT_EQ(session.grid(session.list).rows, 4); // the headings are a row
     EXPECT_EQ(session.file("pvuscrn.txt"), "\"" + toUtf8(GetParam().capture) + "\"\r\n");
     EXPECT_FALSE(session.fileExists("plotvue.txt"));
     EXPECT_FALSE(session.fileExists("plotvue1.txt"));
