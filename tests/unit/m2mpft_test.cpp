@@ -61,18 +61,23 @@ TEST(MonthToMonth, RanksMayComeInAnyOrder)
     EXPECT_EQ(session.newest(), 11);
 }
 
-TEST(MonthToMonth, GainsOnlyLeaveTheOtherGridEmpty)
+TEST(MonthToMonth, EachGridListsItsOwn)
 {
-    RankedSession session = opened(MonthToMonthScreen().add(1, u"5").add(2, u"4"));
-    EXPECT_EQ(session.rows().size(), 2u);
-    EXPECT_TRUE(session.rows(lossesGrid).empty());
-}
-
-TEST(MonthToMonth, LossesOnlyLeaveTheFirstGridEmpty)
-{
-    RankedSession session = opened(MonthToMonthScreen().add(1, u"-5").add(2, u"-4"));
-    EXPECT_TRUE(session.rows().empty());
-    EXPECT_EQ(session.column(2, lossesGrid), (Texts{u"10001", u"10002"}));
+    const struct {
+        Lines figures; // of the customers 10001, 10002 and so on
+        Texts gains, losses;
+    } cases[]{{{u"5", u"4"}, {u"10001", u"10002"}, {}},
+              {{u"-5", u"-4"}, {}, {u"10001", u"10002"}},
+              {{u"0.50", u"-5"}, {u"10001"}, {u"10002"}},
+              {{u"30", u"10", u"0"}, {u"10001", u"10002"}, {u"10003"}}};
+    for (const auto& [figures, gains, losses] : cases) {
+        MonthToMonthScreen screen;
+        for (std::size_t i = 0; i < figures.size(); ++i)
+            screen.add(static_cast<int>(i) + 1, figures[i]);
+        RankedSession session = opened(screen);
+        EXPECT_EQ(session.column(2), gains) << toUtf8(figures[0]);
+        EXPECT_EQ(session.column(2, lossesGrid), losses) << toUtf8(figures[0]);
+    }
 }
 
 TEST(MonthToMonth, AGainOfZeroCountsAsALossAndTakesAGainsRow)
@@ -82,21 +87,6 @@ TEST(MonthToMonth, AGainOfZeroCountsAsALossAndTakesAGainsRow)
     EXPECT_EQ(session.column(2), (Texts{u"10001", u"10002"}));
     EXPECT_EQ(session.column(2, lossesGrid), (Texts{u"10002", u"10004"}));
     EXPECT_EQ(session.column(1), (Texts{u"30", u"0"}));
-}
-
-TEST(MonthToMonth, AGainOfCentsIsNoLoss)
-{
-    RankedSession session = opened(MonthToMonthScreen().add(1, u"0.50").add(2, u"-5"));
-    EXPECT_EQ(session.column(2), Texts{u"10001"});
-    EXPECT_EQ(session.column(2, lossesGrid), Texts{u"10002"});
-}
-
-TEST(MonthToMonth, AGainOfZeroAfterTheLastGainIsALossOnly)
-{
-    MonthToMonthScreen screen;
-    RankedSession session = opened(screen.add(1, u"30").add(2, u"10").add(3, u"0"));
-    EXPECT_EQ(session.column(2), (Texts{u"10001", u"10002"}));
-    EXPECT_EQ(session.column(2, lossesGrid), Texts{u"10003"});
 }
 
 TEST(MonthToMonth, FiguresOfTheLossesOpenTheirCharts)
@@ -159,38 +149,22 @@ TEST(MonthToMonth, TheLastOfSeveralHeadingsWins)
 
 TEST(MonthToMonth, TheSentenceSaysWhatTheTerritoryGained)
 {
-    EXPECT_EQ(sentence(u"9250.00", u"8000.00"),
-              u"Total profit for the territory increased by  1250 (from  8000 to  9250).");
-    EXPECT_EQ(sentence(u"8000", u"9250"),
-              u"Total profit for the territory decreased by  1250 (from  9250 to  8000).");
-}
-
-TEST(MonthToMonth, EqualProfitsIncreasedByNothing)
-{
-    EXPECT_EQ(sentence(u"8000", u"8000"),
-              u"Total profit for the territory increased by  0 (from  8000 to  8000).");
-}
-
-TEST(MonthToMonth, NegativeProfitsHaveTheirMinus)
-{
-    EXPECT_EQ(sentence(u"-500", u"800"),
-              u"Total profit for the territory decreased by  1300 (from  800 to -500).");
-    EXPECT_EQ(sentence(u"-500", u"-800"),
-              u"Total profit for the territory increased by  300 (from -800 to -500).");
-}
-
-TEST(MonthToMonth, ProfitsAreCutDownToWholeNumbersFirst)
-{
-    EXPECT_EQ(sentence(u"100.99", u"100.01"),
-              u"Total profit for the territory increased by  0 (from  100 to  100).");
-    EXPECT_EQ(sentence(u"-0.5", u"0.5"), u"Total profit for the territory decreased by  1 (from  0 to -1).");
-    EXPECT_EQ(sentence(u"-2.01", u"-2"), u"Total profit for the territory decreased by  1 (from -2 to -3).");
-}
-
-TEST(MonthToMonth, LargeProfitsAreWrittenWithoutSeparators)
-{
-    EXPECT_EQ(sentence(u"1234567890", u"34567.9"),
-              u"Total profit for the territory increased by  1234533323 (from  34567 to  1234567890).");
+    const struct {
+        TextSpan current, previous;
+        const char* change;
+    } cases[]{{u"9250.00", u"8000.00", "increased by  1250 (from  8000 to  9250)."},
+              {u"8000", u"9250", "decreased by  1250 (from  9250 to  8000)."},
+              {u"8000", u"8000", "increased by  0 (from  8000 to  8000)."},
+              {u"-500", u"800", "decreased by  1300 (from  800 to -500)."},
+              {u"-500", u"-800", "increased by  300 (from -800 to -500)."},
+              // Both are cut down to whole numbers first.
+              {u"100.99", u"100.01", "increased by  0 (from  100 to  100)."},
+              {u"-0.5", u"0.5", "decreased by  1 (from  0 to -1)."},
+              {u"-2.01", u"-2", "decreased by  1 (from -2 to -3)."},
+              {u"1234567890", u"34567.9", "increased by  1234533323 (from  34567 to  1234567890)."}};
+    for (const auto& [current, previous, change] : cases)
+        EXPECT_EQ(toUtf8(sentence(current, previous)),
+                  std::string("Total profit for the territory ") + change);
 }
 
 TEST(MonthToMonth, ADifferenceOfProfitsBeyondADoubleIsARunTimeError)

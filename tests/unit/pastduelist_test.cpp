@@ -100,47 +100,35 @@ TEST(PastdueList, WordsAndBlanksWhereAmountsShouldBeCountNothing)
     EXPECT_EQ(session.rows().at(0), row);
 }
 
-TEST(PastdueList, AgeingLinesCountOnlyAfterTheMonthLabels)
+TEST(PastdueList, OnlyLinesWithTheCurrentMonthsLabelAreTotalled)
 {
-    RankedSession session(
-        pastdue, hostScreen({pastdueTitle, u"RANK:  1     10442", ageing(u"OCT99", {u"1200", u"300"}),
-                             pastdueMonths, u"RANK:  2     10443", ageing(u"OCT99", {u"40", u"2"})}));
-    EXPECT_EQ(session.rows().at(0).at(5), u"0");
-    EXPECT_EQ(session.rows().at(1).at(5), u"42");
-}
-
-TEST(PastdueList, BeforeTheMonthLabelsALineOfCrossesIsAnAgeingLine)
-{
-    RankedSession session(pastdue, hostScreen({pastdueTitle, u"RANK:  1     10442", u"xxxxx       8"}));
-    EXPECT_EQ(session.rows().at(0).at(5), u"8");
-}
-
-TEST(PastdueList, OnlyTheCurrentMonthIsTotalled)
-{
-    RankedSession session(
-        pastdue,
-        hostScreen({pastdueTitle, pastdueMonths, u"RANK:  1     10442", ageing(u"SEP99", {u"1200", u"300"}),
-                    ageing(u"MAY99", {u"7", u"8"}), ageing(u"OCT98", {u"5", u"6"})}));
-    EXPECT_EQ(session.rows().at(0).at(5), u"0");
-}
-
-TEST(PastdueList, TheMonthLabelsOfALaterPageTakeOver)
-{
-    RankedSession session(
-        pastdue, hostScreen({pastdueTitle, pastdueMonths, u"RANK:  1     10442",
-                             ageing(u"OCT99", {u"10", u"1"}), u"Mlabel NOV99OCT99SEP99AUG99JUL99JUN99",
-                             ageing(u"OCT99", {u"99", u"99"}), u"RANK:  2     10443",
-                             ageing(u"NOV99", {u"20", u"2"}), ageing(u"OCT99", {u"99", u"99"})}));
-    // The second line of labels holds OCT99 too. So it is an ageing line of the customer, with blank amounts.
-    EXPECT_EQ(session.rows().at(0).at(5), u"0");
-    EXPECT_EQ(session.rows().at(1).at(5), u"22");
-}
-
-TEST(PastdueList, MonthLabelsAfterACustomerAreAnAgeingLineOfThatCustomer)
-{
-    RankedSession session(pastdue, hostScreen({pastdueTitle, pastdueMonths, u"RANK:  1     10442",
-                                               ageing(u"OCT99", {u"10", u"1"}), pastdueMonths}));
-    EXPECT_EQ(session.rows().at(0).at(5), u"0");
+    const TextSpan first = u"RANK:  1     10442", second = u"RANK:  2     10443";
+    const Text october = ageing(u"OCT99", {u"10", u"1"});
+    const struct {
+        const char* why;
+        Text lines;
+        Texts totals;
+    } cases[]{{"the labels come after the first customer",
+               hostScreen({first, october, pastdueMonths, second, october}),
+               {u"0", u"11"}},
+              {"before the labels, a line of crosses counts", hostScreen({first, u"xxxxx       8"}), {u"8"}},
+              {"the lines are of other months",
+               hostScreen({pastdueMonths, first, ageing(u"SEP99", {u"1"}), ageing(u"MAY99", {u"7"}),
+                           ageing(u"OCT98", {u"5"})}),
+               {u"0"}},
+              // The second line of labels holds OCT99 too: it is an ageing line of the customer, with blank
+              // amounts.
+              {"the labels of a later page take over",
+               hostScreen({pastdueMonths, first, october, u"Mlabel NOV99OCT99SEP99AUG99JUL99JUN99", october,
+                           second, ageing(u"NOV99", {u"20", u"2"}), october}),
+               {u"0", u"22"}},
+              {"labels after a customer are an ageing line",
+               hostScreen({pastdueMonths, first, october, pastdueMonths}),
+               {u"0"}}};
+    for (const auto& [why, lines, totals] : cases) {
+        RankedSession session(pastdue, hostScreen({pastdueTitle}) + lines);
+        EXPECT_EQ(session.column(5), totals) << why;
+    }
 }
 
 TEST(PastdueList, ALineMayBeRankAndAgeingLineAtOnce)
@@ -162,28 +150,22 @@ TEST(PastdueList, ALineMayBeRankAndAgeingLineAtOnce)
 
 TEST(PastdueList, RanksAreRowsWhateverTheirOrder)
 {
-    RankedSession session(pastdue, hostScreen({pastdueTitle, u"RANK:  2     10002", u"RANK:  1     10001"}));
-    EXPECT_EQ(session.rows().at(0).at(1), u"10001");
-    EXPECT_EQ(session.rows().at(1).at(1), u"10002");
+    const TextSpan first = u"RANK:  1     10001", second = u"RANK:  2     10002",
+                   third = u"RANK:  3     10003", fourth = u"RANK:  4     10004";
+    const auto listed = [](const Lines& lines) {
+        return RankedSession(pastdue, hostScreen({pastdueTitle}) + hostScreen(lines)).column(1);
+    };
+    EXPECT_EQ(listed({second, first}), (Texts{u"10001", u"10002"}));
+    // There are as many rows as "RANK:" lines: a rank that is missing pushes the last one out, and one that
+    // comes twice is kept once.
+    EXPECT_EQ(listed({first, third, fourth}), (Texts{u"10001", u"0", u"10003"}));
+    EXPECT_EQ(listed({first, u"RANK:  1     10002"}), (Texts{u"10002", u"0"}));
 }
 
 TEST(PastdueList, AMissingRankLeavesAnEmptyRow)
 {
-    RankedSession session(pastdue, hostScreen({pastdueTitle, u"RANK:  1     10001", u"RANK:  3     10003",
-                                               u"RANK:  4     10004"}));
-    // As many rows as customers: the gap pushes the last one out.
-    const Texts gap{u"2", u"0", u"", u"", u"", u"0", u"0"};
-    ASSERT_EQ(session.rows().size(), 3u);
-    EXPECT_EQ(session.rows().at(1), gap);
-    EXPECT_EQ(session.rows().at(2).at(1), u"10003");
-}
-
-TEST(PastdueList, ARankThatComesTwiceIsCountedTwiceAndKeptOnce)
-{
-    RankedSession session(pastdue, hostScreen({pastdueTitle, u"RANK:  1     10001", u"RANK:  1     10002"}));
-    ASSERT_EQ(session.rows().size(), 2u);
-    EXPECT_EQ(session.rows().at(0).at(1), u"10002");
-    EXPECT_EQ(session.rows().at(1).at(1), u"0");
+    RankedSession session(pastdue, hostScreen({pastdueTitle, u"RANK:  1     10001", u"RANK:  3     10003"}));
+    EXPECT_EQ(session.rows().at(1), (Texts{u"2", u"0", u"", u"", u"", u"0", u"0"}));
 }
 
 TEST(PastdueList, TheLastTitleLineIsShown)

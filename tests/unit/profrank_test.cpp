@@ -35,14 +35,10 @@ TEST(RankedProfit, ListsThePositiveProfits)
     EXPECT_EQ(read.counts[profit::losses], 1);
 }
 
-TEST(RankedProfit, AProfitOfZeroTakesTheRowOfTheLast)
+TEST(RankedProfit, AProfitOfZeroTakesTheRowOfTheLastAndALossNone)
 {
-    RankedSession session = opened(RankedProfitScreen().add(1, u"30").add(2, u"0").add(3, u"10"));
-    EXPECT_EQ(session.column(2), (Texts{u"10001", u"10002"}));
-}
-
-TEST(RankedProfit, ALossBetweenProfitsIsPassedOver)
-{
+    EXPECT_EQ(opened(RankedProfitScreen().add(1, u"30").add(2, u"0").add(3, u"10")).column(2),
+              (Texts{u"10001", u"10002"}));
     RankedSession session = opened(RankedProfitScreen().add(1, u"30").add(2, u"-5").add(3, u"10"));
     EXPECT_EQ(session.column(2), (Texts{u"10001", u"10003"}));
     session.click(1);

@@ -83,63 +83,65 @@ TEST(RatioChart, BlankFiguresAreZero)
     EXPECT_EQ(session.drawn().axisMax, 0);
 }
 
-struct Named {
-    const char16_t* code;
-    const char16_t* name;
-    const char16_t* note;
+struct RatioTexts {
+    TextSpan code, name, note;
 };
 
-class RatioKnown : public testing::TestWithParam<Named> {};
-
 // The code of the second line counts, not that of the first.
-TEST_P(RatioKnown, HasANameAndANote)
+void expectTexts(const RatioTexts& expected, TextSpan nameInList)
 {
-    RankedSession session = opened(
-        oneRatio({u"1:XXXX", Text(u"2:") + GetParam().code + u"    1", u"3:", u"4: ", u"5: ", u"6: STD"}));
-    EXPECT_EQ(session.subject(), GetParam().name);
-    std::vector<std::pair<Text, Text>> messages;
-    session.platform.listener = [&](const Event& event) { messages.emplace_back(event.title, event.text); };
+    SCOPED_TRACE(toUtf8(expected.code));
+    RankedSession session = opened(oneRatio(
+        {u"1:XXXX", Text(u"2:") + Text(expected.code) + u"    1", u"3:", u"4: ", u"5: ", u"6: STD"}));
+    EXPECT_EQ(session.rows().at(0).at(0), u"XXXX");
+    EXPECT_EQ(session.rows().at(0).at(1), nameInList);
+    EXPECT_EQ(session.subject(), expected.name);
     session.use("cmdNote");
-    EXPECT_EQ(messages, (std::vector<std::pair<Text, Text>>{{u"Ratio Notes", GetParam().note}}));
+    EXPECT_EQ(session.events(), Events{"message Ratio Notes: " + toUtf8(expected.note)});
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Ratios, RatioKnown,
-    testing::Values(
-        Named{u"CUR ", u"Current Ratio",
-              u"Ratio of short-term assets to short-term liabilities.  A quick measure of solvency."},
-        Named{u"Q   ", u"Quick Ratio",
-              u"Ratio of cash and A/R to short-term liabilities. Measures cash sufficiency."},
-        Named{u"GP  ", u"Gross Profit Percentage",
-              u"Profit percentage on sales, before deducting operating costs."},
-        Named{u"AR  ", u"Days Receivables", u"Average number of days needed to collect A/R."},
-        Named{u"EQ% ", u"Equity Ratio",
-              u"Equity divided by assets. Measures the percentage of assets actually owned."},
-        Named{u"SEMP", u"Sales per Employee", u"Total sales divided by employee count."},
-        Named{u"ROE ", u"Return on Equity",
-              u"Ratio of net profits to equity.  Measures the return on invested capital."},
-        Named{u"RROE", u"Rolling Return on Equity",
-              u"Ratio of net profits to equity, averaged across several months.  Measures the return on "
-              u"invested "
-              u"capital."},
-        Named{u"INV ", u"Inventory", u"Value of all inventory."},
-        Named{u"AIS ", u"Average Days Inventory",
-              u"Average number of days to sell as much as is currently in inventory."}));
+TEST(RatioChart, ARatioHasANameAndANote)
+{
+    const RatioTexts known[]{
+        {u"CUR ", u"Current Ratio",
+         u"Ratio of short-term assets to short-term liabilities.  A quick measure of solvency."},
+        {u"Q   ", u"Quick Ratio",
+         u"Ratio of cash and A/R to short-term liabilities. Measures cash sufficiency."},
+        {u"GP  ", u"Gross Profit Percentage",
+         u"Profit percentage on sales, before deducting operating costs."},
+        {u"AR  ", u"Days Receivables", u"Average number of days needed to collect A/R."},
+        {u"EQ% ", u"Equity Ratio",
+         u"Equity divided by assets. Measures the percentage of assets actually owned."},
+        {u"SEMP", u"Sales per Employee", u"Total sales divided by employee count."},
+        {u"ROE ", u"Return on Equity",
+         u"Ratio of net profits to equity.  Measures the return on invested capital."},
+        {u"RROE", u"Rolling Return on Equity",
+         u"Ratio of net profits to equity, averaged across several months.  Measures the return on invested "
+         u"capital."},
+        {u"INV ", u"Inventory", u"Value of all inventory."},
+        {u"AIS ", u"Average Days Inventory",
+         u"Average number of days to sell as much as is currently in inventory."}};
+    for (const RatioTexts& ratio : known)
+        expectTexts(ratio, ratio.name);
+}
 
-INSTANTIATE_TEST_SUITE_P(Components, RatioKnown,
-                         testing::Values(Named{u"CASS", u"Current Assets", u"Current Assets"},
-                                         Named{u"TASS", u"Total Assets", u"Total Assets"},
-                                         Named{u"SLS ", u"Total Sales", u"Total Sales"},
-                                         Named{u"CASH", u"Total Cash", u"Total Cash"},
-                                         Named{u"CLIB", u"Current Liabilities", u"Current Liabilities"},
-                                         Named{u"TLIB", u"Total Liabilites", u"Total Liabilites"}));
+TEST(RatioChart, TheListDoesNotKnowTheComponentsOfFormulas)
+{
+    const RatioTexts components[]{{u"CASS", u"Current Assets", u"Current Assets"},
+                                  {u"TASS", u"Total Assets", u"Total Assets"},
+                                  {u"SLS ", u"Total Sales", u"Total Sales"},
+                                  {u"CASH", u"Total Cash", u"Total Cash"},
+                                  {u"CLIB", u"Current Liabilities", u"Current Liabilities"},
+                                  {u"TLIB", u"Total Liabilites", u"Total Liabilites"}};
+    for (const RatioTexts& component : components)
+        expectTexts(component, u"Undefined Ratio");
+}
 
-constexpr const char16_t* undefined = u"Undefined Ratio";
-constexpr const char16_t* noNote = u"No information available.";
-
-INSTANTIATE_TEST_SUITE_P(Others, RatioKnown,
-                         testing::Values(Named{u"TURN", undefined, noNote}, Named{u"cash", undefined, noNote},
-                                         Named{u"    ", undefined, noNote}));
+TEST(RatioChart, OtherCodesAreUndefined)
+{
+    for (const TextSpan code : {u"TURN", u"cash", u"cur ", u" CUR", u"CUR.", u"    "})
+        expectTexts({code, u"Undefined Ratio", u"No information available."}, u"Undefined Ratio");
+}
 
 TEST(RatioChart, ACodeWithoutItsBlanksIsUndefined)
 {
@@ -149,30 +151,31 @@ TEST(RatioChart, ACodeWithoutItsBlanksIsUndefined)
     EXPECT_EQ(session.events(), Events{"message Ratio Notes: No information available."});
 }
 
-struct Own {
-    const char16_t* line;
-    const char16_t* name;
-};
-
-class RatioTitle : public testing::TestWithParam<Own> {};
-
-TEST_P(RatioTitle, IsTheScreensOwnNameWhereItHasOne)
+TEST(RatioChart, TheScreensOwnNameWinsOverThatOfTheCode)
 {
-    RankedSession session =
-        opened(oneRatio({u"1:CUR ", u"2:CUR ", GetParam().line, u"4: ", u"5: ", u"6: STD"}));
-    EXPECT_EQ(session.subject(), GetParam().name);
-    session.use("cmdNote"); // which is looked up by the code all the same
-    EXPECT_EQ(session.events(),
-              Events{"message Ratio Notes: Ratio of short-term assets to short-term liabilities. "
-                     " A quick measure of solvency."});
+    const std::pair<TextSpan, TextSpan> cases[]{{u"3:  1.0  3A:Loads a Day|", u"Loads a Day"},
+                                                {u"3:  1.0  3A:Loads a Day|A|B", u"Loads a Day"},
+                                                {u"3:  1.0  3A:Loads a Day", u"Loads a Day"},
+                                                {u"3:  1.0  3A: Loads a Day ", u" Loads a Day "},
+                                                {u"3: |1.0| 3A:Loads a Day", u"Loads a Day"},
+                                                {u"3: |1.0| 3A:Loads a Day|", u"Loads a Day"},
+                                                {u"3:  1.0  3A:|Loads", u""},
+                                                {u"3:  1.0  3A:|", u""},
+                                                {u"3:  1.0  3A:", u""},
+                                                {u"3:  1.0  3a:Loads a Day", u"Current Ratio"},
+                                                {u"3:  1.0", u"Current Ratio"}};
+    for (const auto& [line, name] : cases) {
+        SCOPED_TRACE(toUtf8(line));
+        RankedSession session = opened(oneRatio({u"1:CUR ", u"2:CUR ", line, u"4: ", u"5: ", u"6: STD"}));
+        EXPECT_EQ(session.rows().at(0).at(1), name);
+        EXPECT_EQ(session.subject(), name);
+        session.use("cmdNote"); // the note is that of the code all the same
+        EXPECT_EQ(
+            session.events(),
+            Events{"message Ratio Notes: Ratio of short-term assets to short-term liabilities.  A quick "
+                   "measure of solvency."});
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Lines, RatioTitle,
-                         testing::Values(Own{u"3:  1.0  3A:Loads a Day|", u"Loads a Day"},
-                                         Own{u"3:  1.0  3A:Loads a Day|A|B", u"Loads a Day"},
-                                         Own{u"3:  1.0  3A:Loads a Day", u"Loads a Day"},
-                                         Own{u"3: |1.0| 3A:Loads a Day|", u"Loads a Day"},
-                                         Own{u"3:  1.0  3A:|", u""}, Own{u"3:  1.0", u"Current Ratio"}));
 
 TEST(RatioChart, WithoutMonthLabelsThePointsHaveNone)
 {

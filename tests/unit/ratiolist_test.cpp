@@ -31,38 +31,6 @@ TEST(RatioList, EveryFieldHasItsColumns)
     EXPECT_EQ(readRanked(frmRatio, capture).entry(1).numbers[0], 1234567890123.0); // columns 8 to 20
 }
 
-struct Named {
-    const char16_t* code;
-    const char16_t* name;
-};
-
-class RatioListName : public testing::TestWithParam<Named> {};
-
-TEST_P(RatioListName, IsKnownByTheCode)
-{
-    RankedSession session(ratios,
-                          hostScreen({ratioTitle, u"1:XXXX", Text(u"2:") + GetParam().code + u"     1.0"}));
-    EXPECT_EQ(session.rows().at(0).at(0), u"XXXX");
-    EXPECT_EQ(session.rows().at(0).at(1), GetParam().name);
-}
-
-constexpr const char16_t* undefined = u"Undefined Ratio";
-
-INSTANTIATE_TEST_SUITE_P(
-    Ratios, RatioListName,
-    testing::Values(Named{u"CUR ", u"Current Ratio"}, Named{u"Q   ", u"Quick Ratio"},
-                    Named{u"GP  ", u"Gross Profit Percentage"}, Named{u"AR  ", u"Days Receivables"},
-                    Named{u"EQ% ", u"Equity Ratio"}, Named{u"SEMP", u"Sales per Employee"},
-                    Named{u"ROE ", u"Return on Equity"}, Named{u"RROE", u"Rolling Return on Equity"},
-                    Named{u"INV ", u"Inventory"}, Named{u"AIS ", u"Average Days Inventory"}));
-
-INSTANTIATE_TEST_SUITE_P(NoRatios, RatioListName,
-                         testing::Values(Named{u"CASS", undefined}, Named{u"TASS", undefined},
-                                         Named{u"SLS ", undefined}, Named{u"CASH", undefined},
-                                         Named{u"CLIB", undefined}, Named{u"TLIB", undefined},
-                                         Named{u"cur ", undefined}, Named{u" CUR", undefined},
-                                         Named{u"CUR.", undefined}, Named{u"    ", undefined}));
-
 TEST(RatioList, ACodeWithoutItsBlanksIsUndefined)
 {
     RankedSession session(ratios, hostScreen({ratioTitle, u"1:Q", u"2:Q", u"1:Q   ", u"2:Q   "}));
@@ -70,28 +38,12 @@ TEST(RatioList, ACodeWithoutItsBlanksIsUndefined)
     EXPECT_EQ(session.rows().at(1), (Texts{u"Q   ", u"Quick Ratio", u"", u""}));
 }
 
-struct Own {
-    const char16_t* line;
-    const char16_t* name;
-};
-
-class RatioOwnName : public testing::TestWithParam<Own> {};
-
-TEST_P(RatioOwnName, ReplacesTheOneOfTheCode)
+TEST(RatioList, OnlyALineWithItsMarkerNamesTheRatio)
 {
-    RankedSession session(ratios, hostScreen({ratioTitle, u"1:CUR ", u"2:CUR ", GetParam().line}));
-    EXPECT_EQ(session.rows().at(0).at(1), GetParam().name);
+    RankedSession session(ratios,
+                          hostScreen({ratioTitle, u"1:CUR ", u"2:CUR ", u"4:  1.0  3A:Loads a Day|"}));
+    EXPECT_EQ(session.rows().at(0).at(1), u"Current Ratio");
 }
-
-INSTANTIATE_TEST_SUITE_P(Lines, RatioOwnName,
-                         testing::Values(Own{u"3:  1.0  3A:Loads a Day|", u"Loads a Day"},
-                                         Own{u"3:  1.0  3A:Loads a Day|A|B", u"Loads a Day"},
-                                         Own{u"3:  1.0  3A:Loads a Day", u"Loads a Day"},
-                                         Own{u"3:  1.0  3A: Loads a Day ", u" Loads a Day "},
-                                         Own{u"3: |1.0| 3A:Loads a Day", u"Loads a Day"},
-                                         Own{u"3:  1.0  3A:|Loads", u""}, Own{u"3:  1.0  3A:", u""},
-                                         Own{u"3:  1.0  3a:Loads a Day", u"Current Ratio"},
-                                         Own{u"4:  1.0  3A:Loads a Day|", u"Current Ratio"}));
 
 TEST(RatioList, TheNameOfTheCodeWinsWhenItComesLater)
 {
