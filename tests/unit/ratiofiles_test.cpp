@@ -148,30 +148,20 @@ TEST(RatioExplanations, OnlyTheBareTextStdStandsForTheKnownNote)
     }
 }
 
-class RatioCut : public testing::TestWithParam<std::size_t> {};
-
-// The screen ends before the texts, or among them.
-TEST_P(RatioCut, AmongTheTextsIsARunTimeError)
+TEST(RatioExplanations, ThatAreCutOffAreARunTimeError)
 {
-    Lines lines{ratioTitle, u"1:GP  ", u"2:GP  ", u"3:", u"4: D", u"5: F", u"6: N"};
-    lines.resize(GetParam());
-    RankedSession session(ratios, hostScreen(lines));
-    EXPECT_EQ(session.rows().size(), 1u);
-    session.click(1);
-    EXPECT_TRUE(failed(session, "cut off"));
-    EXPECT_FALSE(session.loaded(session.drillDown) && session.visible(session.drillDown));
-}
-
-INSTANTIATE_TEST_SUITE_P(After, RatioCut, testing::Values(2u, 3u, 4u, 5u, 6u));
-
-TEST(RatioTrouble, ATextLineOfTwoCharactersIsARunTimeError)
-{
-    for (std::size_t line = 4; line <= 6; ++line) {
-        Lines lines{ratioTitle, u"1:GP  ", u"2:GP  ", u"3:", u"4:", u"5:", u"6:"};
-        lines[line] = u"-";
+    const Lines whole{ratioTitle, u"1:GP  ", u"2:GP  ", u"3:", u"4: D", u"5: F", u"6: N"};
+    std::vector<Lines> screens;
+    for (std::size_t lines = 2; lines < whole.size(); ++lines)
+        screens.emplace_back(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(lines));
+    for (std::size_t line = 4; line <= 6; ++line)
+        screens.emplace_back(whole)[line] = u"-"; // two characters with the line end
+    for (const Lines& lines : screens) {
         RankedSession session(ratios, hostScreen(lines));
+        EXPECT_EQ(session.rows().size(), 1u);
         session.click(1);
         EXPECT_TRUE(failed(session, "cut off"));
+        EXPECT_FALSE(session.loaded(session.drillDown) && session.visible(session.drillDown));
     }
 }
 
