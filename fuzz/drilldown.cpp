@@ -1,4 +1,4 @@
-// The first line is the chosen-row file, the rest the list file: every drill-down window draws and steps.
+// The first line is the chosen-row file, the rest is the list file. Every drill-down window draws and steps.
 #include "fuzz.h"
 #include "platform/recording/recording.h"
 #include "ranked/analyses.h"
@@ -45,8 +45,8 @@ void play(const DrillDownDesign& design)
     };
     for (int type = static_cast<int>(design.types.size()) - 1; type >= 0; --type)
         use([&](Controls& controls) { controls.choose("optSales", type); });
-    for (const DrillDownDesign::Explanation& explanation : design.explanations)
-        use([&](Controls& controls) { controls.press(explanation.button.name); });
+    for (const MessageButton& message : design.buttons)
+        use([&](Controls& controls) { controls.press(message.button.name); });
     for (const Name button : {"cmdNext", "cmdNext", "cmdBack", "cmdBack", "cmdBack"})
         use([&](Controls& controls) { controls.press(button); });
 }

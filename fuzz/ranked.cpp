@@ -1,6 +1,6 @@
 #include "fuzz.h"
 #include "ranked/analyses.h"
-#include "ranked/reading.h"
+#include "ranked/rankedscreen.h"
 
 #include <algorithm>
 
@@ -10,17 +10,17 @@ namespace {
 
 void read(const RankedAnalysis& analysis, TextSpan capture)
 {
-    const RankedReading reading = readRanked(analysis, capture);
-    if (!reading.accepted)
+    const RankedScreen screen = readRanked(analysis, capture);
+    if (!screen.accepted)
         return;
     for (const auto& [control, text] : analysis.summary)
-        text(reading);
+        text(screen);
     for (const RankedGrid& grid : analysis.grids)
         fuzz::mayFail([&] {
-            const std::vector<int> ranks = ranksIn(grid, reading);
-            const int rows = std::max(reading.counts[static_cast<std::size_t>(grid.count)], 0);
+            const std::vector<int> ranks = ranksIn(grid, screen);
+            const int rows = std::max(screen.counts[static_cast<std::size_t>(grid.count)], 0);
             fuzz::always(ranks.size() == static_cast<std::size_t>(rows));
-            fuzz::always(linesOf(ranks, analysis.key, reading).size() == ranks.size());
+            fuzz::always(firstLines(ranks, analysis.key, screen).size() == ranks.size());
         });
 }
 

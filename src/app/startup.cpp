@@ -84,7 +84,7 @@ const Screen* Startup::IdentifyScreen()
     if (!screen)
         platform().message(u"Need Data", u"Clipboard contains no data");
     else if (screen->ranked())
-        RecordWriter().text(text).endRecord().writeTo(scratchFile);
+        writeRecords(scratchFile, {{text}});
     return screen;
 }
 

@@ -25,7 +25,7 @@ Whole toWhole(double value, TextSpan what)
 
 Text lineName(TextSpan capture, TextSpan part)
 {
-    const std::less_equal<const char16_t*> notAfter; // of any two pointers
+    const std::less_equal<const char16_t*> notAfter; // unlike <=, defined for pointers into different texts
     const char16_t* const first = capture.data();
     if (part.empty() || !notAfter(first, part.data()) || !notAfter(part.data(), first + capture.size()))
         return {};

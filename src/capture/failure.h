@@ -1,4 +1,4 @@
-// What ends the process: the run-time errors of the system, and a reader that never returns.
+// What ends the process: a run-time error, or a reader that never returns.
 #pragma once
 
 #include "capture/text.h"
@@ -7,15 +7,15 @@
 
 namespace plotvue {
 
-// A run-time error: division by zero, a subscript outside its table, a substring before position 1 or of
-// negative length, a value outside its type, a file that fails. Thrown where it happens, caught around the
-// event that led to it, shown as the platform's error report.
+// A run-time error: division by zero, a subscript outside its table, a substring that starts before position
+// 1 or has a negative length, a value outside its type, a file that cannot be read or written. It is thrown
+// where it happens, caught around the event that led to it, and shown as the platform's error report.
 struct Failure {
-    Text sentence;    // one sentence for the person at the screen, with its full stop
-    TextSpan where{}; // the part of the capture that was read, as long as that lives; empty: none
+    Text sentence;    // for the person at the screen, with its full stop
+    TextSpan where{}; // the part of the capture that was being read, valid while the capture is; empty: none
 };
 
-// Reads a line, or another part of the capture: a failure that does not say where it happens happens there.
+// Calls `read`, which reads a part of the capture. A failure that names no part yet gets this one.
 template <typename Read>
 decltype(auto) readLine(TextSpan part, Read read)
 {
@@ -28,11 +28,11 @@ decltype(auto) readLine(TextSpan part, Read read)
     }
 }
 
-// "Line 7 of the copied text: "; empty where `part` is no part of the capture.
+// "Line 7 of the copied text: " for a part that begins on line 7; empty when `part` is not in the capture.
 Text lineName(TextSpan capture, TextSpan part);
 
-// Reads a capture: the sentence of a failure in it begins with the number of the line, counted from 1, empty
-// lines included, where it is known: "Line 7 of the copied text: ...".
+// Calls `read`, which reads the capture. The sentence of a failure that names a part gets lineName() in
+// front. Lines count from 1, empty ones included.
 template <typename Read>
 decltype(auto) readCapture(TextSpan capture, Read read)
 {
@@ -43,17 +43,17 @@ decltype(auto) readCapture(TextSpan capture, Read read)
     }
 }
 
-// The line reader has run out of text: it goes on dropping characters that are not there, without end.
+// Thrown where the reader of a monthly screen would never return: the text ended before it had its lines.
 struct EndlessRead {
-    int lines = 0; // the lines of the text that are not empty
+    int lines = 0; // of the text, without the empty ones
 };
 
-// `value` as a whole number of 16 or 32 bits, a half rounded to the even neighbour.
-// Throws Failure when it does not fit; `what` names it in the sentence: "The rank".
+// `value` as a whole number of 16 or 32 bits; a half is rounded to the even neighbour.
+// Throws Failure when it does not fit. `what` begins the sentence: "The rank".
 std::int16_t toInt16(double value, TextSpan what);
 std::int32_t toInt32(double value, TextSpan what);
 
-// `value` itself. Throws Failure when it is infinite or no number.
+// `value` itself. Throws Failure when it is infinite or not a number.
 double finite(double value);
 
 } // namespace plotvue

@@ -13,7 +13,7 @@ constexpr TextSpan monthTable = u"JAN31FEB28MAR31APR30MAY31JUN30JUL31AUG31SEP30O
 
 int daysOfMonth(TextSpan name)
 {
-    // A name that is not found leads to the characters "N3" behind position 0, which read as no number.
+    // For a name that is not found, positions 3 and 4 are read: "N3" is no number, so the result is 0.
     return static_cast<int>(leadingNumber(mid(monthTable, find(monthTable, name) + 3, 2)));
 }
 

@@ -12,7 +12,7 @@ namespace plotvue {
 
 namespace {
 
-// The field's characters without those that are skipped, as far as they can belong to a number.
+// The field without blanks, tabs and line feeds, up to the first character that no number has.
 std::string numberCharacters(TextSpan field, bool dropCommas)
 {
     std::string kept;
@@ -26,14 +26,15 @@ std::string numberCharacters(TextSpan field, bool dropCommas)
     return kept;
 }
 
-// A number out of range is too small when its first significant digit stands far behind the point.
+// Whether a number that no double can hold is too small for one; otherwise it is too large. The point and the
+// exponent say how far the first digit that is not 0 is from the ones.
 bool tooSmall(std::string_view number)
 {
     const std::size_t e = std::min(number.find_first_of("Ee"), number.size());
     const std::string_view mantissa = number.substr(0, e);
     const auto point = static_cast<std::ptrdiff_t>(std::min(mantissa.find('.'), e));
     const auto first = static_cast<std::ptrdiff_t>(mantissa.find_first_of("123456789"));
-    int exponent = 0; // narrow, so that the sum below always fits
+    int exponent = 0; // an int, so that the sum below cannot overflow
     if (e < number.size()) {
         const char* digits = number.data() + e + (number[e + 1] == '+' ? 2 : 1);
         if (std::from_chars(digits, number.data() + number.size(), exponent).ec != std::errc{})
@@ -47,7 +48,7 @@ double readNumber(TextSpan field, bool dropCommas)
     const std::string text = numberCharacters(field, dropCommas);
     if (text.starts_with("+-"))
         return 0;
-    const char* start = text.data() + (text.starts_with('+') ? 1 : 0); // from_chars takes no plus in front
+    const char* start = text.data() + (text.starts_with('+') ? 1 : 0); // from_chars knows no plus sign
     double value = 0;
     const auto [end, error] = std::from_chars(start, text.data() + text.size(), value);
     if (error == std::errc::result_out_of_range) {
@@ -55,7 +56,7 @@ double readNumber(TextSpan field, bool dropCommas)
             throw Failure{u"A figure on the screen is too large to be worked with."};
         return 0;
     }
-    return value == 0 ? 0 : value; // and not minus zero
+    return value == 0 ? 0 : value; // never minus zero
 }
 
 } // namespace
@@ -72,7 +73,7 @@ double leadingNumberWithoutCommas(TextSpan field)
 
 Text plainNumber(double value)
 {
-    // 15 significant digits as d.dddde+xx, then written out without the exponent.
+    // 15 significant digits, first as d.dddde+xx, then without the exponent.
     std::array<char, 32> buffer{};
     const auto end =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::scientific, 14)

@@ -1,24 +1,24 @@
-// Numbers in the host's fields, and numbers as plain text.
+// Numbers read from the fields of a screen, and numbers written as text.
 #pragma once
 
 #include "capture/text.h"
 
 namespace plotvue {
 
-// The number a field begins with: blanks, tabs and line feeds are skipped wherever they stand; then an
-// optional sign, digits with at most one decimal point, and an exponent (E or e, with digits) are taken.
-// Anything else ends the number, so "1,234" reads as 1 and "12.50-" as 12.5; no number reads as 0.
-// Throws Failure when the number is too large for a double.
+// The number with which a field begins: an optional sign, digits with at most one decimal point, and an
+// exponent (E or e, with digits). Blanks, tabs and line feeds are skipped everywhere. Any other character
+// ends the number, so "1,234" is 1 and "12.50-" is 12.5. A field that begins with no number is 0. Throws
+// Failure when the number is too large for a double.
 double leadingNumber(TextSpan field);
 
-// The same after every comma is dropped: "1,234" reads as 1234.
+// The same, with commas skipped too: "1,234" is 1234.
 double leadingNumberWithoutCommas(TextSpan field);
 
-// Plain decimal text of a finite number: at most 15 significant digits, no trailing zeros, no exponent, "0"
-// for zero.
+// A finite number as decimal text: at most 15 significant digits, no trailing zeros after the point, no
+// exponent, "0" for zero.
 Text plainNumber(double value);
 
-// The same with a blank in front when not negative, the room of the sign: " 1998", "-5".
+// The same, with a blank in the place of the sign when the number is not negative: " 1998", "-5".
 Text signedNumber(double value);
 
 } // namespace plotvue

@@ -1,4 +1,4 @@
-// The capture as text: UTF-16 units, positions counted from 1, 0 for absent.
+// Text and the positions in it. A character is a UTF-16 unit. Positions count from 1; 0 means not found.
 #pragma once
 
 #include <cstddef>
@@ -15,15 +15,15 @@ using Position = std::ptrdiff_t;
 inline constexpr char16_t carriageReturn = u'\r';
 inline constexpr Position toTheEnd = std::numeric_limits<Position>::max();
 
-// Position of the first `wanted` in `text`; 0 when it does not occur. An empty `wanted` is found at 1.
+// The position of the first `wanted` in `text`; 0 when there is none. An empty `wanted` is found at 1.
 Position find(TextSpan text, TextSpan wanted);
 bool holds(TextSpan text, TextSpan wanted);
 
-// At most `length` characters from position `start`; what lies behind the end of `text` is left out.
+// The `length` characters from position `start`, or as many as `text` has there: none after its end.
 // Throws Failure when `start` is below 1 or `length` below 0.
 TextSpan mid(TextSpan text, Position start, Position length = toTheEnd);
 
-// `text` less its last character, which in a line is the carriage return; empty for an empty text.
+// `text` without its last character, which in a line is the carriage return; empty for an empty text.
 TextSpan withoutLast(TextSpan text);
 
 } // namespace plotvue

@@ -14,7 +14,7 @@ bool isLow(char16_t unit)
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
-// The code point at the front of `bytes` and how many bytes it takes; length 0 when they are no UTF-8.
+// The code point at the front of `bytes`, and its length in bytes: 0 when they are not UTF-8.
 struct Decoded {
     char32_t point = 0;
     std::size_t length = 0;

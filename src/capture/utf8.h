@@ -1,5 +1,5 @@
-// UTF-8 on disk, UTF-16 inside. A half of a surrogate pair alone goes out and comes back as its own three
-// bytes; bytes that are no UTF-8 come in as U+FFFD.
+// Files are UTF-8, text in memory is UTF-16. Half of a surrogate pair is written as three bytes and read back
+// as it was. Each byte that is not part of a UTF-8 character is read as U+FFFD.
 #pragma once
 
 #include "capture/text.h"

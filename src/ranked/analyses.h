@@ -1,4 +1,4 @@
-// The ranked analyses, each with its list and its drill-down window in a file of its own.
+// The five ranked analyses. The file of each describes its list window and its drill-down window.
 #pragma once
 
 #include "ranked/drilldown.h"

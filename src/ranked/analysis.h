@@ -1,59 +1,32 @@
-// A ranked analysis, said as data: what its list window takes from the capture, what its grids show, and what
-// it hands to the drill-down window. Columns, ranks and lines count from 1; -1 and 0 say "none" where noted.
+// A ranked analysis as data: what its list window takes from each line of the capture, what its grids show,
+// and which lines it hands to the drill-down window. Columns, ranks and lines count from 1.
 #pragma once
 
 #include "platform/declaration.h"
+#include "ranked/key.h"
 
-#include <array>
 #include <optional>
 
 namespace plotvue {
 
-inline constexpr int mostRanks = 100;
+inline constexpr int maxRanks = 100;
 
-// What is kept of an entry. Slots are named by each analysis; an entry never filled has zeros and empty
-// texts.
-struct Entry {
-    std::array<double, 4> numbers{};
-    std::array<Text, 4> texts{};
-};
+struct RankedScreen;
 
-struct RankedReading;
-
-// A field of a line: where it goes and which columns it takes.
-struct Taken {
-    enum class To { EntryNumber, EntryText, PageNumber, PageText } to;
+// A field of a line: its columns, and the slot of the current entry or of the screen that keeps it.
+struct LineField {
+    enum class To { EntryNumber, EntryText, ScreenNumber, ScreenText } to;
     int slot;
     Position column;
-    Position length = toTheEnd; // to the end: less the line's last character
+    Position length = toTheEnd; // toTheEnd: up to the line's last character, which is left out
 };
 
-// A line that holds `text` is taken; every marker is tested on every line, in their order.
-struct Marker {
-    TextSpan text{};
-    enum class Opens {
-        Nothing,
-        Rank,     // the entry whose rank stands in columns 6 to 8
-        NextEntry // the entry behind the last one opened
-    } opens = Opens::Nothing;
-    std::vector<Taken> takes{};
-    void (*then)(RankedReading&, TextSpan line) = nullptr; // what only this analysis does with the line
-    bool keyOfPage = false; // instead of `text`: the first 5 characters of page text 0 as it stands now
-};
-
-// A part of what tells one entry from the others.
-struct KeyPart {
-    bool number;     // compared by value, otherwise to the letter
-    int gridColumn;  // from 0: where a clicked row shows it
-    int slot;        // of the entry's numbers or texts
-    Position column; // on the entry's first screen line
-    Position length;
-};
-
-struct Key {
-    std::vector<KeyPart> parts;
-    TextSpan lineBegins{};   // what the entry's first line must begin with
-    TextSpan recordBegins{}; // the same in the list file
+// What is taken from every line that holds the marker; every line holds an empty one.
+struct LineRule {
+    TextSpan marker{};
+    void (*open)(RankedScreen&, TextSpan line) = nullptr; // makes another entry the current one
+    std::vector<LineField> fields{};
+    void (*then)(RankedScreen&, TextSpan line) = nullptr; // runs after the fields are taken
 };
 
 struct GridColumn {
@@ -63,25 +36,35 @@ struct GridColumn {
 
 struct RankedGrid {
     GridBox box;
-    std::optional<PictureBox> picture; // beside the grid
     std::vector<GridColumn> columns;
-    int count;                                                             // which of the reading's counts
-    enum class Holds { All, NotNegative, NotPositive } holds = Holds::All; // of the entries' number 0
+    int count = 0;                         // which of the screen's counts is the number of rows
+    bool (*lists)(const Entry&) = nullptr; // null: lists every entry
+    std::optional<PictureBox> picture{};   // beside the grid
+};
+
+// A record of the list file: text 0 of the screen, then the lines of an entry.
+using Record = std::vector<Text>;
+
+// A button that shows a message box about a record of the list file. A list window passes an empty record.
+struct MessageButton {
+    Button button;
+    TextSpan title{};
+    Text (*text)(const Record&);
 };
 
 struct RankedAnalysis {
     Name window;
-    TextSpan caption;
-    std::vector<Item> heading; // labels and text boxes above the grids
-    TextSpan tips{};           // what the Tips button says; empty: there is none
-    TextSpan title;            // marks the capture
-    int mostLines = 500;
-    std::vector<Marker> markers;
-    Text pageAtStart{}; // page text 0 before any line
+    TextSpan caption = u"PlotVue";            // of both windows
+    std::vector<Item> heading{};              // labels and text boxes above the grids
+    std::vector<MessageButton> buttons{};     // of the list window
+    TextSpan title;                           // a capture without it is refused
+    int maxLines = 500;                       // the lines after these are not read
+    void (*prepare)(RankedScreen&) = nullptr; // runs before the first line
+    std::vector<LineRule> rules;              // tested on every line, in this order
     std::vector<RankedGrid> grids;
-    std::map<Name, Text (*)(const RankedReading&)> summary; // texts of the heading's controls
-    Key key;
-    int linesAnEntry; // on the screen and, behind page text 0, in a record
+    std::map<Name, Text (*)(const RankedScreen&)> summary{}; // texts of the heading's controls
+    Key key{};
+    int linesAnEntry = 0; // in a record
 };
 
 } // namespace plotvue

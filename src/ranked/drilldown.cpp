@@ -1,5 +1,6 @@
 #include "ranked/drilldown.h"
 
+#include "platform/commoncontrols.h"
 #include "ranked/listfile.h"
 
 namespace plotvue {
@@ -8,32 +9,27 @@ Declaration DrillDownWindow::declare() const
 {
     std::vector<Item> side;
     if (!design_.types.empty()) {
-        OptionFrame frame{.name = "Frame1",
-                          .caption = u"Data Type",
-                          .spokenName = u"Data Type",
-                          .group = "optSales",
-                          .options = {},
-                          .chosen = 0};
+        std::vector<Option> options;
         for (const TextSpan caption : design_.types)
-            frame.options.push_back({static_cast<int>(frame.options.size()), caption});
-        side.push_back({frame});
+            options.push_back({static_cast<int>(options.size()), caption});
+        side.push_back({dataTypeFrame(std::move(options))});
     }
     side.push_back({Space{}, 1});
-    for (const DrillDownDesign::Explanation& explanation : design_.explanations)
-        side.push_back({explanation.button});
+    for (const MessageButton& message : design_.buttons)
+        side.push_back({message.button});
     side.push_back({Button{.name = "cmdBack",
                            .caption = u"",
                            .shortcut = u"PgUp, Alt+Left",
                            .spokenName = u"Back",
                            .picture = Button::Picture::Arrow}});
     side.push_back({Button{.name = "cmdNext", .caption = u"Down", .shortcut = u"PgDown"}});
-    side.push_back({Button{.name = "cmdPrint", .caption = u"&Print", .shortcut = u"Ctrl+P"}});
-    side.push_back({Button{.name = "cmdExit", .caption = u"Close", .shortcut = u"Esc"}});
+    side.push_back({printButton()});
+    side.push_back({exitButton(u"Close")});
 
     std::vector<Item> content = design_.charts;
     content.push_back(column(std::move(side)));
     return {.name = design_.window,
-            .caption = design_.caption,
+            .caption = design_.analysis.caption,
             .content = {Box::Direction::Row, std::move(content)},
             .width = design_.width};
 }
@@ -45,8 +41,10 @@ Handlers DrillDownWindow::handlers()
                       {"cmdPrint", [this](int) { cmdPrint_Click(); }},
                       {"cmdExit", [this](int) { cmdExit_Click(); }},
                       {"optSales", [this](int) { optSales_Click(); }}};
-    for (const DrillDownDesign::Explanation& explanation : design_.explanations)
-        handlers[explanation.button.name] = [this, &explanation](int) { explain(explanation); };
+    for (const MessageButton& message : design_.buttons)
+        handlers[message.button.name] = [this, &message](int) {
+            platform().message(message.title, message.text(drawn_));
+        };
     return handlers;
 }
 
@@ -54,19 +52,14 @@ void DrillDownWindow::drawChart()
 {
     const int type = design_.types.empty() ? 0 : controls().options("optSales")->chosenIn(0);
     ListFile list(design_.analysis);
-    drawn_ = list.find(readChosenRow(design_.analysis), design_.mostRecordsToDraw);
+    drawn_ = list.find(readChosenRow(design_.analysis.key), design_.limits.draw);
     design_.draw(controls(), drawn_, type);
-}
-
-void DrillDownWindow::explain(const DrillDownDesign::Explanation& explanation)
-{
-    platform().message(explanation.title, explanation.text(drawn_));
 }
 
 void DrillDownWindow::cmdBack_Click()
 {
     ListFile list(design_.analysis);
-    list.find(readChosenRow(design_.analysis), design_.mostRecordsToStep);
+    list.find(readChosenRow(design_.analysis.key), design_.limits.step);
     if (list.position() == 1)
         return endOfList();
     choose(list.previous());
@@ -74,14 +67,14 @@ void DrillDownWindow::cmdBack_Click()
 
 void DrillDownWindow::cmdNext_Click()
 {
-    const KeyValues chosen = readChosenRow(design_.analysis);
+    const KeyValues chosen = readChosenRow(design_.analysis.key);
     Record next;
     try {
         ListFile list(design_.analysis);
-        list.find(chosen, design_.mostRecordsToStep);
+        list.find(chosen, design_.limits.step);
         next = list.next();
     } catch (const Failure&) {
-        // Reading past the last record is how the end of the list is noticed.
+        // The chosen record was the last: the file ends too early for another one.
         return endOfList();
     }
     choose(next);
@@ -89,7 +82,7 @@ void DrillDownWindow::cmdNext_Click()
 
 void DrillDownWindow::choose(const Record& record)
 {
-    writeChosenRow(design_.analysis, record);
+    writeRecords(chosenRowFile, {keyOf(design_.analysis.key, record[1])});
     drawChart();
 }
 

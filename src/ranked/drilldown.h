@@ -1,35 +1,25 @@
-// The drill-down window of a ranked analysis: charts one entry of the list file and steps through it. It
-// shares nothing with the list window but the exchange files, which it reads afresh at every drawing.
+// The drill-down window of a ranked analysis: charts one entry of the list file and steps through the list.
+// It shares no memory with the list window: it reads the small files again at every drawing.
 #pragma once
 
 #include "platform/form.h"
 #include "ranked/analysis.h"
 
-#include <optional>
-
 namespace plotvue {
 
-using Record = std::vector<Text>; // page text 0, then the entry's screen lines
-
-// What a drill-down window is beside its frame.
 struct DrillDownDesign {
     Name window;
-    TextSpan caption;
     const RankedAnalysis& analysis;
-    int mostRecordsToDraw = 100, mostRecordsToStep = 100;
+    struct Limits {
+        int draw = 100, step = 100;
+    } limits{}; // the records of the list file that are searched for the entry to draw, or to step from
 
     int width = 1000;              // of the window, as Declaration::width
     std::vector<Item> charts;      // side by side
     std::vector<TextSpan> types{}; // captions of the data types by index; empty: no choice
     // Draws the record; `type` is the index of the chosen data type, 0 where there is no choice.
     void (*draw)(Controls&, const Record&, int type);
-
-    struct Explanation {
-        Button button;
-        TextSpan title;
-        Text (*text)(const Record&);
-    };
-    std::vector<Explanation> explanations{}; // buttons that show a message about the record drawn
+    std::vector<MessageButton> buttons{}; // about the record that was drawn last
 };
 
 class DrillDownWindow : public Form {
@@ -50,7 +40,6 @@ private:
     void cmdExit_Click() { unload(); }
     void cmdPrint_Click() { printWindow(); }
     void optSales_Click() { drawChart(); }
-    void explain(const DrillDownDesign::Explanation& explanation);
 
     void drawChart();
     void choose(const Record& record); // names it in the chosen-row file and draws it

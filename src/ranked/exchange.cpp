@@ -9,67 +9,46 @@
 
 namespace plotvue {
 
-void RecordWriter::separate()
+namespace {
+
+std::string written(const RecordField& field)
 {
-    if (inRecord_)
-        bytes_ += ',';
-    inRecord_ = true;
+    if (const auto* number = std::get_if<double>(&field))
+        return toUtf8(plainNumber(*number));
+    return '"' + toUtf8(std::get<Text>(field)) + '"';
 }
 
-RecordWriter& RecordWriter::text(TextSpan field)
-{
-    separate();
-    bytes_ += '"' + toUtf8(field) + '"';
-    return *this;
-}
+} // namespace
 
-RecordWriter& RecordWriter::number(double field)
+void writeRecords(const char* file, const std::vector<RecordFields>& records)
 {
-    separate();
-    bytes_ += toUtf8(plainNumber(field));
-    return *this;
-}
-
-RecordWriter& RecordWriter::endRecord()
-{
-    bytes_ += "\r\n";
-    inRecord_ = false;
-    return *this;
-}
-
-void RecordWriter::writeTo(const char* file) const
-{
-    writeSmallFile(file, bytes_);
+    std::string bytes;
+    for (const RecordFields& fields : records) {
+        for (const RecordField& field : fields)
+            bytes += (&field == fields.data() ? "" : ",") + written(field);
+        bytes += "\r\n";
+    }
+    writeSmallFile(file, bytes);
 }
 
 RecordReader::RecordReader(const char* file) : file_(file), bytes_(readSmallFile(file)) {}
 
-std::string_view RecordReader::field()
+Text RecordReader::next()
 {
-    const auto from = [this](std::size_t start, std::string_view ends) {
-        return std::min(bytes_.find_first_of(ends, start), bytes_.size());
+    const auto nextOf = [this](std::string_view ends, std::size_t from) {
+        return std::min(bytes_.find_first_of(ends, from), bytes_.size());
     };
     at_ = std::min(bytes_.find_first_not_of(" \t\r\n", at_), bytes_.size());
     if (at_ == bytes_.size())
         throw Failure{u"The file " + fromUtf8(file_) + u" in the working directory ends too early."};
     const bool isQuoted = bytes_[at_] == '"';
     const std::size_t start = isQuoted ? at_ + 1 : at_;
-    const std::size_t end = isQuoted ? from(start, "\"") : from(start, ",\r\n");
-    at_ = from(end, ",\r\n");
-    // A comma leads to the next field of the record, a line end to the next record.
+    const std::size_t end = nextOf(isQuoted ? "\"" : ",\r\n", start);
+    at_ = nextOf(",\r\n", end);
+    // A comma is skipped here, a line end before the next field is read.
     if (bytes_[at_] == ',')
         ++at_;
-    return std::string_view(bytes_).substr(start, end - start);
-}
-
-Text RecordReader::text()
-{
-    return fromUtf8(field());
-}
-
-double RecordReader::number()
-{
-    return leadingNumber(fromUtf8(field()));
+    return fromUtf8(std::string_view(bytes_).substr(start, end - start));
 }
 
 } // namespace plotvue

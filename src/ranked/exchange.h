@@ -1,47 +1,37 @@
-// The small text files in the working directory, readable by their owner only. A record is one line: fields
-// apart by commas, texts in double quotation marks as they stand (line ends inside them kept, nothing
-// doubled), numbers bare; it ends with CR LF. Files are UTF-8 and rewritten whole.
+// The small text files in the working directory. Each is UTF-8, is rewritten whole, and only its owner may
+// read it. A record is one line that ends with CR LF. Its fields are separated by commas: a text is put
+// between double quotation marks without any change, so it may hold line ends and more such marks; a number
+// is written without them.
 #pragma once
 
 #include "capture/text.h"
 
+#include <variant>
+#include <vector>
+
 namespace plotvue {
 
-inline constexpr const char* scratchFile = "pvuscrn.txt";    // the capture of a ranked analysis: one text
-inline constexpr const char* listFile = "plotvue.txt";       // a record per entry of the list
-inline constexpr const char* chosenRowFile = "plotvue1.txt"; // the key of the entry shown
+inline constexpr const char* scratchFile = "pvuscrn.txt";    // one text: the capture of a ranked analysis
+inline constexpr const char* listFile = "plotvue.txt";       // a record for each row of a list
+inline constexpr const char* chosenRowFile = "plotvue1.txt"; // one record: the key of a row of the list
 
-// Collects records and writes them in one go.
-class RecordWriter {
-public:
-    RecordWriter& text(TextSpan field);
-    RecordWriter& number(double field);
-    RecordWriter& endRecord();
+using RecordField = std::variant<double, Text>;
+using RecordFields = std::vector<RecordField>;
 
-    // Creates or truncates the file. Throws Failure when it cannot be written.
-    void writeTo(const char* file) const;
+// Creates or truncates the file. Throws Failure when it cannot be written.
+void writeRecords(const char* file, const std::vector<RecordFields>& records);
 
-private:
-    void separate();
-
-    std::string bytes_;
-    bool inRecord_ = false;
-};
-
-// Reads the fields of a file's records one after the other, wherever the records end.
+// Reads the fields of a file one after the other. The end of a record only separates two fields.
 class RecordReader {
 public:
     // Throws Failure when the file cannot be opened or read.
     explicit RecordReader(const char* file);
 
-    // The next field. A text in quotation marks goes to the next one, any other to the next comma or line
-    // end. Throws Failure behind the last field.
-    Text text();
-    double number();
+    // The next field. One that begins with a quotation mark ends at the next such mark, any other one at the
+    // next comma or line end. Throws Failure after the last field.
+    Text next();
 
 private:
-    std::string_view field();
-
     std::string file_, bytes_;
     std::size_t at_ = 0;
 };

@@ -1,4 +1,4 @@
-// Past-due receivables: customers by what they owe, and one customer's ageing over six months.
+// Past-due receivables: customers by what they owe, and how old one customer's debts were in six months.
 //
 //     RANKED PAST DUE RECEIVABLES, AS OF 10/31/99
 //     Mlabel OCT99SEP99AUG99JUL99JUN99MAY99
@@ -7,13 +7,13 @@
 //     OCT99    10280    8624    5591    3725     855       0
 //     SEP99    11084    4151    1794     983     394       0
 //
-// The labels are the ageing key, the current month first. A caption has 8 characters from column 8 on, an
-// amount 8 from column 7 on.
+// The labels are the ageing key, the current month first. Every caption has 8 columns, the first from column
+// 8 on; every amount has 8 columns, the first from column 7 on. The amounts after the first are past due.
 
 #include "capture/failure.h"
 #include "capture/number.h"
 #include "ranked/analyses.h"
-#include "ranked/reading.h"
+#include "ranked/rankedscreen.h"
 
 #include <algorithm>
 
@@ -21,12 +21,12 @@ namespace plotvue {
 
 namespace {
 
-enum Number { customer, total, pastDue };
-enum EntryTextSlot { customerName, city, state };
-enum PageTextSlot { ageingKey, title };
+enum EntryNumber { customer, total, pastDue };
+enum EntryText { customerName, city, state };
+enum ScreenText { ageingKey, title };
 
 constexpr int months = 6;
-constexpr int mostBuckets = 8;
+constexpr int maxBuckets = 8;
 constexpr int bucketsAlwaysRead = 4;
 
 double bucket(TextSpan line, int number)
@@ -34,27 +34,37 @@ double bucket(TextSpan line, int number)
     return leadingNumber(mid(line, 7 + 8 * number, 8));
 }
 
-void countEntry(RankedReading& reading, TextSpan)
+// Before the first "Mlabel" line, a line with five crosses is an ageing line.
+void startWithCrosses(RankedScreen& screen)
 {
-    ++reading.counts[0];
+    screen.texts[ageingKey] = u"xxxxx";
 }
 
-void takeAgeing(RankedReading& reading, TextSpan line)
+void countEntry(RankedScreen& screen, TextSpan)
 {
-    Entry& entry = reading.entry(reading.current);
+    ++screen.counts[0];
+}
+
+// Every line that holds the current month's label is taken for the current entry's ageing line. An "Mlabel"
+// line may be one, too.
+void takeAgeing(RankedScreen& screen, TextSpan line)
+{
+    if (!holds(line, mid(screen.texts[ageingKey], 1, 5)))
+        return;
+    Entry& entry = screen.currentEntry();
     const double current = bucket(line, 0);
     double sum = current;
-    for (int j = 1; j < mostBuckets && static_cast<int>(line.size()) >= 15 + 8 * j; ++j)
+    for (int j = 1; j < maxBuckets && static_cast<int>(line.size()) >= 15 + 8 * j; ++j)
         sum = finite(sum + bucket(line, j));
     entry.numbers[total] = sum;
     entry.numbers[pastDue] = finite(sum - current);
 }
 
-// How many amount columns the caption line is long enough for.
+// The number of amounts for which the caption line is long enough.
 int bucketsIn(TextSpan captions)
 {
     int j = 1;
-    while (j < mostBuckets && 8 * j + 15 <= static_cast<int>(captions.size()))
+    while (j < maxBuckets && 8 * j + 15 <= static_cast<int>(captions.size()))
         ++j;
     return j;
 }
@@ -95,56 +105,50 @@ void draw(Controls& controls, const Record& record, int)
     });
 }
 
-using To = Taken::To;
+using To = LineField::To;
 using Shows = GridColumn::Shows;
 
 } // namespace
 
 const RankedAnalysis frmPastdue{
     .window = "frmPastdue",
-    .caption = u"PlotVue",
     .heading = {{Label{.name = "txtHeader", .font = {.bold = true}}}},
     .title = u"RANKED PAST",
-    .mostLines = 1000,
-    .markers = {{.text = u"RANK:",
-                 .opens = Marker::Opens::Rank,
-                 .takes = {{To::EntryNumber, customer, 14, 5},
-                           {To::EntryText, customerName, 20, 30},
-                           {To::EntryText, city, 51, 15},
-                           {To::EntryText, state, 67, 2}},
-                 .then = countEntry},
-                // Any line that holds the current month's label counts, another "Mlabel" line included.
-                {.then = takeAgeing, .keyOfPage = true},
-                {.text = u"RANKED PAST", .takes = {{To::PageText, title, 1}}},
-                {.text = u"Mlabel", .takes = {{To::PageText, ageingKey, 8, 30}}}},
-    .pageAtStart = u"xxxxx",
+    .maxLines = 1000,
+    .prepare = startWithCrosses,
+    .rules = {{.marker = u"RANK:",
+               .open = openRank,
+               .fields = {{To::EntryNumber, customer, 14, 5},
+                          {To::EntryText, customerName, 20, 30},
+                          {To::EntryText, city, 51, 15},
+                          {To::EntryText, state, 67, 2}},
+               .then = countEntry},
+              {.then = takeAgeing},
+              {.marker = u"RANKED PAST", .fields = {{To::ScreenText, title, 1}}},
+              {.marker = u"Mlabel", .fields = {{To::ScreenText, ageingKey, 8, 30}}}},
     .grids = {{.box = {.name = "MSFlexGrid1",
                        .spokenName = u"Past-due customers",
                        .format =
                            u"Rank |Customer|Customer Name                                           |City   "
                            u"                           |ST |Total A/R |Past Due ",
                        .figures = {0, 1, 5, 6}},
-               .picture = {},
                .columns = {{Shows::RowNumber},
                            {Shows::NumberSlot, customer},
                            {Shows::TextSlot, customerName},
                            {Shows::TextSlot, city},
                            {Shows::TextSlot, state},
                            {Shows::NumberSlot, total},
-                           {Shows::NumberSlot, pastDue}},
-               .count = 0}},
-    .summary = {{"txtHeader", [](const RankedReading& reading) { return reading.page[title]; }}},
+                           {Shows::NumberSlot, pastDue}}}},
+    .summary = {{"txtHeader", [](const RankedScreen& screen) { return screen.texts[title]; }}},
     .key = {.parts = {{.number = true, .gridColumn = 1, .slot = customer, .column = 14, .length = 5}},
-            .lineBegins = u"RANK:"},
+            .lineStart = u"RANK:"},
     .linesAnEntry = 8,
 };
 
 const DrillDownDesign frmPastdueA{
     .window = "frmPastdueA",
-    .caption = u"PlotVue",
     .analysis = frmPastdue,
-    .mostRecordsToDraw = 1000,
-    .mostRecordsToStep = 500,
+    .limits = {.draw = 1000, .step = 500},
     .charts = {{ChartBox{.name = "ChartFX1"}, 1}},
     .draw = draw,
 };

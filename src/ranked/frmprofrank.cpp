@@ -1,16 +1,16 @@
-// Ranked profit: the customer/product pairs by their current profit. Built like the month-to-month analysis.
+// Ranked profit: the pairs of customer and product group by their current profit. All is as in the
+// month-to-month analysis but for the line of the profit.
 //
 //     RANKED PROFIT ANALYSIS, OCTOBER 1999
 //     FOR SALES REP 014 R. HALVORSEN, NORTH TERRITORY
 //     Mlabel OCT99SEP99AUG99JUL99JUN99...
 //     Mprofit   36812.00    34331.00
 //     RANK:  1     10386 MILLBROOK TRANSIT              LUBRICANTS
-//     P:     2560.00       623.00       280.00     (or "GAIN:", whose own figure is not read)
+//     P:     2560.00       623.00       280.00     (or a "GAIN:" line)
 //     V     1969    1823    1869    1673    1763    1582...
 //     S     8919    8314    8584    7698    7910    7069...
 //     P     2560    1804    2151    1657    1970    1720...
 
-#include "ranked/monthcolumns.h"
 #include "ranked/profitanalysis.h"
 
 namespace plotvue {
@@ -19,8 +19,12 @@ using namespace profit;
 
 namespace {
 
-// Of the record's lines after the first, the last that holds either mark; the second line where none does, as
-// when the screen lacks the rank.
+using To = LineField::To;
+
+constexpr Position previousColumn = 21; // of the previous profit on the "Mprofit" line
+
+// The last of the lines 2 to 5 that holds either marker; the second where none does, as when the list has a
+// row for a rank that the screen lacks.
 TextSpan componentLine(const Record& record)
 {
     TextSpan found = record[2];
@@ -30,47 +34,35 @@ TextSpan componentLine(const Record& record)
     return found;
 }
 
+void drawEntry(Controls& controls, const Record& record, int type)
+{
+    draw(controls, record, type, componentLine(record));
+}
+
 } // namespace
 
-const RankedAnalysis frmProfRank{
-    .window = "frmProfRank",
-    .caption = u"PlotVue",
-    .heading = heading(),
-    .title = u"RANKED PROFIT AN",
-    // Whichever of the two component lines comes later overwrites the other; only "P:" has a profit to count.
-    .markers = {rankMarker(),
-                {.text = u"GAIN:",
-                 .takes = {{Taken::To::EntryNumber, volumePart, 19, 9},
-                           {Taken::To::EntryNumber, marginPart, 32, 9}}},
-                {.text = u"P:",
-                 .takes = {{Taken::To::EntryNumber, figure, 6, 9},
-                           {Taken::To::EntryNumber, volumePart, 19, 9},
-                           {Taken::To::EntryNumber, marginPart, 32, 9}},
-                 .then = count},
-                {.text = u"RANKED PROF", .takes = {{Taken::To::PageText, header, 1}}},
-                salesLineMarker(),
-                labelMarker(),
-                totalsMarker(21)},
-    .grids = {grid({.name = "MSFlexGrid1",
-                    .spokenName = u"Profits",
-                    .format =
-                        u"Rank |Profit (current)|Customer|Customer Name                                      "
-                        u"|Product Group  "},
-                   gains, RankedGrid::Holds::NotNegative)},
-    .summary = summary(),
-    .key = key(),
-    .linesAnEntry = 5,
-};
+const RankedAnalysis frmProfRank = list(
+    {
+        .window = "frmProfRank",
+        .title = u"RANKED PROFIT AN",
+        // Where an entry has both lines, it keeps the components of the later one.
+        .rules = {{.marker = u"GAIN:",
+                   .fields = {{To::EntryNumber, volumePart, 19, 9}, {To::EntryNumber, marginPart, 32, 9}}},
+                  {.marker = u"P:",
+                   .fields = {{To::EntryNumber, figure, 6, 9},
+                              {To::EntryNumber, volumePart, 19, 9},
+                              {To::EntryNumber, marginPart, 32, 9}},
+                   .then = count},
+                  {.marker = u"RANKED PROF", .fields = {{To::ScreenText, header, 1}}}},
+        .grids = {grid(
+            gains,
+            {.name = "MSFlexGrid1",
+             .spokenName = u"Profits",
+             .format = u"Rank |Profit (current)|Customer|Customer Name                                      "
+                       u"|Product Group  "})},
+    },
+    previousColumn);
 
-const DrillDownDesign frmProfRankA{
-    .window = "frmProfRankA",
-    .caption = u"PlotVue",
-    .analysis = frmProfRank,
-    .width = 1100,
-    .charts = charts(),
-    .types = monthTypeOptions(),
-    .draw = [](Controls& controls, const Record& record,
-               int type) { draw(controls, record, type, componentLine(record)); },
-};
+const DrillDownDesign frmProfRankA = drillDown("frmProfRankA", frmProfRank, drawEntry);
 
 } // namespace plotvue

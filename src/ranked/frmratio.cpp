@@ -1,4 +1,4 @@
-// Financial ratios: value and benchmark of each, 13 months of one, its formula and what it means.
+// Financial ratios: the value and the benchmark of each; 13 months of one, its formula and a note on it.
 //
 //     FINANCIAL RATIO ANALYSIS, OCTOBER 1999
 //     COMP:THREE RIVERS FUEL & LUBRICANTS
@@ -10,14 +10,14 @@
 //     5: CASS / CLIB
 //     6: STD
 //
-// A value has 13 characters, from column 9 on every 14. The sixth line is the note, or STD for the one known
-// by the code; the third may carry a name of the ratio's own behind "3A:".
+// Every value of the first two lines has 13 columns and a blank, the first from column 9 on. The third line
+// may name the ratio after "3A:". The sixth is a note on it; STD means the note that PlotVue has.
 
 #include "capture/number.h"
 #include "ranked/analyses.h"
 #include "ranked/monthcolumns.h"
+#include "ranked/rankedscreen.h"
 #include "ranked/ratiotexts.h"
-#include "ranked/reading.h"
 
 #include <algorithm>
 
@@ -25,9 +25,9 @@ namespace plotvue {
 
 namespace {
 
-enum Number { currentValue };
-enum EntryTextSlot { code, name, valueText, benchmarkText };
-enum PageTextSlot { monthLabels, title, company };
+enum EntryNumber { currentValue };
+enum EntryText { code, name, valueText, benchmarkText };
+enum ScreenText { monthLabels, title, company };
 
 constexpr Position valueLength = 13;
 constexpr int monthsOnFirstLine = 7;
@@ -37,12 +37,23 @@ TextSpan codeOf(TextSpan line)
     return mid(line, 3, 4);
 }
 
-void nameByCode(RankedReading& reading, TextSpan line)
+// Ratios have no ranks: they are numbered as they come.
+void openNext(RankedScreen& screen, TextSpan)
 {
-    reading.entry(reading.current).texts[name] = ratioName(codeOf(line));
+    ++screen.currentRank;
 }
 
-// The name behind "3A:", up to a bar or the line's end; null where the line has none.
+void countEntry(RankedScreen& screen, TextSpan)
+{
+    screen.counts[0] = screen.currentRank;
+}
+
+void nameByCode(RankedScreen& screen, TextSpan line)
+{
+    screen.currentEntry().texts[name] = ratio(codeOf(line)).name;
+}
+
+// The name after "3A:", up to a bar or the end of the line; absent where the line has no "3A:".
 std::optional<TextSpan> ownName(TextSpan line)
 {
     constexpr TextSpan mark = u"3A:";
@@ -54,13 +65,13 @@ std::optional<TextSpan> ownName(TextSpan line)
     return bar ? mid(rest, 1, bar - 1) : withoutLast(rest);
 }
 
-void nameByLine(RankedReading& reading, TextSpan line)
+void nameByLine(RankedScreen& screen, TextSpan line)
 {
     if (const auto own = ownName(line))
-        reading.entry(reading.current).texts[name] = *own;
+        screen.currentEntry().texts[name] = *own;
 }
 
-// What stands behind "4: ". Throws Failure for a line shorter than that.
+// The text after "4: ", "5: " or "6: ". Throws Failure where the line has fewer than 3 characters.
 TextSpan textOf(const Record& record, std::size_t line)
 {
     return mid(record[line], 4, static_cast<Position>(record[line].size()) - 3);
@@ -76,7 +87,7 @@ Text noteMessage(const Record& record)
 {
     const TextSpan note = textOf(record, 6);
     const TextSpan bare = note.ends_with(carriageReturn) ? withoutLast(note) : note;
-    return Text(bare == u"STD" ? ratioNote(codeOf(record[2])) : note);
+    return Text(bare == u"STD" ? ratioOrComponent(codeOf(record[2])).note : note);
 }
 
 double monthValue(const Record& record, int month)
@@ -98,12 +109,12 @@ void draw(Controls& controls, const Record& record, int)
         largest = std::max(largest, values[point]);
     }
     largest = std::max(largest, leadingNumber(mid(record[3], 3, valueLength)));
-    // A screen too short for its explanations fails here, not when they are asked for.
+    // Where the screen is too short for the formula or the note, drawing fails, not the button.
     for (const std::size_t line : {4u, 5u, 6u})
         textOf(record, line);
 
     controls.chart("ChartFX1").change([&](Chart& ChartFX1) {
-        ChartFX1.SetTitle(2, ownName(record[3]).value_or(ratioOrComponentName(codeOf(record[2]))));
+        ChartFX1.SetTitle(2, ownName(record[3]).value_or(ratioOrComponent(codeOf(record[2])).name));
         ChartFX1.SetAxisMax(largest);
         ChartArrayData data;
         data.AddArray(values);
@@ -112,65 +123,56 @@ void draw(Controls& controls, const Record& record, int)
     });
 }
 
-void countEntry(RankedReading& reading, TextSpan)
-{
-    reading.counts[0] = reading.current;
-}
-
-using To = Taken::To;
+using To = LineField::To;
 using Shows = GridColumn::Shows;
 
 } // namespace
 
 const RankedAnalysis frmRatio{
     .window = "frmRatio",
-    .caption = u"PlotVue",
     .heading = {{Label{.name = "lblCompany", .font = {.bold = true}}}, {Label{.name = "lblA"}}},
     .title = u"FINANCIAL RATIO",
-    .markers = {{.text = u"FINANCIAL", .takes = {{To::PageText, title, 1}}},
-                {.text = u"COMP:", .takes = {{To::PageText, company, 6}}},
-                {.text = u"Mlabel", .takes = {{To::PageText, monthLabels, 8, 65}}},
-                {.text = u"1:",
-                 .opens = Marker::Opens::NextEntry,
-                 .takes = {{To::EntryText, code, 3, 4}, {To::EntryNumber, currentValue, 8, valueLength}},
-                 .then = countEntry},
-                {.text = u"2:", .then = nameByCode},
-                {.text = u"3:",
-                 .takes = {{To::EntryText, valueText, 31, valueLength},
-                           {To::EntryText, benchmarkText, 45, valueLength}},
-                 .then = nameByLine}},
+    .rules = {{.marker = u"FINANCIAL", .fields = {{To::ScreenText, title, 1}}},
+              {.marker = u"COMP:", .fields = {{To::ScreenText, company, 6}}},
+              {.marker = u"Mlabel", .fields = {{To::ScreenText, monthLabels, 8, 65}}},
+              {.marker = u"1:",
+               .open = openNext,
+               .fields = {{To::EntryText, code, 3, 4}, {To::EntryNumber, currentValue, 8, valueLength}},
+               .then = countEntry},
+              {.marker = u"2:", .then = nameByCode},
+              {.marker = u"3:",
+               .fields = {{To::EntryText, valueText, 31, valueLength},
+                          {To::EntryText, benchmarkText, 45, valueLength}},
+               .then = nameByLine}},
     .grids = {{.box = {.name = "MSFlexGrid1",
                        .spokenName = u"Ratios",
                        .format =
                            u"Ratio |Ratio Name                                   |Value                 "
                            u"|Benchmark        ",
                        .figures = {2, 3}},
-               .picture = {},
                .columns = {{Shows::TextSlot, code},
                            {Shows::TextSlot, name},
                            {Shows::TextSlot, valueText},
-                           {Shows::TextSlot, benchmarkText}},
-               .count = 0}},
-    .summary = {{"lblA", [](const RankedReading& reading) { return reading.page[title]; }},
-                {"lblCompany", [](const RankedReading& reading) { return reading.page[company]; }}},
+                           {Shows::TextSlot, benchmarkText}}}},
+    .summary = {{"lblA", [](const RankedScreen& screen) { return screen.texts[title]; }},
+                {"lblCompany", [](const RankedScreen& screen) { return screen.texts[company]; }}},
     .key = {.parts = {{.number = false, .gridColumn = 0, .slot = code, .column = 3, .length = 4}},
-            .lineBegins = u"1:",
-            .recordBegins = u"1:"},
+            .lineStart = u"1:",
+            .recordStart = u"1:"},
     .linesAnEntry = 6,
 };
 
 const DrillDownDesign frmRatioA{
     .window = "frmRatioA",
-    .caption = u"PlotVue",
     .analysis = frmRatio,
     .charts = {{ChartBox{.name = "ChartFX1"}, 1}},
     .draw = draw,
-    .explanations = {{.button = {.name = "cmdFormula", .caption = u"Formula", .shortcut = u"Alt+F"},
-                      .title = u"Formula",
-                      .text = formulaMessage},
-                     {.button = {.name = "cmdNote", .caption = u"Ratio Notes", .shortcut = u"Alt+N"},
-                      .title = u"Ratio Notes",
-                      .text = noteMessage}},
+    .buttons = {{.button = {.name = "cmdFormula", .caption = u"Formula", .shortcut = u"Alt+F"},
+                 .title = u"Formula",
+                 .text = formulaMessage},
+                {.button = {.name = "cmdNote", .caption = u"Ratio Notes", .shortcut = u"Alt+N"},
+                 .title = u"Ratio Notes",
+                 .text = noteMessage}},
 };
 
 } // namespace plotvue

@@ -1,5 +1,5 @@
-// Vendor inventory: the beginning-of-month inventory by vendor and product category, 13 months of one pair,
-// and the age of its FIFO inventory.
+// Vendor inventory: the beginning-of-month inventory by pairs of vendor and product category, 13 months of
+// one pair, and the age of its FIFO inventory.
 //
 //     VENDOR INVENTORY ANALYSIS, BEGINNING OF MONTH NOVEMBER 1999
 //     Total EOM FIFO value of all inventory 1,364,497, all warehouses
@@ -10,14 +10,14 @@
 //     S     5241    4850    5205    4466    5046    4099...
 //     P     1409    1281    1423    1197    1196    1162...
 //
-// The labels begin in column 8, the figures of a month every 8 columns from 3; the "F:" line's first two
-// fields share column 11.
+// The labels begin in column 8. Every figure of the last three lines has 8 columns, the first from column 3
+// on. The first two fields of the "F:" line share column 11.
 
 #include "capture/failure.h"
 #include "capture/number.h"
 #include "ranked/analyses.h"
 #include "ranked/monthcolumns.h"
-#include "ranked/reading.h"
+#include "ranked/rankedscreen.h"
 
 #include <algorithm>
 #include <cmath>
@@ -26,21 +26,29 @@ namespace plotvue {
 
 namespace {
 
-enum Number { fifoValue, secondAmount };
-enum EntryTextSlot { vendor, category, stockMonths };
-enum PageTextSlot { monthLabels, title, summaryLine };
+enum EntryNumber { fifoValue, secondAmount };
+enum EntryText { vendor, category, stockMonths };
+enum ScreenText { monthLabels, title, summaryLine };
 
 constexpr int buckets = 5;
 constexpr Position bucketLength = 8;
 constexpr TextSpan bucketLabels = u"<30 Days31 - 60 61 - 90 91 - 120Over 120";
 
-void countHighestRank(RankedReading& reading, TextSpan)
+// Ranks that the screen lacks get a row as well.
+void countHighestRank(RankedScreen& screen, TextSpan)
 {
-    reading.counts[0] = std::max(reading.counts[0], reading.current);
+    screen.counts[0] = std::max(screen.counts[0], screen.currentRank);
 }
 
-// "$1,234", "-$1,234": whole dollars, a half away from zero as amounts of money are rounded. The host's
-// format asks for no digit where there is none: 0 is "$".
+Text tips(const Record&)
+{
+    return u"This is your beginning of month inventory, grouped by Vendor and Product Category.  Items are\r"
+           u"ranked by value.  The 'Stock Months' column shows the time, in months, needed to deplete\r"
+           u"this inventory, based on past sales, averaged over three months.";
+}
+
+// "$1,234" or "-$1,234", rounded to whole dollars, a half away from zero. Nothing is "$": the format of the
+// title has no digit that is always written.
 Text dollars(double amount)
 {
     const double whole = std::round(amount);
@@ -82,46 +90,41 @@ void draw(Controls& controls, const Record& record, int type)
     });
 }
 
-using To = Taken::To;
+using To = LineField::To;
 using Shows = GridColumn::Shows;
 
 } // namespace
 
 const RankedAnalysis frmVendInv{
     .window = "frmVendInv",
-    .caption = u"PlotVue",
     .heading = {{TextBox{.name = "txtHeader", .spokenName = u"Analysis"}},
                 {TextBox{.name = "txtHeader2", .spokenName = u"Summary"}}},
-    .tips = u"This is your beginning of month inventory, grouped by Vendor and Product Category.  Items are\r"
-            u"ranked by value.  The 'Stock Months' column shows the time, in months, needed to deplete\r"
-            u"this inventory, based on past sales, averaged over three months.",
+    .buttons = {{.button = {.name = "cmdTips", .caption = u"Tips", .shortcut = u"F1"}, .text = tips}},
     .title = u"VENDOR INVENTORY AN",
-    .markers = {{.text = u"RANK:",
-                 .opens = Marker::Opens::Rank,
-                 .takes = {{To::EntryText, vendor, 17, 30}, {To::EntryText, category, 54, 30}},
-                 .then = countHighestRank},
-                {.text = u"F:",
-                 .takes = {{To::EntryNumber, fifoValue, 3, 9},
-                           {To::EntryNumber, secondAmount, 11, 9},
-                           {To::EntryText, stockMonths, 19, 7}}},
-                {.text = u"VENDOR INVEN", .takes = {{To::PageText, title, 1}}},
-                {.text = u"Total EOM", .takes = {{To::PageText, summaryLine, 1}}},
-                {.text = u"Mlabel", .takes = {{To::PageText, monthLabels, 8, 65}}}},
+    .rules = {{.marker = u"RANK:",
+               .open = openRank,
+               .fields = {{To::EntryText, vendor, 17, 30}, {To::EntryText, category, 54, 30}},
+               .then = countHighestRank},
+              {.marker = u"F:",
+               .fields = {{To::EntryNumber, fifoValue, 3, 9},
+                          {To::EntryNumber, secondAmount, 11, 9},
+                          {To::EntryText, stockMonths, 19, 7}}},
+              {.marker = u"VENDOR INVEN", .fields = {{To::ScreenText, title, 1}}},
+              {.marker = u"Total EOM", .fields = {{To::ScreenText, summaryLine, 1}}},
+              {.marker = u"Mlabel", .fields = {{To::ScreenText, monthLabels, 8, 65}}}},
     .grids = {{.box = {.name = "MSFlexGrid1",
                        .spokenName = u"Inventory",
                        .format =
                            u"Rank |EOM FIFO |Vendor Name                                  |Product Category  "
                            u"                                |Stock Months",
                        .figures = {0, 1, 4}},
-               .picture = {},
                .columns = {{Shows::RowNumber},
                            {Shows::NumberSlot, fifoValue},
                            {Shows::TextSlot, vendor},
                            {Shows::TextSlot, category},
-                           {Shows::TextSlot, stockMonths}},
-               .count = 0}},
-    .summary = {{"txtHeader", [](const RankedReading& reading) { return reading.page[title]; }},
-                {"txtHeader2", [](const RankedReading& reading) { return reading.page[summaryLine]; }}},
+                           {Shows::TextSlot, stockMonths}}}},
+    .summary = {{"txtHeader", [](const RankedScreen& screen) { return screen.texts[title]; }},
+                {"txtHeader2", [](const RankedScreen& screen) { return screen.texts[summaryLine]; }}},
     .key = {.parts = {{.number = false, .gridColumn = 2, .slot = vendor, .column = 17, .length = 30},
                       {.number = false, .gridColumn = 3, .slot = category, .column = 54, .length = 30}}},
     .linesAnEntry = 5,
@@ -129,7 +132,6 @@ const RankedAnalysis frmVendInv{
 
 const DrillDownDesign frmVendInvA{
     .window = "frmVendInvA",
-    .caption = u"PlotVue",
     .analysis = frmVendInv,
     .width = 1100,
     .charts = {{ChartBox{.name = "ChartFX1"}, 2},

@@ -1,70 +1,34 @@
 #include "ranked/listfile.h"
 
-#include "capture/number.h"
-
 namespace plotvue {
 
-namespace {
-
-TextSpan keyField(const KeyPart& part, const Record& record)
-{
-    return mid(record[1], part.column, part.length);
-}
-
-} // namespace
-
-KeyValues readChosenRow(const RankedAnalysis& analysis)
+KeyValues readChosenRow(const Key& key)
 {
     RecordReader reader(chosenRowFile);
     KeyValues values;
-    for (const KeyPart& part : analysis.key.parts) {
-        if (part.number)
-            values.emplace_back(reader.number());
-        else
-            values.emplace_back(reader.text());
-    }
+    for (const KeyPart& part : key.parts)
+        values.push_back(keyValue(part, reader.next()));
     return values;
-}
-
-void writeChosenRow(const RankedAnalysis& analysis, const Record& record)
-{
-    RecordWriter writer;
-    for (const KeyPart& part : analysis.key.parts) {
-        const TextSpan field = keyField(part, record);
-        part.number ? writer.number(leadingNumber(field)) : writer.text(field);
-    }
-    writer.endRecord().writeTo(chosenRowFile);
 }
 
 const Record& ListFile::next()
 {
-    before_ = std::move(record_);
+    previous_ = std::move(record_);
     record_.clear();
     for (int field = 0; field <= analysis_.linesAnEntry; ++field)
-        record_.push_back(reader_.text());
+        record_.push_back(reader_.next());
     ++position_;
     return record_;
 }
 
-const Record& ListFile::find(const KeyValues& key, int most)
+const Record& ListFile::find(const KeyValues& key, int limit)
 {
+    const Key& wanted = analysis_.key;
     do
         next();
-    while (!matches(key) && position_ < most);
+    while (!(TextSpan(record_[1]).starts_with(wanted.recordStart) && hasKey(record_[1], wanted, key)) &&
+           position_ < limit);
     return record_;
-}
-
-bool ListFile::matches(const KeyValues& key) const
-{
-    if (!TextSpan(record_[1]).starts_with(analysis_.key.recordBegins))
-        return false;
-    for (std::size_t i = 0; i < key.size(); ++i) {
-        const TextSpan field = keyField(analysis_.key.parts[i], record_);
-        const auto* number = std::get_if<double>(&key[i]);
-        if (number ? leadingNumber(field) != *number : field != std::get<Text>(key[i]))
-            return false;
-    }
-    return true;
 }
 
 } // namespace plotvue

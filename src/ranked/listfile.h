@@ -1,39 +1,32 @@
-// The list file as the drill-down window walks it, and the key of the entry that it shows.
+// The list file and the chosen-row file as the drill-down window reads them.
 #pragma once
 
-#include "ranked/drilldown.h"
+#include "ranked/analysis.h"
 #include "ranked/exchange.h"
 
 namespace plotvue {
 
-// The key's parts in their order: a number or a text each.
-using KeyValue = std::variant<double, Text>;
-using KeyValues = std::vector<KeyValue>;
+// The key of the entry that the drill-down window shows. Throws Failure when the file cannot be read.
+KeyValues readChosenRow(const Key& key);
 
-// Throws Failure when the chosen-row file cannot be read or written.
-KeyValues readChosenRow(const RankedAnalysis& analysis);
-void writeChosenRow(const RankedAnalysis& analysis, const Record& record);
-
+// Reads the list file from its first record on.
 class ListFile {
 public:
     // Throws Failure when the list file cannot be read.
     explicit ListFile(const RankedAnalysis& analysis) : analysis_(analysis), reader_(listFile) {}
 
-    // Reads records until one has the key; when none of the first `most` has it, the last of them is the one.
-    // Throws Failure when the file ends before that.
-    const Record& find(const KeyValues& key, int most);
+    // Reads on until a record has the key, at most to the record number `limit`, and returns the last record
+    // that was read. Throws Failure when the file ends before that.
+    const Record& find(const KeyValues& key, int limit);
 
-    int position() const { return position_; } // of the record found, from 1
-
-    const Record& previous() const { return before_; } // the record in front of the one found
-    const Record& next();                              // Throws Failure behind the last record.
+    int position() const { return position_; }           // of the record read last, from 1
+    const Record& previous() const { return previous_; } // the one before the record read last
+    const Record& next();                                // Throws Failure after the last record.
 
 private:
-    bool matches(const KeyValues& key) const;
-
     const RankedAnalysis& analysis_;
     RecordReader reader_;
-    Record before_, record_;
+    Record previous_, record_;
     int position_ = 0;
 };
 

@@ -1,17 +1,18 @@
 #include "ranked/listwindow.h"
 
 #include "capture/number.h"
-#include "ranked/exchange.h"
+#include "platform/commoncontrols.h"
+#include "ranked/listfile.h"
 
 namespace plotvue {
 
 Declaration RankedListWindow::declare() const
 {
     std::vector<Item> buttons{{Space{}, 1}};
-    if (!analysis_.tips.empty())
-        buttons.push_back({Button{.name = "cmdTips", .caption = u"Tips", .shortcut = u"F1"}});
-    buttons.push_back({Button{.name = "cmdPrint", .caption = u"&Print", .shortcut = u"Ctrl+P"}});
-    buttons.push_back({Button{.name = "cmdExit", .caption = u"Exit", .shortcut = u"Esc"}});
+    for (const MessageButton& message : analysis_.buttons)
+        buttons.push_back({message.button});
+    buttons.push_back({printButton()});
+    buttons.push_back({exitButton(u"Exit")});
 
     std::vector<Item> content = analysis_.heading;
     for (const RankedGrid& grid : analysis_.grids) {
@@ -30,33 +31,36 @@ Declaration RankedListWindow::declare() const
 
 Handlers RankedListWindow::handlers()
 {
-    Handlers handlers{{"cmdTips", [this](int) { cmdTips_Click(); }},
-                      {"cmdPrint", [this](int) { cmdPrint_Click(); }},
+    Handlers handlers{{"cmdPrint", [this](int) { cmdPrint_Click(); }},
                       {"cmdExit", [this](int) { cmdExit_Click(); }}};
     for (const RankedGrid& grid : analysis_.grids)
         handlers[grid.box.name] = [this, &grid](int row) { MSFlexGrid_Click(grid, row); };
+    for (const MessageButton& message : analysis_.buttons)
+        handlers[message.button.name] = [this, &message](int) {
+            platform().message(message.title, message.text({}));
+        };
     return handlers;
 }
 
 void RankedListWindow::Form_Load()
 {
-    capture_ = RecordReader(scratchFile).text();
-    reading_ = readCapture(capture_, [this] { return readRanked(analysis_, capture_); });
-    if (!reading_.accepted)
+    capture_ = RecordReader(scratchFile).next();
+    screen_ = readCapture(capture_, [this] { return readRanked(analysis_, capture_); });
+    if (!screen_.accepted)
         return cmdExit_Click();
     for (const auto& [control, text] : analysis_.summary)
-        controls().text(control).set(text(reading_));
+        controls().text(control).set(text(screen_));
     for (const RankedGrid& grid : analysis_.grids)
         fill(grid);
 }
 
 void RankedListWindow::fill(const RankedGrid& grid)
 {
-    const std::vector<int> ranks = ranksIn(grid, reading_);
+    const std::vector<int> ranks = ranksIn(grid, screen_);
     controls().grid(grid.box.name).change([&](Grid& control) {
         control.setRows(static_cast<int>(ranks.size()) + 1);
         for (std::size_t i = 0; i < ranks.size(); ++i) {
-            const Entry& entry = reading_.entry(ranks[i]);
+            const Entry& entry = screen_.entry(ranks[i]);
             const int row = static_cast<int>(i) + 1;
             for (std::size_t c = 0; c < grid.columns.size(); ++c) {
                 const GridColumn& column = grid.columns[c];
@@ -72,31 +76,23 @@ void RankedListWindow::fill(const RankedGrid& grid)
 
 void RankedListWindow::MSFlexGrid_Click(const RankedGrid& grid, int row)
 {
-    writeChosenRow(grid, row);
+    KeyValues clicked;
+    for (const KeyPart& part : analysis_.key.parts)
+        clicked.push_back(keyValue(part, controls().grid(grid.box.name)->cell(row, part.gridColumn)));
+    writeRecords(chosenRowFile, {clicked});
     writeList(grid);
     drillDown_.show();
 }
 
-void RankedListWindow::writeChosenRow(const RankedGrid& grid, int row)
-{
-    RecordWriter record;
-    for (const KeyPart& part : analysis_.key.parts) {
-        const Text cell = controls().grid(grid.box.name)->cell(row, part.gridColumn);
-        part.number ? record.number(leadingNumber(cell)) : record.text(cell);
-    }
-    record.endRecord().writeTo(chosenRowFile);
-}
-
 void RankedListWindow::writeList(const RankedGrid& grid) const
 {
-    RecordWriter records;
-    for (const int line : linesOf(ranksIn(grid, reading_), analysis_.key, reading_)) {
-        records.text(reading_.page[0]);
+    std::vector<RecordFields> records;
+    for (const int line : firstLines(ranksIn(grid, screen_), analysis_.key, screen_)) {
+        RecordFields& record = records.emplace_back(RecordFields{screen_.texts[0]});
         for (int i = 0; i < analysis_.linesAnEntry; ++i)
-            records.text(reading_.line(line + i));
-        records.endRecord();
+            record.emplace_back(Text(screen_.line(line + i)));
     }
-    records.writeTo(listFile);
+    writeRecords(listFile, records);
 }
 
 } // namespace plotvue

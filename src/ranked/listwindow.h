@@ -1,9 +1,9 @@
-// The list window of a ranked analysis: summary and grids, filled once at every load from the scratch file. A
-// click on a row hands the list and the row to the drill-down window through the exchange files.
+// The list window of a ranked analysis: a summary and grids, which every load fills from the scratch file. A
+// click on a row writes the list file and the chosen-row file and shows the drill-down window.
 #pragma once
 
 #include "platform/form.h"
-#include "ranked/reading.h"
+#include "ranked/rankedscreen.h"
 
 namespace plotvue {
 
@@ -28,18 +28,16 @@ protected:
 private:
     void cmdExit_Click() { leaveFor(startup_); }
     void cmdPrint_Click() { printWindow(); }
-    void cmdTips_Click() { platform().message({}, analysis_.tips); }
     void MSFlexGrid_Click(const RankedGrid& grid, int row);
 
     void fill(const RankedGrid& grid);
-    void writeChosenRow(const RankedGrid& grid, int row);
     void writeList(const RankedGrid& grid) const;
 
     Form& startup_;
     Form& drillDown_;
     const RankedAnalysis& analysis_;
-    Text capture_; // the reading's views point into it
-    RankedReading reading_;
+    Text capture_; // the lines of the screen are views of it
+    RankedScreen screen_;
 };
 
 } // namespace plotvue

@@ -9,7 +9,13 @@ namespace {
 
 enum Type { Sales, Profit, Volume, Percent, PerUnit };
 
-// Profit by sales or volume; the profit is not read where there is nothing to divide by.
+double monthFigure(TextSpan line, int month, Position width = columnWidth)
+{
+    return leadingNumber(mid(line, 8 * month - 5, width));
+}
+
+// 100 times the profit by the divisor: sales or volume. Where the divisor is 0, so is the result, and the
+// profit is not read, so it cannot be too large.
 double perHundred(TextSpan profitLine, Position profitWidth, TextSpan divisorLine, int month)
 {
     const double divisor = monthFigure(divisorLine, month);
@@ -33,11 +39,6 @@ double valueOf(const MonthLines& lines, int type, int month)
 }
 
 } // namespace
-
-double monthFigure(TextSpan line, int month, Position width)
-{
-    return leadingNumber(mid(line, 8 * month - 5, width));
-}
 
 Text monthLabel(TextSpan labels, int month)
 {

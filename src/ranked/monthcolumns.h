@@ -1,4 +1,4 @@
-// Thirteen months side by side on a line of the host: labels, figures, and the data types made of them.
+// Lines with a figure for each of 13 months, the newest first, and the data types that a chart makes of them.
 #pragma once
 
 #include "chart/chart.h"
@@ -7,18 +7,15 @@
 namespace plotvue {
 
 inline constexpr int monthColumns = 13;
-inline constexpr Position columnWidth = 8;
+inline constexpr Position columnWidth = 8; // of a figure
 
-// "12345678" starting at column 8k - 5 for month k = 1 to 13, read as a number.
-double monthFigure(TextSpan line, int month, Position width = columnWidth);
-
-// "OCT99" starting at column 5k - 4 for month k.
+// The 5 characters at column 5 * month - 4: "OCT99". Months count from 1, the newest.
 Text monthLabel(TextSpan labels, int month);
 
-// The data types of a drill-down window over a volume, a sales and a profit line.
+// The lines from which the data types are worked out.
 struct MonthLines {
     TextSpan volume, sales, profit;
-    Position profitWidthOfPercent = columnWidth; // the profit's width where it is divided by sales
+    Position profitWidthOfPercent = columnWidth; // the width of the profit that is divided by sales
 };
 
 struct MonthType {
@@ -29,7 +26,7 @@ struct MonthType {
 const std::array<MonthType, 5>& monthTypes();
 std::vector<TextSpan> monthTypeOptions();
 
-// Labels and figures of 13 points. The host prints the newest month first: point 12 is month 1.
+// The labels and figures of 13 points, the oldest month first. `type` is an index into monthTypes().
 ChartArrayData monthSeries(TextSpan labels, const MonthLines& lines, int type);
 
 } // namespace plotvue

@@ -11,95 +11,89 @@ namespace plotvue::profit {
 
 namespace {
 
-using To = Taken::To;
+using To = LineField::To;
+using Shows = GridColumn::Shows;
 
 // "Total profit for the territory increased by  1250 (from  8000 to  9250)."
-Text totalSentence(const RankedReading& reading)
+Text totalSentence(const RankedScreen& screen)
 {
-    const double now = std::floor(reading.totals[current]);
-    const double before = std::floor(reading.totals[previous]);
+    const double now = std::floor(screen.numbers[current]);
+    const double before = std::floor(screen.numbers[previous]);
     const bool less = now < before;
     return Text(u"Total profit for the territory ") + (less ? u"decreased " : u"increased ") + u"by " +
            signedNumber(finite(less ? before - now : now - before)) + u" (from " + signedNumber(before) +
            u" to " + signedNumber(now) + u").";
 }
 
+bool isGain(const Entry& entry)
+{
+    return entry.numbers[figure] >= 0;
+}
+
+bool isLoss(const Entry& entry)
+{
+    return entry.numbers[figure] <= 0;
+}
+
 } // namespace
 
-Marker rankMarker()
+void count(RankedScreen& screen, TextSpan)
 {
-    return {.text = u"RANK:",
-            .opens = Marker::Opens::Rank,
-            .takes = {{To::EntryNumber, customer, 14, 5},
-                      {To::EntryText, customerName, 20, 30},
-                      {To::EntryText, group, 51, 10}}};
+    ++screen.counts[screen.currentEntry().numbers[figure] <= 0 ? losses : gains];
 }
 
-Marker salesLineMarker()
+RankedGrid grid(Count count, GridBox box, std::optional<PictureBox> picture)
 {
-    return {.text = u"FOR SALES", .takes = {{To::PageText, salesLine, 1}}};
-}
-
-Marker labelMarker()
-{
-    return {.text = u"Mlabel", .takes = {{To::PageText, monthLabels, 8, 65}}};
-}
-
-Marker totalsMarker(Position previousColumn)
-{
-    return {.text = u"Mprofit",
-            .takes = {{To::PageNumber, current, 9, 10},
-                      {To::PageNumber, previous, previousColumn, 31 - previousColumn}}};
-}
-
-void count(RankedReading& reading, TextSpan)
-{
-    ++reading.counts[reading.entry(reading.current).numbers[figure] <= 0 ? losses : gains];
-}
-
-std::vector<Item> heading()
-{
-    return {{TextBox{.name = "txtHeader", .spokenName = u"Analysis"}},
-            {TextBox{.name = "txtL2", .spokenName = u"Summary"}},
-            {TextBox{.name = "txtL3", .spokenName = u"Sales"}}};
-}
-
-std::map<Name, Text (*)(const RankedReading&)> summary()
-{
-    return {{"txtHeader", [](const RankedReading& reading) { return reading.page[header]; }},
-            {"txtL2", totalSentence},
-            {"txtL3", [](const RankedReading& reading) { return reading.page[salesLine]; }}};
-}
-
-RankedGrid grid(GridBox box, Count count, RankedGrid::Holds holds, std::optional<PictureBox> picture)
-{
-    using Shows = GridColumn::Shows;
     box.figures = {0, 1, 2};
     return {.box = std::move(box),
-            .picture = picture,
             .columns = {{Shows::RowNumber},
                         {Shows::NumberSlot, figure},
                         {Shows::NumberSlot, customer},
                         {Shows::TextSlot, customerName},
                         {Shows::TextSlot, group}},
             .count = count,
-            .holds = holds};
+            .lists = count == gains ? isGain : isLoss,
+            .picture = picture};
 }
 
-Key key()
+RankedAnalysis list(RankedAnalysis own, Position previousColumn)
 {
-    return {.parts = {{.number = true, .gridColumn = 2, .slot = customer, .column = 14, .length = 5},
-                      {.number = false, .gridColumn = 4, .slot = group, .column = 51, .length = 10}}};
+    own.rules.insert(own.rules.begin(), {.marker = u"RANK:",
+                                         .open = openRank,
+                                         .fields = {{To::EntryNumber, customer, 14, 5},
+                                                    {To::EntryText, customerName, 20, 30},
+                                                    {To::EntryText, group, 51, 10}}});
+    own.rules.push_back({.marker = u"FOR SALES", .fields = {{To::ScreenText, salesLine, 1}}});
+    own.rules.push_back({.marker = u"Mlabel", .fields = {{To::ScreenText, monthLabels, 8, 65}}});
+    own.rules.push_back({.marker = u"Mprofit",
+                         .fields = {{To::ScreenNumber, current, 9, 10},
+                                    {To::ScreenNumber, previous, previousColumn, 31 - previousColumn}}});
+    own.heading = {{TextBox{.name = "txtHeader", .spokenName = u"Analysis"}},
+                   {TextBox{.name = "txtL2", .spokenName = u"Summary"}},
+                   {TextBox{.name = "txtL3", .spokenName = u"Sales"}}};
+    own.summary = {{"txtHeader", [](const RankedScreen& screen) { return screen.texts[header]; }},
+                   {"txtL2", totalSentence},
+                   {"txtL3", [](const RankedScreen& screen) { return screen.texts[salesLine]; }}};
+    own.key = {.parts = {{.number = true, .gridColumn = 2, .slot = customer, .column = 14, .length = 5},
+                         {.number = false, .gridColumn = 4, .slot = group, .column = 51, .length = 10}}};
+    own.linesAnEntry = 5;
+    return own;
 }
 
-std::vector<Item> charts()
+DrillDownDesign drillDown(Name window, const RankedAnalysis& analysis,
+                          void (*drawEntry)(Controls&, const Record&, int type))
 {
-    return {{ChartBox{.name = "ChartFX1"}, 2},
-            {ChartBox{.name = "ChartFX2",
-                      .chart = {.design = {.bars = ChartDesign::Bars::Grouped,
-                                           .labels = ChartDesign::Labels::Names},
-                                .titles = {{2, u"Volume/Margin components"}}}},
-             1}};
+    return {.window = window,
+            .analysis = analysis,
+            .width = 1100,
+            .charts = {{ChartBox{.name = "ChartFX1"}, 2},
+                       {ChartBox{.name = "ChartFX2",
+                                 .chart = {.design = {.bars = ChartDesign::Bars::Grouped,
+                                                      .labels = ChartDesign::Labels::Names},
+                                           .titles = {{2, u"Volume/Margin components"}}}},
+                        1}},
+            .types = monthTypeOptions(),
+            .draw = drawEntry};
 }
 
 void draw(Controls& controls, const Record& record, int type, TextSpan componentLine)
@@ -108,7 +102,7 @@ void draw(Controls& controls, const Record& record, int type, TextSpan component
     const double margin = leadingNumber(mid(componentLine, 32, 9));
     const TextSpan entry = record[1];
     const MonthType& chosen = monthTypes()[static_cast<std::size_t>(type)];
-    // The percentage reads its profit one character wider than the column is.
+    // The percentage reads each profit one column too wide, into the next month.
     const ChartArrayData months = monthSeries(
         record[0], {.volume = record[3], .sales = record[4], .profit = record[5], .profitWidthOfPercent = 9},
         type);

@@ -1,35 +1,32 @@
-// What the month-to-month and the ranked profit analysis share.
+// What the month-to-month and the ranked profit analysis have in common: the same screen but for the line of
+// the figures, and the same windows.
 #pragma once
 
 #include "ranked/analyses.h"
-#include "ranked/reading.h"
+#include "ranked/rankedscreen.h"
 
 namespace plotvue::profit {
 
-enum Number { figure, customer, volumePart, marginPart }; // the figure decides which grid holds the entry
-enum EntryTextSlot { customerName, group };
-enum PageTextSlot { monthLabels, header, salesLine };
-enum Total { current, previous };
+enum EntryNumber { figure, customer, volumePart, marginPart }; // figure: the gain, or the current profit
+enum EntryText { customerName, group };
+enum ScreenText { monthLabels, header, salesLine };
+enum ScreenNumber { current, previous }; // the territory's profits
 enum Count { gains, losses };
 
-Marker rankMarker();
-Marker salesLineMarker();
-Marker labelMarker();
+// Counts the current entry as a loss when its figure is 0 or less, otherwise as a gain.
+void count(RankedScreen& screen, TextSpan line);
 
-// `previousColumn` and the length behind it reach to column 30.
-Marker totalsMarker(Position previousColumn);
+// The grid of the gains or the losses. Both list an entry whose figure is exactly 0.
+RankedGrid grid(Count count, GridBox box, std::optional<PictureBox> picture = {});
 
-// Counts the entry that the line belongs to as a gain, or as a loss when its figure is 0 or less.
-void count(RankedReading& reading, TextSpan line);
+// Adds what both have in common: a rule before `own` rules and three after them, the heading, the key. On the
+// "Mprofit" line the territory's previous profit is in `previousColumn` to column 30.
+RankedAnalysis list(RankedAnalysis own, Position previousColumn);
 
-std::vector<Item> heading();
-std::map<Name, Text (*)(const RankedReading&)> summary();
-RankedGrid grid(GridBox box, Count count, RankedGrid::Holds holds, std::optional<PictureBox> picture = {});
-Key key();
+DrillDownDesign drillDown(Name window, const RankedAnalysis& analysis,
+                          void (*drawEntry)(Controls&, const Record&, int type));
 
-// Charts and data types of both drill-down windows. `componentLine` is the line that holds the components
-// of the change.
-std::vector<Item> charts();
+// Draws both charts. `componentLine` is the line with the two components of the change.
 void draw(Controls& controls, const Record& record, int type, TextSpan componentLine);
 
 } // namespace plotvue::profit

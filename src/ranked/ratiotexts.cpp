@@ -2,15 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <span>
 
 namespace plotvue {
 
 namespace {
 
-struct Ratio {
-    TextSpan code, name, note;
-};
+constexpr Ratio unknown{{}, u"Undefined Ratio", u"No information available."};
 
 constexpr std::array ratios{
     Ratio{u"CUR ", u"Current Ratio",
@@ -39,42 +36,26 @@ constexpr std::array components{
     Ratio{u"SLS ", u"Total Sales", u"Total Sales"},
     Ratio{u"CASH", u"Total Cash", u"Total Cash"},
     Ratio{u"CLIB", u"Current Liabilities", u"Current Liabilities"},
-    Ratio{u"TLIB", u"Total Liabilites", u"Total Liabilites"}, // spelled as the managers know it
+    Ratio{u"TLIB", u"Total Liabilites", u"Total Liabilites"}, // the spelling that managers know
 };
 
-const Ratio* lookUp(std::span<const Ratio> table, TextSpan code)
+template <typename Table>
+const Ratio& lookUp(const Table& table, TextSpan code, const Ratio& otherwise)
 {
-    const auto at =
-        std::find_if(table.begin(), table.end(), [&](const Ratio& ratio) { return ratio.code == code; });
-    return at == table.end() ? nullptr : &*at;
+    const auto at = std::ranges::find(table, code, &Ratio::code);
+    return at == table.end() ? otherwise : *at;
 }
-
-const Ratio* lookUpBoth(TextSpan code)
-{
-    const Ratio* ratio = lookUp(ratios, code);
-    return ratio ? ratio : lookUp(components, code);
-}
-
-constexpr TextSpan undefined = u"Undefined Ratio";
 
 } // namespace
 
-TextSpan ratioName(TextSpan code)
+const Ratio& ratio(TextSpan code)
 {
-    const Ratio* ratio = lookUp(ratios, code);
-    return ratio ? ratio->name : undefined;
+    return lookUp(ratios, code, unknown);
 }
 
-TextSpan ratioOrComponentName(TextSpan code)
+const Ratio& ratioOrComponent(TextSpan code)
 {
-    const Ratio* ratio = lookUpBoth(code);
-    return ratio ? ratio->name : undefined;
-}
-
-TextSpan ratioNote(TextSpan code)
-{
-    const Ratio* ratio = lookUpBoth(code);
-    return ratio ? ratio->note : u"No information available.";
+    return lookUp(ratios, code, lookUp(components, code, unknown));
 }
 
 } // namespace plotvue

@@ -1,17 +1,17 @@
-// What the financial ratios are called and what they mean, by the host's code of four characters, blanks and
-// case included.
+// The names of the financial ratios and the notes on them.
 #pragma once
 
 #include "capture/text.h"
 
 namespace plotvue {
 
-// "Undefined Ratio" for a code that is none. The components of formulas have names in the drill-down window
-// only.
-TextSpan ratioName(TextSpan code);
-TextSpan ratioOrComponentName(TextSpan code);
+struct Ratio {
+    TextSpan code; // four characters; blanks and case count
+    TextSpan name, note;
+};
 
-// "No information available." for a code without a note.
-TextSpan ratioNote(TextSpan code);
+// Of an unknown code, the name is "Undefined Ratio" and the note "No information available.".
+const Ratio& ratio(TextSpan code);
+const Ratio& ratioOrComponent(TextSpan code); // also knows the components of the ratios' formulas
 
 } // namespace plotvue

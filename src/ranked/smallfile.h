@@ -1,4 +1,4 @@
-// A small file in the working directory, written and read whole, for its owner only.
+// A small file in the working directory: written and read whole, readable by its owner only.
 #pragma once
 
 #include "capture/text.h"
@@ -11,7 +11,7 @@ void writeSmallFile(const char* file, const std::string& bytes);
 // Throws Failure when the file cannot be opened or read.
 std::string readSmallFile(const char* file);
 
-// Throws the Failure of a file that "cannot be opened", with the system's reason.
+// Throws Failure. `what` says what failed, "cannot be opened"; `reason` is the operating system's.
 [[noreturn]] void failForFile(const char* file, TextSpan what, TextSpan reason);
 
 } // namespace plotvue

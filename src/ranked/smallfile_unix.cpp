@@ -11,7 +11,7 @@ namespace plotvue {
 
 namespace {
 
-// A pipe in a file's place must not be waited for.
+// Opening a pipe in the place of the file must not wait for its other end.
 constexpr int atOnce = O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
 
 [[noreturn]] void failFor(const char* file, TextSpan what)
@@ -27,9 +27,9 @@ void writeSmallFile(const char* file, const std::string& bytes)
     const int descriptor = open(file, O_WRONLY | O_CREAT | O_TRUNC | atOnce, ownerOnly);
     if (descriptor < 0)
         failFor(file, u"cannot be created");
-    // A file that is already there keeps the rights it had. What a link leads to may be no file: a device
-    // keeps them. So does what refuses, another person's file or a disk that knows no rights: it can be
-    // written.
+    // A file that was there before still has its old rights. They are changed only where it is a file: the
+    // name may be a link to a device. Where they cannot be changed, on another person's file or a disk
+    // without rights, the file can be written all the same.
     struct stat found {};
     bool good = fstat(descriptor, &found) == 0;
     if (good && S_ISREG(found.st_mode))
@@ -52,7 +52,7 @@ std::string readSmallFile(const char* file)
     const int descriptor = open(file, O_RDONLY | atOnce);
     if (descriptor < 0)
         failFor(file, u"cannot be opened");
-    // What a link leads to may be no file: a device need not come to an end.
+    // The name may be a link to a device, which may never end.
     struct stat found {};
     if (fstat(descriptor, &found) == 0 && S_ISCHR(found.st_mode)) {
         close(descriptor);

@@ -15,11 +15,11 @@ namespace {
         FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS | FORMAT_MESSAGE_MAX_WIDTH_MASK, nullptr,
         GetLastError(), 0, reason, static_cast<DWORD>(std::size(reason)), nullptr);
     Text sentence(reason, reason + length);
-    sentence.erase(sentence.find_last_not_of(u" .") + 1); // it stands in a sentence of ours
+    sentence.erase(sentence.find_last_not_of(u" .") + 1); // a sentence of PlotVue's goes on after it
     failForFile(file, what, sentence);
 }
 
-// All rights for the person who runs PlotVue, none for others, and none that come from the folder.
+// All rights for the person who runs PlotVue; none for others, and none inherited from the folder.
 class OwnerOnly {
 public:
     OwnerOnly()
@@ -64,7 +64,7 @@ public:
     bool isOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
     bool close() { return !isOpen() || CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE)); }
 
-    // Throws Failure for a pipe or a device: the one would be waited for, the other need not come to an end.
+    // Throws Failure for a pipe, which PlotVue would wait for, and for a device, which may never end.
     void mustBeOnDisk(const char* name, TextSpan what) const
     {
         if (GetFileType(handle_) == FILE_TYPE_DISK)
@@ -87,11 +87,11 @@ File created(const char* name, OwnerOnly& rights)
 {
     SECURITY_ATTRIBUTES attributes{sizeof attributes, rights.descriptor(), FALSE};
     File file(name, GENERIC_WRITE | WRITE_DAC, CREATE_ALWAYS, &attributes);
-    if (file.isOpen()) // a file that was there before has kept the rights it had
+    if (file.isOpen()) // a file that was there before still has its old rights
         SetKernelObjectSecurity(file.handle(),
                                 DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION,
                                 rights.descriptor());
-    else if (GetLastError() == ERROR_ACCESS_DENIED) // another person's file may be writable all the same
+    else if (GetLastError() == ERROR_ACCESS_DENIED) // another person's file, which may be writable
         return {name, GENERIC_WRITE, CREATE_ALWAYS, &attributes};
     return file;
 }

@@ -106,14 +106,14 @@ def neighbours(kind, path, opening):
 
 
 def order():
-    """Neighbours in the list of screens, their windows, and the markers of the ranked screens."""
+    """Neighbours in the list of screens, their windows, and the rules of the ranked screens."""
     yield from neighbours("order", "src/app/screens.h", r"screens\{")
     text, _ = code_of("src/app/screens.h")
     windows = [found.span() for found in re.finditer(r"Ranked\{&[^}]+\}|&frm\w+|makeWindow<frm\w+>", text)]
     for one, two in zip(windows, windows[1:]):
         yield swapped("order", "src/app/screens.h", text, one, two)
     for path in sources(["ranked"]):
-        yield from neighbours("order", path, r"\.markers = \{")
+        yield from neighbours("order", path, r"\.rules = \{")
 
 
 def captions():

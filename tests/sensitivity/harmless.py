@@ -5,7 +5,7 @@ import re
 ROOM = "how the room in a window is shared out: looked at by eye, and that all fits by tests/desktop/sizes_test.cpp"
 LETTERS = "how letters look: looked at by eye"
 NOT_USED = "is set before it is used"
-OTHER_THINGS = "each marker takes other things from the line, so their order cannot be seen"
+OTHER_THINGS = "each rule takes other things from the line, so their order cannot be seen"
 ONLY_WHERE = "only which places are compared at all, never what is found there"
 NOTHING_MORE = "nothing is left for the one step more"
 NOTHING_THERE = "the slot behind the last one has no label and no figure"
@@ -53,9 +53,9 @@ HARMLESS = {
     },
     r"ranked/": {
         r"field = \[3 -> 2\]": "without a mark the second line is taken all the same",
-        r"mostRecordsToDraw = \[1000": "a record that is drawn was among the first 500 when it was stepped to",
+        r"draw = \[1000": "a record that is drawn was among the first 500 when it was stepped to",
         r"searchedLines = \[1000 -> 1001": NOTHING_MORE,
-        r" <-> .*(PageText|salesLineMarker|labelMarker|totalsMarker)": OTHER_THINGS,
+        r" <-> .*ScreenText": OTHER_THINGS,
         r"\"Mlabel\".* <-> .*\"1:\"": OTHER_THINGS,
         r"\{\.text = u\"GAIN:\".* <-> \{\.text = u\"P:\"": "what both take stands in the same columns of the same line",
         r"u\"GAIN:\" <-> u\"P:\"": "either mark is asked for, in any order",

@@ -164,7 +164,7 @@ TEST(ScreenLines, NothingAtAllNeverEnds)
     EXPECT_THROW(ScreenLines(u"").requireAll(), EndlessRead);
 }
 
-TEST(ScreenLines, NothingBehindLine19NeverEndsEither)
+TEST(ScreenLines, NothingAfterLine19NeverEndsEither)
 {
     const Text lines19 = numbered(19).text();
     EXPECT_THROW(ScreenLines(lines19).requireAll(), EndlessRead);
@@ -255,7 +255,7 @@ TEST(DashLine, Line20IsTheLastThatCanBeIt)
 
 TEST(DashLine, TheSearchCrossesLines)
 {
-    // Behind line 19 stand LF "AB" CR LF and the dashes: position 6.
+    // After line 19 come LF "AB" CR LF and the dashes: position 6.
     EXPECT_EQ(dashLineOf(numbered().put(20, 1, u"AB ").put(21, 1, u"-----")), 20);
     // LF "L20" CR LF and 22 blanks: position 29, and with one more 30.
     EXPECT_EQ(dashLineOf(numbered().put(21, 23, u"-----")), 20);
@@ -267,7 +267,7 @@ TEST(DashLine, VanishedEmptyLinesCountInThePosition)
     const auto withEmptyLine = [](std::size_t column) {
         return u"A\r\n\r\n" + Text(column - 1, u' ') + u"-----\r\n" + numbered().text();
     };
-    // LF CR LF in front: column 26 stands at position 29.
+    // LF CR LF come first: column 26 is position 29.
     const Text near = withEmptyLine(26), far = withEmptyLine(27);
     EXPECT_EQ(ScreenLines(near).dashLine(), 2);
     EXPECT_EQ(ScreenLines(far).dashLine(), 0);

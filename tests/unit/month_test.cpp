@@ -32,9 +32,9 @@ TEST(DaysOfMonth, AnEmptyNameIsFoundAtJanuary)
 
 TEST(DaysOfMonth, TheNameIsLookedUpAnywhereInTheTable)
 {
-    EXPECT_EQ(daysOfMonth(u"AN3"), 1); // behind it stands "1F"
-    EXPECT_EQ(daysOfMonth(u"N31"), 0); // behind it stands "FE"
-    EXPECT_EQ(daysOfMonth(u"C31"), 0); // behind it stands nothing
+    EXPECT_EQ(daysOfMonth(u"AN3"), 1); // "1F" comes after it
+    EXPECT_EQ(daysOfMonth(u"N31"), 0); // "FE" comes after it
+    EXPECT_EQ(daysOfMonth(u"C31"), 0); // nothing comes after it
 }
 
 TEST(ElapsedPart, IsTheDayByTheDaysOfTheMonth)

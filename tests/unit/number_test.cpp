@@ -61,7 +61,7 @@ TEST(LeadingNumber, OneSignMayStandInFront)
     EXPECT_EQ(leadingNumber(u"-X"), 0);
 }
 
-TEST(LeadingNumber, ASignBehindDoesNotMakeItNegative)
+TEST(LeadingNumber, ASignAfterItDoesNotMakeItNegative)
 {
     EXPECT_EQ(leadingNumber(u"1234-"), 1234);
     EXPECT_EQ(leadingNumber(u"12.50-"), 12.5);

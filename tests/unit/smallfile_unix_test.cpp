@@ -1,6 +1,6 @@
 // A small file's rights, and what may be in its place on a Unix system.
 #include "ranked/exchange.h"
-#include "ranked_files_fixture.h"
+#include "rankedfixture.h"
 
 #include <csignal>
 #include <cstdlib>
@@ -15,7 +15,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class SmallFile : public RankedFiles {};
+class SmallFile : public testing::Test {
+protected:
+    Session session; // for its directory
+
+    const Text& capture = everyAnalysis()[0].capture;
+};
 
 constexpr mode_t allRights = 0777;
 
@@ -29,7 +34,7 @@ mode_t rightsOf(const char* file)
 TEST_F(SmallFile, OnlyTheOwnerReadsAFile)
 {
     const mode_t before = umask(0);
-    RecordWriter().number(1).endRecord().writeTo(listFile);
+    writeRecords(listFile, {{1.0}});
     umask(before);
     EXPECT_EQ(rightsOf(listFile), 0600u);
 }
@@ -38,7 +43,7 @@ TEST_F(SmallFile, AFileThatWasOpenToOthersIsClosedToThem)
 {
     std::ofstream(listFile) << "old";
     ASSERT_EQ(chmod(listFile, 0644), 0);
-    RecordWriter().number(1).endRecord().writeTo(listFile);
+    writeRecords(listFile, {{1.0}});
     EXPECT_EQ(rightsOf(listFile), 0600u);
 }
 
@@ -57,7 +62,7 @@ TEST_F(SmallFile, AFileThatCannotBeWrittenIsARunTimeError)
     setrlimit(RLIMIT_FSIZE, &few);
     bool failed = false;
     try {
-        RecordWriter().text(Text(1000, u'A')).endRecord().writeTo(listFile);
+        writeRecords(listFile, {{Text(1000, u'A')}});
     } catch (const Failure&) {
         failed = true;
     }
@@ -68,21 +73,16 @@ TEST_F(SmallFile, AFileThatCannotBeWrittenIsARunTimeError)
 
 TEST_F(SmallFile, APipeIsNotWaitedFor)
 {
-    session.start(threeEntries().text());
-    session.events();
+    RankedSession writing(m2m, capture);
     mkfifo("plotvue.txt", S_IRUSR | S_IWUSR);
-    session.clickRow(m2m, gainsGrid, 1); // nobody reads it
-    expectError("plotvue.txt", "cannot be created");
+    writing.click(1); // nobody reads it
+    EXPECT_TRUE(failed(writing, "The file plotvue.txt in the working directory cannot be created ("));
 
-    fs::remove("plotvue.txt");
-    Session other;
-    other.start(threeEntries().text());
-    other.clickRow(m2m, gainsGrid, 1);
-    other.events();
+    RankedSession reading(m2m, capture, 1);
     fs::remove("plotvue.txt");
     mkfifo("plotvue.txt", S_IRUSR | S_IWUSR);
-    other.press(m2mA, "cmdBack"); // nobody writes it
-    EXPECT_EQ(other.events(), Events{"error The file plotvue.txt in the working directory ends too early."});
+    reading.back(); // nobody writes it
+    EXPECT_TRUE(failed(reading, "The file plotvue.txt in the working directory ends too early."));
 }
 
 TEST_F(SmallFile, ADeviceThatALinkLeadsToKeepsItsRights)
@@ -93,20 +93,20 @@ TEST_F(SmallFile, ADeviceThatALinkLeadsToKeepsItsRights)
     const std::string name = ptsname(terminal);
     constexpr fs::perms rights = fs::perms::owner_read | fs::perms::owner_write | fs::perms::others_read;
     fs::permissions(name, rights);
-    session.start(threeEntries().text());
+    RankedSession list(m2m, capture);
     fs::create_symlink(name, "plotvue.txt");
-    session.clickRow(m2m, gainsGrid, 1);
+    list.click(1);
     EXPECT_EQ(fs::status(name).permissions(), rights);
     close(terminal);
 }
 
 TEST_F(SmallFile, ADeviceThatNeverEndsIsNotRead)
 {
-    openFirst();
+    RankedSession list(m2m, capture, 1);
     fs::remove("plotvue.txt");
     fs::create_symlink("/dev/zero", "plotvue.txt");
-    session.press(m2mA, "cmdBack");
-    expectError("plotvue.txt", "cannot be read");
+    list.back();
+    EXPECT_TRUE(failed(list, "The file plotvue.txt in the working directory cannot be read ("));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // A small file's rights, and what may be in its place on Windows.
 #include "ranked/exchange.h"
 #include "ranked/smallfile.h"
-#include "ranked_files_fixture.h"
+#include "rankedfixture.h"
 #include "support/owneronly.h"
 
 #include <fstream>
@@ -12,8 +12,10 @@
 namespace plotvue::test {
 namespace {
 
-class SmallFile : public RankedFiles {
+class SmallFile : public testing::Test {
 protected:
+    Session session; // for its directory
+
     static std::string failureOf(const std::function<void()>& action)
     {
         try {
@@ -35,7 +37,7 @@ protected:
 
 TEST_F(SmallFile, OnlyTheOwnerReadsAFile)
 {
-    RecordWriter().number(1).endRecord().writeTo(listFile);
+    writeRecords(listFile, {{1.0}});
     EXPECT_TRUE(ownerOnly(listFile));
 }
 
@@ -44,7 +46,7 @@ TEST_F(SmallFile, AFileThatWasOpenToOthersIsClosedToThem)
     std::ofstream(listFile) << "old";
     openToAll(listFile);
     ASSERT_FALSE(ownerOnly(listFile));
-    RecordWriter().number(1).endRecord().writeTo(listFile);
+    writeRecords(listFile, {{1.0}});
     EXPECT_TRUE(ownerOnly(listFile));
 }
 
@@ -60,7 +62,7 @@ TEST_F(SmallFile, AFileThatCannotBeWrittenIsARunTimeError)
     HANDLE other = CreateFileA(listFile, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0,
                                nullptr); // for nobody to write
     ASSERT_NE(other, INVALID_HANDLE_VALUE);
-    const std::string failure = failureOf([] { RecordWriter().number(1).endRecord().writeTo(listFile); });
+    const std::string failure = failureOf([] { writeRecords(listFile, {{1.0}}); });
     CloseHandle(other);
     EXPECT_THAT(failure, testing::StartsWith("The file plotvue.txt in the working directory cannot be "));
     EXPECT_THAT(failure, testing::EndsWith(")."));
@@ -68,11 +70,11 @@ TEST_F(SmallFile, AFileThatCannotBeWrittenIsARunTimeError)
 
 TEST_F(SmallFile, AFileThatAnotherProgramHasForItselfIsARunTimeError)
 {
-    openFirst();
+    RankedSession list(m2m, everyAnalysis()[0].capture, 1);
     HANDLE other = CreateFileA(listFile, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    session.choose(m2mA, "optSales", 1);
+    list.chooseType(1);
     CloseHandle(other);
-    expectError("plotvue.txt", "cannot be opened (");
+    EXPECT_TRUE(failed(list, "The file plotvue.txt in the working directory cannot be opened ("));
 }
 
 TEST_F(SmallFile, APipeIsNotWaitedFor)

@@ -47,7 +47,7 @@ TEST(Mid, CutsFromAPositionCountedFromOne)
     EXPECT_EQ(mid(u"OCT99", 4), u"99");
 }
 
-TEST(Mid, BehindTheEndNothingIsLeft)
+TEST(Mid, AfterTheEndNothingIsLeft)
 {
     EXPECT_EQ(mid(u"OCT99", 4, 9), u"99");
     EXPECT_EQ(mid(u"OCT99", 6, 2), u"");
@@ -174,7 +174,7 @@ TEST(Utf8, TheFirstAndTheLastOfEachLength)
     }
 }
 
-TEST(Utf8, NothingBehindTheTextIsLookedAt)
+TEST(Utf8, NothingAfterTheTextIsLookedAt)
 {
     const Text pair = u"\U0001F6E2";
     EXPECT_EQ(toUtf8(TextSpan(pair).substr(0, 1)), "\xED\xA0\xBD");

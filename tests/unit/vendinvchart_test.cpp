@@ -1,35 +1,21 @@
-#include "unit/vendinv_fixture.h"
+// The charts of a pair of vendor and category: thirteen months, and the age of the inventory.
+#include "rankedfixture.h"
 
-namespace plotvue {
+namespace plotvue::test {
 namespace {
 
-using namespace test;
-
-constexpr Name drillDown = "frmVendInvA";
-
-const Texts oldestFirst{u"OCT98", u"NOV98", u"DEC98", u"JAN99", u"FEB99", u"MAR99", u"APR99",
-                        u"MAY99", u"JUN99", u"JUL99", u"AUG99", u"SEP99", u"OCT99"};
-
-struct Opened : Session {
-    explicit Opened(TextSpan capture, int row = 1)
-    {
-        start(capture);
-        events();
-        clickRow("frmVendInv", "MSFlexGrid1", row);
-    }
-    Chart history() { return chart(drillDown, "ChartFX1"); }
-    Chart ages() { return chart(drillDown, "ChartFX2"); }
-};
+RankedSession opened(TextSpan capture, int row = 1)
+{
+    return {vendors, capture, row};
+}
 
 TEST(VendorChart, ShowsTheSalesOfTheClickedPair)
 {
-    Opened session(twoPairs());
-    EXPECT_EQ(session.events(), (Events{"load frmVendInvA", "show frmVendInvA"}));
-    EXPECT_TRUE(session.visible("frmVendInv"));
-    EXPECT_EQ(session.caption(drillDown), u"PlotVue");
-    const Chart chart = session.history();
-    const std::map<int, Text> titles{
-        {1, u"Sales"}, {2, u"Vendor: " + padded30(u"CASCADE")}, {3, u"Category: " + padded30(u"MOTOR OIL")}};
+    RankedSession session = opened(twoPairs());
+    const Chart chart = session.drawn();
+    const std::map<int, Text> titles{{1, u"Sales"},
+                                     {2, u"Vendor: " + atLeft(u"CASCADE", 30)},
+                                     {3, u"Category: " + atLeft(u"MOTOR OIL", 30)}};
     EXPECT_EQ(chart.titles, titles);
     EXPECT_EQ(chart.labels, oldestFirst);
     const std::vector<Numbers> series{{40, 16, 1100, 1000, 900, 800, 700, -600, 0, 400, 300, 200, 100}};
@@ -39,36 +25,13 @@ TEST(VendorChart, ShowsTheSalesOfTheClickedPair)
 
 TEST(VendorChart, ShowsTheAgeOfTheInventoryBesideIt)
 {
-    Opened session(twoPairs());
-    const Chart chart = session.ages();
+    RankedSession session = opened(twoPairs());
+    const Chart chart = session.drawn("ChartFX2");
     const std::map<int, Text> titles{{2, u"FIFO Age"}, {3, u"FIFO: $97,788"}};
     EXPECT_EQ(chart.titles, titles);
     EXPECT_EQ(chart.series, (std::vector<Numbers>{{60702, 8434, 9218, 3467, 15967}}));
     EXPECT_EQ(chart.labels, (Texts{u"<30 Days", u"31 - 60 ", u"61 - 90 ", u"91 - 120", u"Over 120"}));
     EXPECT_FALSE(chart.decimals);
-}
-
-TEST(VendorChart, HasItsControls)
-{
-    Opened session(twoPairs());
-    EXPECT_EQ(session.controlNames(drillDown),
-              (std::vector<std::string>{"ChartFX1", "ChartFX2", "cmdBack", "cmdExit", "cmdNext", "cmdPrint",
-                                        "optSales"}));
-    EXPECT_EQ(session.text(drillDown, "cmdNext"), u"Down");
-    EXPECT_EQ(session.text(drillDown, "cmdExit"), u"Close");
-}
-
-TEST(VendorChart, OffersItsDataTypesInTheOrderOfTheirIndex)
-{
-    Opened session(twoPairs());
-    const OptionGroup options = session.options(drillDown, "optSales");
-    EXPECT_EQ(options.chosen, std::vector<int>{0});
-    Texts captions;
-    for (const OptionGroup::Option& option : options.options) {
-        EXPECT_EQ(option.index, static_cast<int>(captions.size()));
-        captions.push_back(option.caption);
-    }
-    EXPECT_EQ(captions, (Texts{u"Sales", u"Profit", u"Volume", u"G/P %", u"Unit G/P"}));
 }
 
 struct DataType {
@@ -81,19 +44,19 @@ class VendorDataType : public testing::TestWithParam<DataType> {};
 
 TEST_P(VendorDataType, IsDrawnWhenItIsChosen)
 {
-    Opened session(twoPairs());
-    session.choose(drillDown, "optSales", 4);
-    session.choose(drillDown, "optSales", GetParam().index);
-    const Chart chart = session.history();
+    RankedSession session = opened(twoPairs());
+    session.chooseType(4);
+    session.chooseType(GetParam().index);
+    const Chart chart = session.drawn();
     EXPECT_EQ(chart.titles.at(1), GetParam().title);
-    EXPECT_EQ(chart.titles.at(2), u"Vendor: " + padded30(u"CASCADE"));
+    EXPECT_EQ(chart.titles.at(2), u"Vendor: " + atLeft(u"CASCADE", 30));
     ASSERT_EQ(chart.series.size(), 1u);
     ASSERT_EQ(chart.series.at(0).size(), 13u);
     for (std::size_t point = 0; point < 13; ++point)
         EXPECT_DOUBLE_EQ(chart.series.at(0).at(point), GetParam().series.at(point)) << point;
     EXPECT_EQ(chart.labels, oldestFirst);
     EXPECT_FALSE(chart.decimals);
-    EXPECT_EQ(session.ages().titles.at(3), u"FIFO: $97,788");
+    EXPECT_EQ(session.drawn("ChartFX2").titles.at(3), u"FIFO: $97,788");
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -127,10 +90,10 @@ TEST(VendorChart, EveryFieldHasItsColumns)
         line(u'S', u"25"),
         line(u'P', u"36"),
     });
-    Opened session(capture);
-    EXPECT_EQ(session.history().titles.at(2), u"Vendor: VENDOR OF THIRTY CHARACTERS..9");
-    EXPECT_EQ(session.history().titles.at(3), u"Category: CATEGORY OF THIRTY CHARACTERS.");
-    EXPECT_EQ(session.history().labels,
+    RankedSession session = opened(capture);
+    EXPECT_EQ(session.drawn().titles.at(2), u"Vendor: VENDOR OF THIRTY CHARACTERS..9");
+    EXPECT_EQ(session.drawn().titles.at(3), u"Category: CATEGORY OF THIRTY CHARACTERS.");
+    EXPECT_EQ(session.drawn().labels,
               (Texts{u"M0013", u"L0012", u"K0011", u"J0010", u"I0009", u"H0008", u"G0007", u"F0006", u"E0005",
                      u"D0004", u"C0003", u"B0002", u"A0001"}));
     const auto figures = [](double units) {
@@ -139,14 +102,14 @@ TEST(VendorChart, EveryFieldHasItsColumns)
             numbers.push_back(month * 1000000 + 100000 + units);
         return std::vector<Numbers>{numbers};
     };
-    EXPECT_EQ(session.history().series, figures(25));
-    session.choose(drillDown, "optSales", 1);
-    EXPECT_EQ(session.history().series, figures(36));
-    session.choose(drillDown, "optSales", 2);
-    EXPECT_EQ(session.history().series, figures(17));
-    EXPECT_EQ(session.ages().series,
+    EXPECT_EQ(session.drawn().series, figures(25));
+    session.chooseType(1);
+    EXPECT_EQ(session.drawn().series, figures(36));
+    session.chooseType(2);
+    EXPECT_EQ(session.drawn().series, figures(17));
+    EXPECT_EQ(session.drawn("ChartFX2").series,
               (std::vector<Numbers>{{10000002, 20000004, 30000006, 40000008, 50000001}}));
-    EXPECT_EQ(session.ages().titles.at(3), u"FIFO: $150,000,021");
+    EXPECT_EQ(session.drawn("ChartFX2").titles.at(3), u"FIFO: $150,000,021");
 }
 
 struct Sum {
@@ -158,8 +121,8 @@ class VendorAges : public testing::TestWithParam<Sum> {};
 
 TEST_P(VendorAges, AreTitledWithTheirSum)
 {
-    Opened session(hostScreen({vendorTitle, vendorLine(u"1", u"A", u"X"), GetParam().line}));
-    EXPECT_EQ(session.ages().titles.at(3), GetParam().title);
+    RankedSession session = opened(hostScreen({vendorTitle, vendorLine(u"1", u"A", u"X"), GetParam().line}));
+    EXPECT_EQ(session.drawn("ChartFX2").titles.at(3), GetParam().title);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -177,39 +140,40 @@ INSTANTIATE_TEST_SUITE_P(
                     Sum{u"F:                        99999999 9999999", u"FIFO: $109,999,998"},
                     Sum{u"F:                         -123456", u"FIFO: -$123,456"}));
 
-TEST(VendorChart, APairCutBehindItsRankLineShowsZeros)
+TEST(VendorChart, APairCutAfterItsRankLineShowsZeros)
 {
-    Opened session(hostScreen({vendorTitle, thirteenMonths, vendorLine(u"1", u"A", u"X")}));
+    RankedSession session =
+        opened(hostScreen({vendorTitle, u"Mlabel " + Text(monthLabels), vendorLine(u"1", u"A", u"X")}));
     for (int type = 0; type <= 4; ++type) {
-        session.choose(drillDown, "optSales", type);
-        EXPECT_EQ(session.history().series, std::vector<Numbers>{Numbers(13)});
+        session.chooseType(type);
+        EXPECT_EQ(session.drawn().series, std::vector<Numbers>{Numbers(13)});
     }
-    EXPECT_EQ(session.history().labels, oldestFirst);
-    EXPECT_EQ(session.ages().series, std::vector<Numbers>{Numbers(5)});
+    EXPECT_EQ(session.drawn().labels, oldestFirst);
+    EXPECT_EQ(session.drawn("ChartFX2").series, std::vector<Numbers>{Numbers(5)});
     EXPECT_FALSE(session.platform.over());
 }
 
 TEST(VendorChart, WithoutMonthLabelsThePointsHaveNone)
 {
-    Opened session(hostScreen({vendorTitle, vendorLine(u"1", u"A", u"X")}));
-    EXPECT_EQ(session.history().labels, Texts(13));
+    RankedSession session = opened(hostScreen({vendorTitle, vendorLine(u"1", u"A", u"X")}));
+    EXPECT_EQ(session.drawn().labels, Texts(13));
 }
 
 TEST(VendorChart, TheSampleIsReadAsItStands)
 {
-    Opened session(sample("vendors"), 2);
-    EXPECT_EQ(session.history().titles.at(2), u"Vendor: " + padded30(u"TIDEWATER PETROLEUM"));
-    EXPECT_EQ(session.history().titles.at(3), u"Category: " + padded30(u"FILTERS"));
-    EXPECT_EQ(session.history().series, (std::vector<Numbers>{{7014, 7424, 7465, 7405, 7354, 8564, 8388, 9018,
-                                                               8735, 8015, 10007, 9312, 8868}}));
-    EXPECT_EQ(session.history().labels, oldestFirst);
-    EXPECT_EQ(session.ages().series, (std::vector<Numbers>{{30796, 23746, 12671, 12365, 16861}}));
-    EXPECT_EQ(session.ages().titles.at(3), u"FIFO: $96,439");
-    session.choose(drillDown, "optSales", 2);
-    EXPECT_EQ(session.history().series.at(0).at(12), 1970);
-    session.choose(drillDown, "optSales", 3);
-    EXPECT_DOUBLE_EQ(session.history().series.at(0).at(12), 2284.0 / 8868 * 100);
+    RankedSession session = opened(sample("vendors"), 2);
+    EXPECT_EQ(session.drawn().titles.at(2), u"Vendor: " + atLeft(u"TIDEWATER PETROLEUM", 30));
+    EXPECT_EQ(session.drawn().titles.at(3), u"Category: " + atLeft(u"FILTERS", 30));
+    EXPECT_EQ(session.drawn().series, (std::vector<Numbers>{{7014, 7424, 7465, 7405, 7354, 8564, 8388, 9018,
+                                                             8735, 8015, 10007, 9312, 8868}}));
+    EXPECT_EQ(session.drawn().labels, oldestFirst);
+    EXPECT_EQ(session.drawn("ChartFX2").series, (std::vector<Numbers>{{30796, 23746, 12671, 12365, 16861}}));
+    EXPECT_EQ(session.drawn("ChartFX2").titles.at(3), u"FIFO: $96,439");
+    session.chooseType(2);
+    EXPECT_EQ(session.newest(), 1970);
+    session.chooseType(3);
+    EXPECT_DOUBLE_EQ(session.newest(), 2284.0 / 8868 * 100);
 }
 
 } // namespace
-} // namespace plotvue
+} // namespace plotvue::test

@@ -1,33 +1,21 @@
-#include "unit/pastdue_fixture.h"
+// The chart of a past-due customer: six months, a series for each age of what is owed.
+#include "rankedfixture.h"
 
-namespace plotvue {
+namespace plotvue::test {
 namespace {
-
-using namespace test;
 
 const Texts sixMonths{u"MAY99", u"JUN99", u"JUL99", u"AUG99", u"SEP99", u"OCT99"};
 
-// One customer with this line of captions and six ageing lines, opened.
-struct Opened : Session {
-    explicit Opened(const Lines& lines)
-    {
-        start(hostScreen(lines));
-        clickRow("frmPastdue", "MSFlexGrid1", 1);
-    }
-    Chart drawn() { return chart("frmPastdueA"); }
-};
+// A screen of these lines; its first customer is opened.
+RankedSession opened(const Lines& lines)
+{
+    return {pastdue, hostScreen(lines), 1};
+}
 
 TEST(PastdueChart, ShowsTheClickedCustomer)
 {
-    Session session;
-    session.start(twoCustomers());
-    session.events();
-    session.clickRow("frmPastdue", "MSFlexGrid1", 1);
-    EXPECT_EQ(session.events(), (Events{"load frmPastdueA", "show frmPastdueA"}));
-    EXPECT_TRUE(session.visible("frmPastdue"));
-    EXPECT_EQ(session.caption("frmPastdueA"), u"PlotVue");
-
-    const Chart chart = session.chart("frmPastdueA");
+    RankedSession session(pastdue, twoCustomers(), 1);
+    const Chart chart = session.drawn();
     const std::map<int, Text> titles{{2, u"10442 - NORTHSIDE TRUCKING             HARBOR CITY     OR"},
                                      {3, u"Accounts Receivable Analysis"}};
     EXPECT_EQ(chart.titles, titles);
@@ -47,10 +35,8 @@ TEST(PastdueChart, ShowsTheClickedCustomer)
 
 TEST(PastdueChart, ShowsTheSecondCustomerToo)
 {
-    Session session;
-    session.start(twoCustomers());
-    session.clickRow("frmPastdue", "MSFlexGrid1", 2);
-    const Chart chart = session.chart("frmPastdueA");
+    RankedSession session(pastdue, twoCustomers(), 2);
+    const Chart chart = session.drawn();
     EXPECT_EQ(chart.titles.at(2), u"   77 - ACME                           ELK             WA");
     const std::vector<Numbers> series{{210, 170, 130, 90, 50, 10},
                                       {220, 180, 140, 100, 60, 20},
@@ -58,18 +44,6 @@ TEST(PastdueChart, ShowsTheSecondCustomerToo)
                                       {240, 200, 160, 120, 80, 40}};
     EXPECT_EQ(chart.series, series);
     EXPECT_EQ(chart.axisMax, 900); // May: 210 + 220 + 230 + 240
-}
-
-TEST(PastdueChart, HasItsButtonsAndNoDataTypes)
-{
-    Session session;
-    session.start(twoCustomers());
-    session.clickRow("frmPastdue", "MSFlexGrid1", 1);
-    EXPECT_EQ(session.controlNames("frmPastdueA"),
-              (std::vector<std::string>{"ChartFX1", "cmdBack", "cmdExit", "cmdNext", "cmdPrint"}));
-    EXPECT_EQ(session.text("frmPastdueA", "cmdBack"), u"");
-    EXPECT_EQ(session.text("frmPastdueA", "cmdNext"), u"Down");
-    EXPECT_EQ(session.text("frmPastdueA", "cmdExit"), u"Close");
 }
 
 // Eight amounts beside each other; a column to the left or right gives other figures.
@@ -81,7 +55,7 @@ TEST(PastdueChart, EveryFieldHasItsColumns)
             text += Text(1, column) + u"00000" + month + tail;
         return text + u"999";
     };
-    Opened session({
+    RankedSession session = opened({
         pastdueTitle,
         u"Mlabel ACT99BCT99CCT99DCT99ECT99FCT99GCT99",
         u"RANK:  1987612345678901234567890123456789012345678901234567890123456789012345678",
@@ -115,8 +89,8 @@ TEST(PastdueChart, TheAxisReachesTheAmountOfTheRankLine)
 {
     Text rank = u"RANK:  1     10442";
     rank.resize(68, u' ');
-    Opened session({pastdueTitle, rank + u"9876543219", fourBuckets, u"OCT99", u"SEP99", u"AUG99", u"JUL99",
-                    u"JUN99", u"MAY99"});
+    RankedSession session = opened({pastdueTitle, rank + u"9876543219", fourBuckets, u"OCT99", u"SEP99",
+                                    u"AUG99", u"JUL99", u"JUN99", u"MAY99"});
     EXPECT_EQ(session.drawn().axisMax, 87654321); // columns 70 to 77 between the 9s
 }
 
@@ -132,8 +106,8 @@ class PastdueBuckets : public testing::TestWithParam<Captions> {};
 TEST_P(PastdueBuckets, AreAsManyAsTheCaptionLineIsLongEnoughFor)
 {
     const Text line = ageing(u"OCT99", {u"1", u"2", u"4", u"8", u"16", u"32", u"64", u"128"});
-    Opened session({pastdueTitle, pastdueMonths, u"RANK:  1     10442", Text(GetParam().length, u'-'), line,
-                    line, line, line, line, line});
+    RankedSession session = opened({pastdueTitle, pastdueMonths, u"RANK:  1     10442",
+                                    Text(GetParam().length, u'-'), line, line, line, line, line, line});
     const Chart chart = session.drawn();
     ASSERT_EQ(chart.series.size(), GetParam().buckets);
     double amount = 1;
@@ -156,21 +130,22 @@ INSTANTIATE_TEST_SUITE_P(Lengths, PastdueBuckets,
 TEST(PastdueChart, TheAxisReachesAtLeastZero)
 {
     const Text line = ageing(u"OCT99", {u"-1", u"-2", u"-3", u"-4"});
-    Opened session({pastdueTitle, pastdueMonths, rankLine(u"1", u"10442", u"", u"", u"", u"-5.00"),
-                    fourBuckets, line, line, line, line, line, line});
+    RankedSession session =
+        opened({pastdueTitle, pastdueMonths, rankLine(u"1", u"10442", u"", u"", u"", u"-5.00"), fourBuckets,
+                line, line, line, line, line, line});
     EXPECT_EQ(session.drawn().axisMax, 0);
     EXPECT_EQ(session.drawn().series.at(3), Numbers(6, -4));
 }
 
 TEST(PastdueChart, ARankLineThatEndsEarlyKeepsItsLineEndInTheTitle)
 {
-    Opened session({pastdueTitle, pastdueMonths, u"RANK:  1     10442 ACME", fourBuckets});
+    RankedSession session = opened({pastdueTitle, pastdueMonths, u"RANK:  1     10442 ACME", fourBuckets});
     EXPECT_EQ(session.drawn().titles.at(2), u"10442 - ACME\r  ");
 }
 
-TEST(PastdueChart, ACaptureCutBehindTheRankLineShowsNothingOwed)
+TEST(PastdueChart, ACaptureCutAfterTheRankLineShowsNothingOwed)
 {
-    Opened session({pastdueTitle, pastdueMonths, u"RANK:  1     10442"});
+    RankedSession session = opened({pastdueTitle, pastdueMonths, u"RANK:  1     10442"});
     EXPECT_EQ(session.drawn().series, (std::vector<Numbers>{Numbers(6, 0)}));
     EXPECT_EQ(session.drawn().labels, sixMonths);
     EXPECT_EQ(session.drawn().legends.at(0), u"");
@@ -179,8 +154,9 @@ TEST(PastdueChart, ACaptureCutBehindTheRankLineShowsNothingOwed)
 
 TEST(PastdueChart, ACaptureCutAmongTheMonthsShowsThoseItHas)
 {
-    Opened session({pastdueTitle, pastdueMonths, u"RANK:  1     10442", fourBuckets,
-                    ageing(u"OCT99", {u"4", u"3", u"2", u"1"}), ageing(u"SEP99", {u"8", u"7", u"6", u"5"})});
+    RankedSession session =
+        opened({pastdueTitle, pastdueMonths, u"RANK:  1     10442", fourBuckets,
+                ageing(u"OCT99", {u"4", u"3", u"2", u"1"}), ageing(u"SEP99", {u"8", u"7", u"6", u"5"})});
     const std::vector<Numbers> series{
         {0, 0, 0, 0, 8, 4}, {0, 0, 0, 0, 7, 3}, {0, 0, 0, 0, 6, 2}, {0, 0, 0, 0, 5, 1}};
     EXPECT_EQ(session.drawn().series, series);
@@ -188,16 +164,14 @@ TEST(PastdueChart, ACaptureCutAmongTheMonthsShowsThoseItHas)
 
 TEST(PastdueChart, WithoutMonthLabelsTheFirstIsCrosses)
 {
-    Opened session({pastdueTitle, u"RANK:  1     10442"});
+    RankedSession session = opened({pastdueTitle, u"RANK:  1     10442"});
     EXPECT_EQ(session.drawn().labels, (Texts{u"", u"", u"", u"", u"", u"xxxxx"}));
 }
 
 TEST(PastdueChart, TheSampleIsReadAsItStands)
 {
-    Session session;
-    session.start(sample("pastdue"));
-    session.clickRow("frmPastdue", "MSFlexGrid1", 3);
-    const Chart chart = session.chart("frmPastdueA");
+    RankedSession session(pastdue, sample("pastdue"), 3);
+    const Chart chart = session.drawn();
     EXPECT_EQ(chart.titles.at(2), u"11018 - PRAIRIE WIND ELEVATOR          COLD CREEK      ID");
     const std::vector<Numbers> series{
         {5422, 7397, 8547, 6728, 8278, 5840}, {2223, 6561, 3156, 5617, 1745, 4898},
@@ -209,4 +183,4 @@ TEST(PastdueChart, TheSampleIsReadAsItStands)
 }
 
 } // namespace
-} // namespace plotvue
+} // namespace plotvue::test
