@@ -3,13 +3,14 @@
 import os
 import shutil
 import subprocess
+import sys
 import tempfile
 import unittest
 from pathlib import Path
 
-from replay import Replay
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "replay"))
+from replay import SAMPLES, Replay  # noqa: E402
 
-SAMPLES = Path(__file__).resolve().parents[2] / "samples"
 LIST, CHARTS = "frmM2Mpft", "frmM2MpftA"
 SCRATCH, ENTRIES, CHOSEN = "pvuscrn.txt", "plotvue.txt", "plotvue1.txt"
 CHOOSING = [f"row {LIST} MSFlexGrid1 1", f"click {CHARTS} cmdBack", f"click {CHARTS} cmdNext"]
