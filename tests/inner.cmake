@@ -21,6 +21,7 @@ target_link_libraries(unittests PRIVATE testsupport GTest::gtest_main)
 target_precompile_headers(unittests PRIVATE <gtest/gtest.h> support/session.h support/capturebuilder.h)
 # A thousand tests of a millisecond each: one process.
 add_test(NAME unit COMMAND unittests --gtest_brief=1)
+set_tests_properties(unit PROPERTIES LABELS quick)
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets PrintSupport)
 set(CMAKE_AUTOMOC ON)
