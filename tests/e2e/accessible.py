@@ -4,7 +4,7 @@ import os
 from contextlib import contextmanager
 
 import gi
-from desktop import Desktop, soon
+from desktop import Desktop, DesktopTest, soon
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
@@ -45,6 +45,15 @@ class SpokenDesktop(Desktop):
         application = soon("the program is known on the accessibility bus", known)
         application.handle.set_cache_mask(Atspi.Cache.NONE)  # ask anew each time
         return application
+
+
+class SpokenTest(DesktopTest):
+    desktop_class = SpokenDesktop
+    shared = True
+
+    def application(self):
+        """The program as assistive technology meets it."""
+        return self.desktop.application(self.process)
 
 
 @contextmanager

@@ -5,11 +5,23 @@ import re
 import shutil
 import signal
 import subprocess
+import sys
 import tempfile
 import time
+import unittest
 from pathlib import Path
 
 SAMPLES = Path(__file__).resolve().parents[2] / "samples"
+
+# The titles of windows.
+START, CHART, LIST, NEED_DATA = "Plot Vue!", "Plotvue!", "PlotVue", "Need Data"
+
+
+def sample(name):
+    return (SAMPLES / f"{name}.txt").read_bytes()
+
+
+PRODUCT = sample("product")
 
 
 class NotInTime(AssertionError):
@@ -152,6 +164,68 @@ def ended(process, seconds=20):
         return process.wait(seconds)
     except subprocess.TimeoutExpired:
         raise NotInTime("the program did not end") from None
+
+
+class DesktopTest(unittest.TestCase):
+    """Tests of the program on a desktop: a new one for each test, or one for all tests of a class that is `shared`."""
+
+    desktop_class = Desktop
+    shared = False
+    program = None
+
+    @classmethod
+    def setUpClass(cls):
+        if cls.shared:
+            cls.desktop = cls.enterClassContext(cls.desktop_class(cls.program))
+
+    def setUp(self):
+        if not self.shared:
+            self.desktop = self.enterContext(self.desktop_class(self.program))
+
+    def start(self, title=None):
+        """Starts the program, which ends with the test, and waits for its window of that title, if one is given."""
+        self.process = self.desktop.start()
+        self.addCleanup(self.process.wait)
+        self.addCleanup(self.process.kill)
+        if title:
+            self.desktop.window(title)
+        return self.process
+
+    def still_runs(self):
+        self.assertIsNone(self.process.poll())
+
+    def ends(self, status=0):
+        self.assertEqual(ended(self.process), status)
+
+    def errors(self):
+        """What the program has printed on standard error until its end."""
+        return self.process.stderr.read().decode()
+
+    def charts(self, capture):
+        """Copies the capture, a monthly screen, while a window is up; Refresh charts it."""
+        self.desktop.copy(capture)
+        self.desktop.key("F5")
+        self.desktop.window(CHART)
+
+    def needs_data(self):
+        """The program says that there is no data, and shows the start-up window then."""
+        self.desktop.window(NEED_DATA)
+        self.desktop.key("Return")
+        self.desktop.gone(NEED_DATA)
+        self.desktop.window(START)
+
+    def leave(self):
+        """Escape leads from a chart or list to the start-up window, and ends the program there."""
+        self.desktop.key("Escape")
+        self.desktop.window(START)
+        self.desktop.key("Escape")
+        self.ends()
+
+
+def main():
+    """Runs the tests of the file that is run; its last argument is the program."""
+    DesktopTest.program = sys.argv.pop()
+    unittest.main(verbosity=2)
 
 
 signal.signal(signal.SIGTERM, lambda *_: exit(1))  # a test that takes too long still cleans up

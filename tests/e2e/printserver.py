@@ -5,7 +5,7 @@ import subprocess
 import tempfile
 from pathlib import Path
 
-from desktop import soon
+from desktop import CHART, PRODUCT, DesktopTest, soon
 
 BACKEND = """#!/bin/sh
 # backend JOB USER TITLE COPIES OPTIONS [FILE]
@@ -101,6 +101,14 @@ class PrintServer:
     def copies(self, job):
         return int((self.kept / f"{job}.copies").read_text())
 
+    def check_pages(self, test, jobs):
+        """Each job is one copy of one page with something on it."""
+        for job in jobs:
+            test.assertEqual(self.copies(job), 1)
+            pages = self.page_pixels(job)
+            test.assertEqual(len(pages), 1)
+            test.assertGreater(pages[0], 2000)
+
     def page_pixels(self, job):
         """For every page of the job: how many pixels are not white."""
         pages = []
@@ -110,3 +118,31 @@ class PrintServer:
             pages.append(sum(byte < 250 for byte in page.read_bytes()[15:]))
             page.unlink()
         return pages
+
+
+class PrintTest(DesktopTest):
+    """Tests with a chart on the screen and two printers, of which the first is the default."""
+
+    def setUp(self):
+        super().setUp()
+        self.server = PrintServer(self.desktop, ["first", "second"])
+        self.addCleanup(self.server.close)
+        self.desktop.copy(PRODUCT)
+        self.start(CHART)
+
+    def open_dialog(self):
+        self.desktop.key("ctrl+p")
+        return self.desktop.window("Print")
+
+    def cancel(self):
+        self.desktop.key("Escape")
+        self.desktop.gone("Print")
+
+    def print_copies(self, *digits):
+        """Prints so many copies on the second printer, by the keys of the dialog that is open."""
+        dialog = self.desktop.window("Print")
+        height = self.desktop.height(dialog)
+        self.desktop.key("alt+o")  # more options
+        soon("the dialog shows its options", lambda: self.desktop.height(dialog) > height)
+        self.desktop.key("alt+n", "Down")  # the next printer
+        self.desktop.key(*["Tab"] * 6, *digits, "alt+p")  # the number of copies has no key of its own

@@ -1,12 +1,10 @@
 """What real terminals copy off a host's screen is charted as the screen itself, blanks at line ends or none."""
 
-import sys
-import unittest
 from contextlib import suppress
 
 import terminals
-from accessible import SpokenDesktop
-from desktop import SAMPLES, NotInTime, soon
+from accessible import SpokenTest
+from desktop import SAMPLES, NotInTime, main, soon
 
 LINES, COLUMNS = 24, 80
 SCREENS = ("product", "glhistory", "active", "glexpense", "pastdue")
@@ -54,12 +52,10 @@ def told(desktop):
         process.communicate()
 
 
-class Terminals(unittest.TestCase):
+class Terminals(SpokenTest):
     @classmethod
     def setUpClass(cls):
-        cls.desktop = SpokenDesktop(program)
-        cls.desktop.__enter__()
-        cls.addClassCleanup(cls.desktop.__exit__)
+        super().setUpClass()
         cls.intact = {}
         for sample in SCREENS:
             cls.desktop.copy("".join(line + "\r\n" for line in page(sample)).encode())
@@ -107,5 +103,4 @@ class Terminals(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    program = sys.argv.pop()
-    unittest.main(verbosity=2)
+    main()
