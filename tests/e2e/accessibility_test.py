@@ -1,4 +1,4 @@
-"""Every window, walked through as assistive technology does: nothing without a name, everything in its role."""
+"""Every window, walked through as assistive technology does: everything has a name and a role."""
 
 import re
 
@@ -15,7 +15,7 @@ RANKED = {
 }
 MONTHLY = sorted({path.stem for path in SAMPLES.glob("*.txt")} - {*GROUPS, *RANKED})
 
-# What a window consists of; everything in it has a name.
+# The roles that may occur in a window.
 ROLES = {"chart", "image", "label", "list", "list item", "panel", "push button", "radio button", "table", "text"}
 POINT = re.compile(r"[^:]+: .*\d")
 
@@ -25,26 +25,26 @@ class Accessibility(SpokenTest):
         super().setUp()
         self.desktop.copy(None)
         self.start()
-        self.program_node = self.application()
+        self.root = self.application()
         self.acknowledge(NEED_DATA, "^Clipboard contains no data$")
-        self.start_window = self.program_node.shown(START)
+        self.start_window = self.root.shown(START)
 
     def acknowledge(self, title, text):
         self.button_of_box(title, text).press()
         soon("the box goes", lambda: "alert" not in [
-            window.role for window in self.program_node.children() if window.has("SHOWING")])
+            window.role for window in self.root.children() if window.has("SHOWING")])
 
     def button_of_box(self, title, text):
-        box = self.program_node.shown(title, role="alert")
+        box = self.root.shown(title, role="alert")
         words = [node.name for node in box.walk() if node.role == "label"]
         self.assertEqual(len(words), 1)
         self.assertRegex(words[0], re.compile(text, re.DOTALL))
         return box.first("push button", "OK")
 
     def shows_beside(self, other):
-        """Waits for another window than this."""
+        """Waits for a window beside this one and returns it."""
         return soon("a window shows", lambda: next(
-            (window for window in self.program_node.children()
+            (window for window in self.root.children()
              if window.handle != other.handle and window.has("SHOWING")), None))
 
     def open(self, name):
@@ -149,7 +149,7 @@ class Accessibility(SpokenTest):
                 soon("the drill-down window closes", lambda: not drilldown.has("SHOWING"))
                 self.close(window)
 
-    def test_boxes_are_told_with_their_title_and_text(self):
+    def test_boxes_are_announced_with_their_title_and_text(self):
         window = self.open("ratios")
         drilldown = self.open_drilldown(window)
         for button, title, text in (
@@ -163,17 +163,17 @@ class Accessibility(SpokenTest):
         soon("the drill-down window closes", lambda: not drilldown.has("SHOWING"))
         self.close(window)
 
-    def test_a_redraw_tells_of_the_chart_and_of_every_point_once(self):
+    def test_a_redraw_announces_the_chart_and_every_point_once(self):
         window = self.open("product")
         with renamed() as names:
             window.first("radio button", "Profit").press()
-            soon("the newest month is told", lambda: any(name.startswith("OCT99: Profit") for name in names()))
-        told = names()
-        self.assertEqual(sorted(told), sorted(node.name for node in [
+            soon("the newest month is announced", lambda: any(name.startswith("OCT99: Profit") for name in names()))
+        announced = names()
+        self.assertEqual(sorted(announced), sorted(node.name for node in [
             window.first("chart"), *window.first("chart").children()]))
         self.close(window)
 
-    def test_the_end_by_an_error_is_told(self):
+    def test_the_end_by_an_error_is_announced(self):
         lines = PRODUCT.split(b"\r\n")
         newest = next(i for i, line in enumerate(lines) if b"-----" in line[:28]) + 1
         lines[newest] = b"XXX" + lines[newest][3:]

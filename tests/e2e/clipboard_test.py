@@ -20,7 +20,7 @@ class Clipboard(DesktopTest):
         self.ends()
         self.assertEqual(self.errors(), "")
 
-    def test_an_empty_clipboard_is_told_and_the_start_window_stays(self):
+    def test_an_empty_clipboard_is_reported_and_the_start_window_stays(self):
         self.start(NEED_DATA)
         self.assertIn(START, self.desktop.windows())
         self.needs_data()
@@ -43,7 +43,7 @@ class Clipboard(DesktopTest):
         self.ends(1)
         self.assertRegex(self.errors(), r"^PlotVue: [A-Z].*\.\n$")
 
-    def test_without_a_display_one_sentence_says_so(self):
+    def test_without_a_display_one_sentence_is_printed(self):
         for display in (None, "", ":9999"):
             with self.subTest(display=display):
                 self.desktop.env.pop("DISPLAY", None)
@@ -53,7 +53,7 @@ class Clipboard(DesktopTest):
                 self.ends(1)
                 self.assertEqual(self.errors(), "PlotVue: there is no display to show windows on.\n")
 
-    def test_what_else_keeps_windows_from_being_shown_is_said_too(self):
+    def test_any_other_reason_why_no_window_can_be_shown_is_printed(self):
         self.desktop.env["QT_QPA_PLATFORM"] = "no such"
         self.start()
         self.ends(1)

@@ -1,4 +1,4 @@
-"""A virtual desktop with a window manager, a clipboard and the program on it; nothing of the user's is touched."""
+"""A virtual desktop with a window manager and a clipboard, and the program on it; the user's desktop is left alone."""
 
 import os
 import re
@@ -63,7 +63,7 @@ class Desktop:
         )
         try:
             read, write = os.pipe()
-            # It would start afresh whenever its last client goes, and cut off one that is just coming.
+            # Without -noreset it would restart when its last client goes, and cut off one that is just connecting.
             self.launch("Xvfb", "-noreset", "-displayfd", str(write), "-screen", "0", self.screen, "-nolisten", "tcp",
                         pass_fds=[write])
             os.close(write)
@@ -115,7 +115,7 @@ class Desktop:
         path = self.home / "capture"
         path.write_bytes(capture)
         self.owner = self.launch("xclip", "-quiet", "-selection", "clipboard", "-in", str(path))
-        patience = 2 + len(capture) / 5_000_000  # an owner before it that halts is asked in vain
+        patience = 2 + len(capture) / 5_000_000  # the owner before it may have halted and not answer
         soon("the capture is on the clipboard", lambda: self.held(patience) == capture)
 
     def held(self, patience):
@@ -139,7 +139,7 @@ class Desktop:
         return found
 
     def window(self, title):
-        """Waits for the window and for its having the focus; returns its number."""
+        """Waits until the window is shown and has the focus; returns its number."""
         number = soon(f"the window {title!r} is shown", lambda: self.windows().get(title))
         soon(f"the window {title!r} has the focus",
              lambda: self.output("xdotool", "getwindowfocus").strip() == number)
@@ -153,7 +153,7 @@ class Desktop:
         return int(re.search(r"HEIGHT=(\d+)", geometry)[1])
 
     def key(self, *keys):
-        """Keys for whatever has the focus."""
+        """Presses the keys, one after the other, for whatever has the focus."""
         for key in keys:
             self.output("xdotool", "key", "--clearmodifiers", key)
 

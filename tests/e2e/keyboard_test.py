@@ -24,8 +24,8 @@ class Keyboard(SpokenTest):
         except AssertionError:
             self.fail(f"The focus is on {self.focus}, not on {role} {name!r}.")
 
-    def tab_goes_through(self, window, *stations):
-        for role, name in stations:
+    def tab_goes_through(self, window, *controls):
+        for role, name in controls:
             self.desktop.key("Tab")
             self.focus_is(window, role, name)
 
@@ -44,7 +44,7 @@ class Keyboard(SpokenTest):
         self.desktop.window(START)
         self.desktop.gone(CHART)
 
-    def test_tab_goes_through_a_chart_window_as_the_eye_does(self):
+    def test_tab_goes_through_a_chart_window_in_reading_order(self):
         window = self.open("product")
         chart = window.first("chart")
         self.focus_is(window, "chart", chart.name)
@@ -52,7 +52,7 @@ class Keyboard(SpokenTest):
                               ("push button", "Print"), ("push button", "Refresh"), ("push button", "Exit"),
                               ("chart", chart.name))
 
-    def test_tab_goes_through_the_start_window_as_the_eye_does(self):
+    def test_tab_goes_through_the_start_window_in_reading_order(self):
         self.open("product")
         self.desktop.key("Escape")
         window = self.shown(START)
@@ -60,7 +60,7 @@ class Keyboard(SpokenTest):
         self.tab_goes_through(window, ("push button", "Exit"), ("list item", "Sales Journal History"),
                               ("push button", "Refresh"))
 
-    def test_tab_goes_through_a_list_window_as_the_eye_does(self):
+    def test_tab_goes_through_a_list_window_in_reading_order(self):
         window = self.open("vendors", LIST)
         self.focus_is(window, "table", "Inventory")
         self.tab_goes_through(window, ("push button", "Tips"), ("push button", "Print"), ("push button", "Exit"),
@@ -140,7 +140,7 @@ class Keyboard(SpokenTest):
                 self.desktop.window(CHART)
         self.assertEqual(sorted(self.desktop.home.iterdir()), before)
 
-    def test_shortcuts_are_told(self):
+    def test_tooltips_name_the_shortcuts(self):
         window = self.open("product")
         for name, key in (("Print", "Ctrl+P"), ("Refresh", "F5"), ("Exit", "Esc")):
             self.assertEqual(window.first("push button", name).description(), f"{name} ({key})")

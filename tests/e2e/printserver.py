@@ -1,4 +1,4 @@
-"""A print server of the test's own: its queues keep what they are sent."""
+"""A print server for one test: its queues keep what is sent to them."""
 
 import os
 import subprocess
@@ -59,7 +59,7 @@ Shared No
 
 
 class PrintServer:
-    """Runs on the desktop given, whose programs see it as theirs; ends with that desktop."""
+    """A print server that the programs on the desktop use; it ends with the desktop."""
 
     def __init__(self, desktop, queues):
         # Not below the home directory: the server's helpers run as another user when the test runs as root.
@@ -102,7 +102,7 @@ class PrintServer:
         return int((self.kept / f"{job}.copies").read_text())
 
     def check_pages(self, test, jobs):
-        """Each job is one copy of one page with something on it."""
+        """Each job must be one copy of one page that is not empty."""
         for job in jobs:
             test.assertEqual(self.copies(job), 1)
             pages = self.page_pixels(job)

@@ -1,4 +1,4 @@
-"""What real terminals copy off a host's screen is charted as the screen itself, blanks at line ends or none."""
+"""What terminals copy from a host's screen is charted like the screen itself, with or without blanks at line ends."""
 
 from contextlib import suppress
 
@@ -11,7 +11,7 @@ SCREENS = ("product", "glhistory", "active", "glexpense", "pastdue")
 
 
 def page(sample):
-    """The lines of the sample's first page, as they are in it."""
+    """The lines of the sample's first page."""
     lines = (SAMPLES / f"{sample}.txt").read_text().splitlines()
     return lines[:next((i for i in range(1, LINES) if lines[i] == lines[0]), LINES)]
 
@@ -34,7 +34,7 @@ def words(chart):
     return [chart.name, *(point.name for point in chart.children())]
 
 
-def told(desktop):
+def charted(desktop):
     """The words of the chart that the program opens when it starts, or of its list and the chart of the first row."""
     process = desktop.start()
     try:
@@ -59,7 +59,7 @@ class Terminals(SpokenTest):
         cls.intact = {}
         for sample in SCREENS:
             cls.desktop.copy("".join(line + "\r\n" for line in page(sample)).encode())
-            cls.intact[sample] = told(cls.desktop)
+            cls.intact[sample] = charted(cls.desktop)
         cls.desktop.copy(None)
 
     def copied(self, copy, lines):
@@ -87,7 +87,7 @@ class Terminals(SpokenTest):
                         text = self.copied(copy, lines)
                         keeps = painted and terminal is terminals.xterm
                         self.assertEqual(" \n" in text, keeps, "blanks at the ends of lines")
-                        found = told(self.desktop)
+                        found = charted(self.desktop)
                     self.assertEqual(found, self.intact[sample])
                 if not found:
                     return  # the others would be waited for as long

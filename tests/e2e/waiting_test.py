@@ -1,4 +1,4 @@
-"""A screen too short to be read: the person is told, whatever window is up, and can end the program."""
+"""A screen that is too short to be read: a box says so, whatever window is visible, and can end the program."""
 
 from accessible import Atspi, SpokenTest
 from desktop import CHART, LIST, PRODUCT, main, soon
@@ -27,7 +27,7 @@ class Waiting(SpokenTest):
         return window
 
     def box(self, lines="11 lines"):
-        """The box, after a look at what it says."""
+        """Waits for the box, checks what it says and returns it."""
         self.desktop.window(BOX)
         box = self.application().shown(BOX, role="alert")
         words = " ".join(node.name for node in box.walk() if node.role == "label")

@@ -1,4 +1,4 @@
-"""The program on a Wayland desktop, where only the window with the focus is told what the clipboard holds."""
+"""The program on a Wayland desktop, where only the window with the focus may read the clipboard."""
 
 import json
 import os
@@ -11,7 +11,7 @@ from desktop import CHART, NEED_DATA, PRODUCT, START, Desktop, DesktopTest, main
 
 
 class WaylandDesktop(Desktop):
-    """A compositor without a screen, with a keyboard. It refuses to be root's: then all is run by nobody."""
+    """A compositor without a screen, with a keyboard. It does not run as root: then the user nobody runs everything."""
 
     def __enter__(self):
         self.home = Path(tempfile.mkdtemp(prefix="plotvue-"))

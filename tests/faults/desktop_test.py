@@ -8,10 +8,11 @@ import time
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
-from desktop import CHART, LIST, NEED_DATA, PRODUCT, START, Desktop, DesktopTest, ended, main, sample, soon  # noqa: E402
+from desktop import (  # noqa: E402
+    CHART, LIST, NEED_DATA, PRODUCT, START, Desktop, DesktopTest, ended, main, sample, soon)
 
 GAINS, VENDORS = sample("monthtomonth"), sample("vendors")
-LONG = PRODUCT + b"no screen at all\r\n" * 300_000  # comes in many pieces
+LONG = PRODUCT + b"no screen at all\r\n" * 300_000  # is sent in many pieces
 
 
 class OnTheDesktop(DesktopTest):
@@ -21,7 +22,7 @@ class OnTheDesktop(DesktopTest):
         self.still_held(PRODUCT)
 
     def still_held(self, capture, owner=None):
-        """Whatever has happened, the clipboard is its owner's, and holds what was copied."""
+        """The clipboard still has its owner and holds what was copied."""
         self.assertIsNone((owner or self.desktop.owner).poll())
         held = subprocess.run(["xclip", "-selection", "clipboard", "-out"], env=self.desktop.env,
                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, timeout=20, check=True).stdout
@@ -37,7 +38,7 @@ class OnTheDesktop(DesktopTest):
         return owner
 
     def start_with_an_owner_that_halts(self, pieces):
-        """The program comes back, in the time that the toolkit gives an owner, and says that there is no data."""
+        """After the time that the toolkit gives an owner the program goes on, and says that there is no data."""
         owner = self.halting_owner(LONG, pieces)
         self.start()
         stat = Path(f"/proc/{owner.pid}/stat")
@@ -47,7 +48,7 @@ class OnTheDesktop(DesktopTest):
         self.assertLess(time.monotonic() - began, 8)
         return owner
 
-    def test_an_owner_that_halts_amid_a_long_answer_and_goes_on(self):
+    def test_an_owner_that_halts_during_a_long_answer_and_goes_on(self):
         owner = self.start_with_an_owner_that_halts(pieces=10)
         owner.send_signal(signal.SIGCONT)
         self.still_held(LONG, owner)
@@ -56,7 +57,7 @@ class OnTheDesktop(DesktopTest):
         self.still_held(LONG, owner)
         self.still_runs()
 
-    def test_an_owner_that_halts_amid_a_long_answer_and_another_copy(self):
+    def test_an_owner_that_halts_during_a_long_answer_and_another_copy(self):
         owner = self.start_with_an_owner_that_halts(pieces=1)
         self.charts_the_next_capture()
         owner.send_signal(signal.SIGCONT)
@@ -69,13 +70,13 @@ class OnTheDesktop(DesktopTest):
         self.desktop.copy(PRODUCT)
         os.kill(self.desktop.owner.pid, signal.SIGSTOP)
         self.start()
-        time.sleep(1)  # it has asked by now and waits
+        time.sleep(1)  # by now it has asked and is waiting
         self.desktop.owner.kill()
         self.needs_data()
         self.charts_the_next_capture()
 
-    def test_an_owner_that_is_gone_amid_a_long_answer(self):
-        self.desktop.copy(b" " * 50_000_000)  # comes in pieces; whole or not, it is no screen
+    def test_an_owner_that_is_gone_during_a_long_answer(self):
+        self.desktop.copy(b" " * 50_000_000)  # is sent in pieces; whole or not, it is no screen
         self.start()
         time.sleep(0.5)
         self.desktop.owner.kill()

@@ -26,7 +26,7 @@ class Pair(SpokenTest):
         return process
 
     def drill_down(self, process):
-        """The window of the process that shows charts, and the name of the first of them; None while there is none."""
+        """The process's window with charts and the name of its first chart, or None for both."""
         for window in self.desktop.application(process).children():
             charts = [node.name for node in window.walk() if node.role == "chart"] if window.has("SHOWING") else []
             if charts:
@@ -49,7 +49,7 @@ class Pair(SpokenTest):
         self.desktop.key("Down", "Down", "Return")
         self.shows(two, 2)
         self.shows(one, 0)
-        # The row chosen last is where both go on from, whoever chose it.
+        # Both step on from the row that was chosen last, whichever of them chose it.
         for process, button, row in ((one, "Down", 3), (two, "Down", 4), (one, "Back", 3), (one, "Back", 2),
                                      (two, "Back", 1), (one, "Down", 2)):
             self.press(process, button)

@@ -19,7 +19,7 @@ class Printing(PrintTest):
         self.server.process.wait()
 
     def goes_on(self):
-        """Nothing but the chart is shown; it is refreshed, also to what is copied next."""
+        """Only the chart is shown; it can be refreshed, also with what is copied next."""
         self.desktop.window(CHART)
         self.assertEqual(list(self.desktop.windows()), [CHART])
         self.desktop.key("F5")
@@ -43,7 +43,7 @@ class Printing(PrintTest):
         self.goes_on()
         self.assertEqual(self.spooled(), 0)
 
-    def test_a_server_that_goes_amid_the_copies(self):
+    def test_a_server_that_goes_during_the_copies(self):
         self.open_dialog()
         self.print_copies("9", "9")
         soon("the first copy is sent", self.spooled)

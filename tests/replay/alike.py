@@ -29,13 +29,13 @@ def played(command, script, place, env=None, patience=PATIENCE):
     """Plays the script in a new directory; returns what was printed, and the files that were written."""
     working_directory(place)
     # Files instead of pipes: a pipe would be kept open by what Wine starts on the way.
-    with tempfile.TemporaryFile() as told, tempfile.TemporaryFile() as read:
+    with tempfile.TemporaryFile() as printed, tempfile.TemporaryFile() as read:
         read.write(script.encode())
         read.seek(0)
-        subprocess.run(command, cwd=place, env=env or {**os.environ, **ENVIRONMENT}, stdin=read, stdout=told,
+        subprocess.run(command, cwd=place, env=env or {**os.environ, **ENVIRONMENT}, stdin=read, stdout=printed,
                        check=True, timeout=patience)
-        told.seek(0)
-        return told.read(), files(place)
+        printed.seek(0)
+        return printed.read(), files(place)
 
 
 def check_alike(one, other):

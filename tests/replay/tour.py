@@ -27,15 +27,15 @@ class Tour(Replay):
         self.action += 1
         if self.action in self.left_out:
             return None
-        told = self.tell(*lines)
-        for event in told:
+        answers = self.tell(*lines)
+        for event in answers:
             if event.get("event") == "show":
                 self.visible.append(event["window"])
             elif event.get("event") == "hide":
                 self.visible.remove(event["window"])
         if self.over:
             raise Ended
-        return told[-1] if told and "controls" in told[-1] else None
+        return answers[-1] if answers and "controls" in answers[-1] else None
 
     def controls(self, window, kind):
         """The window's controls of that kind, by name."""
@@ -125,7 +125,7 @@ class Tour(Replay):
 
 
 def tours(program, top, capture):
-    """Every tour with the capture, each in a directory of its own below `top`, with the tour's exit status and errors."""
+    """The tours with the capture, each with its directory, a new one below `top`, and with its exit status and errors."""
     left_out = set()
     while True:
         directory = working_directory(top / f"tour{len(left_out)}")

@@ -106,7 +106,7 @@ class Clicks(WineTest):
         self.ends()
         self.assertEqual([file.name for file in self.directory.iterdir()], [])
 
-    def test_what_a_windows_program_copies_is_read_as_it_stands(self):
+    def test_what_a_windows_program_copies_is_read_as_it_is(self):
         text = sample("vendors").replace(b"\r\n", b"\r\r\n", 3)
         self.copy_in_windows(text)
         self.start(LIST)
@@ -185,7 +185,7 @@ class Clicks(WineTest):
         self.desktop.key("Return")
         self.ends(1)
 
-    def test_an_error_is_told_in_a_box(self):
+    def test_an_error_is_reported_in_a_box(self):
         (self.directory / "pvuscrn.txt").mkdir()
         self.copy(sample("vendors"))
         self.start(LIST)

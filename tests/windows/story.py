@@ -1,6 +1,6 @@
 #!/usr/bin/python3 -B
 """story.py PLATFORM STORY PROGRAM HERE: under Wine, PROGRAM prints on PLATFORM what HERE, the same program built for
-this system, prints in memory, and writes the same files. STORY is a script or a capture, as in tests/replay/alike.py."""
+this system, prints in memory, and writes the same files. STORY is a script or a capture, as for replay/alike.py."""
 
 import os
 import sys
