@@ -64,7 +64,7 @@ class Accessibility(SpokenTest):
         soon("the window goes", lambda: self.start_window.has("SHOWING") and not window.has("SHOWING"))
 
     def check(self, window, buttons, charts=0, tables=0):
-        """Every control in the window, and that there are these and no others."""
+        """Checks every control of the window, and that it has these buttons, charts and tables and no others."""
         self.assertEqual(window.role, "frame")
         self.assertNotEqual(window.name, "")
         controls = list(window.walk())

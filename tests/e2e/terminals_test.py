@@ -90,7 +90,7 @@ class Terminals(SpokenTest):
                         found = charted(self.desktop)
                     self.assertEqual(found, self.intact[sample])
                 if not found:
-                    return  # the others would be waited for as long
+                    return  # the other samples would take as long to fail
 
     def test_xterm(self):
         self.check(terminals.xterm)

@@ -10,8 +10,8 @@ CANNOT_BE_OPENED, CANNOT_BE_READ, TOO_EARLY = r"cannot be opened \(.+\)", r"cann
 
 class Reading(Files):
     def check(self, damage, line, file=None, ending=None, around=()):
-        """With charts open, the damage is done and the line played. The session ends with the sentence that the file
-        "ends too early" or the like; without a file, the list ends."""
+        """Damages a file while charts are open and plays the line. The session must end with a sentence about `file`
+        that ends so; without a file, the line must lead to "End of list"."""
         with self.subTest(line):
             replay = self.charted(around=around)
             damage()

@@ -11,7 +11,7 @@ CANNOT_BE_WRITTEN = rf"cannot be written \({FULL}\)"
 
 class Writing(Files):
     def cannot_be_chosen(self, damage, name, ending):
-        """With the list open, the damage is done and a row clicked: the file "cannot be created" or the like."""
+        """Damages the file while the list is open and clicks a row; the sentence about the file must end so."""
         with self.subTest(name):
             replay = self.listed()
             damage(name)

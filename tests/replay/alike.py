@@ -28,7 +28,7 @@ def files(place):
 def played(command, script, place, env=None, patience=PATIENCE):
     """Plays the script in a new directory; returns what was printed, and the files that were written."""
     working_directory(place)
-    # Files instead of pipes: a pipe would be kept open by what Wine starts on the way.
+    # Files instead of pipes: processes that Wine starts would keep a pipe open.
     with tempfile.TemporaryFile() as printed, tempfile.TemporaryFile() as read:
         read.write(script.encode())
         read.seek(0)
@@ -39,10 +39,10 @@ def played(command, script, place, env=None, patience=PATIENCE):
 
 
 def check_alike(one, other):
-    """Each is what was printed and the files; ends the program where they differ."""
+    """Ends the program with the differences, where what was printed or the files are not the same."""
     if one[0] != other[0]:
         lines = [printed.decode("utf-8", "backslashreplace").splitlines() for printed in (one[0], other[0])]
-        sys.exit("\n".join(difflib.unified_diff(*lines, "one platform", "the other", n=0, lineterm="")))
+        sys.exit("\n".join(difflib.unified_diff(*lines, "expected", "printed", n=0, lineterm="")))
     if not one[0]:
         sys.exit("Nothing was printed.")
     if one[1] != other[1]:
@@ -82,8 +82,8 @@ def check_script(program, path, top):
 
 def check_capture(program, capture, top):
     for number, (tour, directory, ending) in enumerate(tours(program, top, f"{capture.parent.name}/{capture.name}")):
-        if ending != (0, ""):
-            sys.exit(f"The tour ended with {ending}.")
+        if ending != (0, "") or not tour.over:
+            sys.exit(f"The tour ended with {ending}, and Exit with {tour.over}.")
         script = "".join(line + "\n" for line in tour.script)
         desktop = played([program, "--platform=desktop"], script, top / f"desktop{number}")
         check_alike((b"".join(tour.printed), files(directory)), desktop)

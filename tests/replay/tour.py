@@ -12,7 +12,7 @@ ANOTHER_SCREEN = "captures/product-accents.txt"
 
 
 class Ended(Exception):
-    """The session is over."""
+    """The session is over: PlotVue has ended, or waits for ever."""
 
 
 class Tour(Replay):
@@ -20,7 +20,7 @@ class Tour(Replay):
         super().__init__(program, directory)
         self.left_out = left_out
         self.action = 0  # counts the actions, which are the same in every tour with one capture
-        self.visible = []
+        self.visible = []  # windows, in the order in which they were shown
 
     def do(self, *lines):
         """Plays the lines of one action; returns the state that the last of them dumped, None if there is none."""
@@ -73,6 +73,7 @@ class Tour(Replay):
                 self.do(f"click {window} {button}", f"dump {window}")
 
     def step(self, chart, button, count):
+        """Presses the button so often, or until the end of the list closes the window."""
         for _ in range(count):
             if not self.do(f"click {chart} {button}", f"dump {chart}"):
                 break
@@ -101,6 +102,7 @@ class Tour(Replay):
                 self.choose_each(chart)  # and the next row is clicked with these charts open
 
     def walk(self, capture):
+        """Goes from the start with the capture on the clipboard to Exit in the start-up window."""
         self.do("printer accept 2", f"clipboard {capture}", "start", "dump startup")
         window = self.visible[-1]
         if window != "startup":
@@ -135,6 +137,6 @@ def tours(program, top, capture):
         except Ended:
             pass
         yield tour, directory, tour.end()
-        if tour.over in ("end", "it broke off") or tour.action == 1:
+        if tour.over not in ("error", "spin") or tour.action == 1:
             return
         left_out.add(tour.action)

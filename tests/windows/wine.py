@@ -63,7 +63,7 @@ class Wine(Desktop):
     def windows_program(self, *command, seconds=60, **options):
         """Runs it to its end, which must be a good one; returns what it prints."""
         options = {"cwd": self.home, "env": self.env, **options}
-        # Not a pipe: what Wine starts on the way would keep it open.
+        # Not a pipe: processes that Wine starts would keep it open.
         with tempfile.TemporaryFile() as printed:
             subprocess.run(["wine", *map(str, command)], stdin=subprocess.DEVNULL, stdout=printed,
                            stderr=subprocess.DEVNULL, timeout=seconds, check=True, **options)
