@@ -42,7 +42,7 @@ def check_alike(one, other):
     """Ends the program with the differences, where what was printed or the files are not the same."""
     if one[0] != other[0]:
         lines = [printed.decode("utf-8", "backslashreplace").splitlines() for printed in (one[0], other[0])]
-        sys.exit("\n".join(difflib.unified_diff(*lines, "expected", "printed", n=0, lineterm="")))
+        sys.exit("\n".join(difflib.unified_diff(*lines, "in memory", "elsewhere", n=0, lineterm="")))
     if not one[0]:
         sys.exit("Nothing was printed.")
     if one[1] != other[1]:
