@@ -1,4 +1,4 @@
-# Tests that are programs of their own, linked with the rooms they look at.
+# Tests that are programs of their own, linked with the rooms that they test.
 if(WIN32)
   add_subdirectory(googletest) # there is no package of it for Windows
   set(drive Z:) # as Wine shows the files of this machine
@@ -21,6 +21,7 @@ target_link_libraries(unittests PRIVATE testsupport GTest::gtest_main)
 target_precompile_headers(unittests PRIVATE <gtest/gtest.h> support/session.h support/capturebuilder.h)
 # A thousand tests of a millisecond each: one process.
 add_test(NAME unit COMMAND unittests --gtest_brief=1)
+set_tests_properties(unit PROPERTIES LABELS quick)
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets PrintSupport)
 set(CMAKE_AUTOMOC ON)
@@ -45,8 +46,13 @@ if(WIN32)
   return()
 endif()
 set(offscreen "QT_QPA_PLATFORM=offscreen:configfile=${CMAKE_CURRENT_SOURCE_DIR}/desktop/screen.json")
-gtest_discover_tests(desktoptests TEST_PREFIX desktop. TEST_FILTER -*FirstSize* PROPERTIES ENVIRONMENT "${offscreen}")
+# Four processes that share the tests: starting one takes longer than most tests.
+foreach(shard 0 1 2 3)
+  add_test(NAME desktop.${shard} COMMAND desktoptests --gtest_brief=1 --gtest_filter=-*FirstSize*)
+  set_tests_properties(desktop.${shard} PROPERTIES COST 10 ENVIRONMENT
+                       "${offscreen};GTEST_TOTAL_SHARDS=4;GTEST_SHARD_INDEX=${shard}")
+endforeach()
 foreach(scale 1 1.5 2)
   add_test(NAME desktop.firstsize-${scale} COMMAND desktoptests --gtest_brief=1 --gtest_filter=*FirstSize*)
-  set_tests_properties(desktop.firstsize-${scale} PROPERTIES ENVIRONMENT "${offscreen};QT_SCALE_FACTOR=${scale}")
+  set_tests_properties(desktop.firstsize-${scale} PROPERTIES ENVIRONMENT "${offscreen};QT_SCALE_FACTOR=${scale}" COST 5)
 endforeach()

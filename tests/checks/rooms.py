@@ -1,5 +1,5 @@
-"""Which room of src/ may include which: an include the other way, the toolkit outside its room, or what belongs to one
-operating system outside the files named for it, is a fault."""
+"""The rooms of src/ that each room may include. Any other include is a fault, and so are the toolkit outside its room,
+and what belongs to one operating system outside the files that are named after that system."""
 
 import re
 import sys
@@ -51,16 +51,16 @@ def faults():
                 yield f"{path}: tests/checks/rooms.py does not know the room {room}"
                 continue
             if CONDITION.search(path.read_text(encoding="utf-8")):
-                yield f"{path}: what an operating system does otherwise has a file of its own, …_unix.cpp, …_windows.cpp"
+                yield f"{path}: code for one operating system belongs in a file of its own, …_unix.cpp, …_windows.cpp"
             for where, bracket, name in includes(path):
                 if room is not None and SYSTEM.match(name) and not OF_ONE_SYSTEM.search(path.name):
                     yield f"{where}: {name} belongs to one operating system"
                 if TOOLKIT.match(name) and not str(path).startswith(TOOLKIT_ROOMS):
-                    yield f"{where}: the toolkit, {name}, is not for this room"
+                    yield f"{where}: this room may not include the toolkit: {name}"
                 if room is not None and bracket == '"':
                     included = str(Path(name).parent).removeprefix(".")
                     if included not in MAY_INCLUDE[room]:
-                        yield f"{where}: {room or 'main'} may not know {included or name}"
+                        yield f"{where}: {room or 'main'} may not include {included or name}"
 
 
 found = list(faults())

@@ -1,11 +1,9 @@
-"""Every window, walked through as assistive technology does: nothing without a name, everything in its role."""
+"""Every window, walked through as assistive technology does: everything has a name and a role."""
 
 import re
-import sys
-import unittest
 
-from accessible import SpokenDesktop, renamed
-from desktop import SAMPLES, ended, soon
+from accessible import SpokenTest, renamed
+from desktop import NEED_DATA, PRODUCT, SAMPLES, START, main, sample, soon
 
 GROUPS = ["categoriessalesmen", "salesmencategories"]
 RANKED = {
@@ -17,50 +15,43 @@ RANKED = {
 }
 MONTHLY = sorted({path.stem for path in SAMPLES.glob("*.txt")} - {*GROUPS, *RANKED})
 
-# What a window consists of; everything in it has a name.
+# The roles that may occur in a window.
 ROLES = {"chart", "image", "label", "list", "list item", "panel", "push button", "radio button", "table", "text"}
 POINT = re.compile(r"[^:]+: .*\d")
 
 
-class Accessibility(unittest.TestCase):
-    @classmethod
-    def setUpClass(cls):
-        cls.desktop = SpokenDesktop(program)
-        cls.desktop.__enter__()
-        cls.addClassCleanup(cls.desktop.__exit__)
-
+class Accessibility(SpokenTest):
     def setUp(self):
+        super().setUp()
         self.desktop.copy(None)
-        self.process = self.desktop.start()
-        self.addCleanup(self.process.wait)
-        self.addCleanup(self.process.terminate)
-        self.application = self.desktop.application(self.process)
-        self.acknowledge("Need Data", "^Clipboard contains no data$")
-        self.start = self.application.shown("Plot Vue!")
+        self.start()
+        self.root = self.application()
+        self.acknowledge(NEED_DATA, "^Clipboard contains no data$")
+        self.start_window = self.root.shown(START)
 
     def acknowledge(self, title, text):
         self.button_of_box(title, text).press()
         soon("the box goes", lambda: "alert" not in [
-            window.role for window in self.application.children() if window.has("SHOWING")])
+            window.role for window in self.root.children() if window.has("SHOWING")])
 
     def button_of_box(self, title, text):
-        box = self.application.shown(title, role="alert")
+        box = self.root.shown(title, role="alert")
         words = [node.name for node in box.walk() if node.role == "label"]
         self.assertEqual(len(words), 1)
         self.assertRegex(words[0], re.compile(text, re.DOTALL))
         return box.first("push button", "OK")
 
     def shows_beside(self, other):
-        """Waits for another window than this."""
+        """Waits for a window beside this one and returns it."""
         return soon("a window shows", lambda: next(
-            (window for window in self.application.children()
+            (window for window in self.root.children()
              if window.handle != other.handle and window.has("SHOWING")), None))
 
-    def open(self, sample):
-        self.desktop.copy((SAMPLES / f"{sample}.txt").read_bytes())
-        self.start.first("push button", "Refresh").press()
-        window = self.shows_beside(self.start)
-        soon("the start window goes", lambda: not self.start.has("SHOWING"))
+    def open(self, name):
+        self.desktop.copy(sample(name))
+        self.start_window.first("push button", "Refresh").press()
+        window = self.shows_beside(self.start_window)
+        soon("the start window goes", lambda: not self.start_window.has("SHOWING"))
         return window
 
     def open_drilldown(self, window):
@@ -70,10 +61,10 @@ class Accessibility(unittest.TestCase):
 
     def close(self, window):
         window.first("push button", "Exit").press()
-        soon("the window goes", lambda: self.start.has("SHOWING") and not window.has("SHOWING"))
+        soon("the window goes", lambda: self.start_window.has("SHOWING") and not window.has("SHOWING"))
 
     def check(self, window, buttons, charts=0, tables=0):
-        """Every control in the window, and that there are these and no others."""
+        """Checks every control of the window, and that it has these buttons, charts and tables and no others."""
         self.assertEqual(window.role, "frame")
         self.assertNotEqual(window.name, "")
         controls = list(window.walk())
@@ -124,32 +115,32 @@ class Accessibility(unittest.TestCase):
         self.assertTrue(all(table.cell(0, column).name for column in range(columns)))
 
     def test_the_start_window(self):
-        controls = self.check(self.start, ["Refresh", "Exit"])
+        controls = self.check(self.start_window, ["Refresh", "Exit"])
         screens = next(control for control in controls if control.role == "list")
         self.assertEqual(screens.name, "Supported screens")
         self.assertEqual(len(screens.children()), 19)
 
     def test_the_windows_of_the_monthly_screens(self):
         self.assertEqual(len(MONTHLY), 15)
-        for sample in MONTHLY:
-            with self.subTest(sample):
-                window = self.open(sample)
+        for name in MONTHLY:
+            with self.subTest(name):
+                window = self.open(name)
                 self.check(window, ["Print", "Refresh", "Exit"], charts=1)
                 self.close(window)
 
     def test_the_windows_of_the_group_screens(self):
-        for sample in GROUPS:
-            with self.subTest(sample):
-                window = self.open(sample)
+        for name in GROUPS:
+            with self.subTest(name):
+                window = self.open(name)
                 self.check(window, ["Print", "Refresh", "Exit"], charts=1,
-                           tables=1 if sample == "categoriessalesmen" else 0)
+                           tables=1 if name == "categoriessalesmen" else 0)
                 self.close(window)
 
     def test_the_ranked_lists_and_their_drill_down_windows(self):
         self.assertEqual(len(RANKED), 5)
-        for sample, what in RANKED.items():
-            with self.subTest(sample):
-                window = self.open(sample)
+        for name, what in RANKED.items():
+            with self.subTest(name):
+                window = self.open(name)
                 self.check(window, [*what.get("tips", []), "Print", "Exit"], tables=what.get("tables", 1))
                 drilldown = self.open_drilldown(window)
                 self.check(drilldown, [*what.get("explanations", []), "Back", "Down", "Print", "Close"],
@@ -158,7 +149,7 @@ class Accessibility(unittest.TestCase):
                 soon("the drill-down window closes", lambda: not drilldown.has("SHOWING"))
                 self.close(window)
 
-    def test_boxes_are_told_with_their_title_and_text(self):
+    def test_boxes_are_announced_with_their_title_and_text(self):
         window = self.open("ratios")
         drilldown = self.open_drilldown(window)
         for button, title, text in (
@@ -172,26 +163,25 @@ class Accessibility(unittest.TestCase):
         soon("the drill-down window closes", lambda: not drilldown.has("SHOWING"))
         self.close(window)
 
-    def test_a_redraw_tells_of_the_chart_and_of_every_point_once(self):
+    def test_a_redraw_announces_the_chart_and_every_point_once(self):
         window = self.open("product")
         with renamed() as names:
             window.first("radio button", "Profit").press()
-            soon("the newest month is told", lambda: any(name.startswith("OCT99: Profit") for name in names()))
-        told = names()
-        self.assertEqual(sorted(told), sorted(node.name for node in [
+            soon("the newest month is announced", lambda: any(name.startswith("OCT99: Profit") for name in names()))
+        announced = names()
+        self.assertEqual(sorted(announced), sorted(node.name for node in [
             window.first("chart"), *window.first("chart").children()]))
         self.close(window)
 
-    def test_the_end_by_an_error_is_told(self):
-        lines = (SAMPLES / "product.txt").read_bytes().split(b"\r\n")
+    def test_the_end_by_an_error_is_announced(self):
+        lines = PRODUCT.split(b"\r\n")
         newest = next(i for i, line in enumerate(lines) if b"-----" in line[:28]) + 1
         lines[newest] = b"XXX" + lines[newest][3:]
         self.desktop.copy(b"\r\n".join(lines))
-        self.start.first("push button", "Refresh").press()
+        self.start_window.first("push button", "Refresh").press()
         self.button_of_box("PlotVue", r"^[A-Z].*\.$").press()
-        self.assertEqual(ended(self.process), 1)
+        self.ends(1)
 
 
 if __name__ == "__main__":
-    program = sys.argv.pop()
-    unittest.main(verbosity=2)
+    main()

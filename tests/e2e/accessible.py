@@ -1,10 +1,10 @@
-"""The windows as assistive technology meets them: a real client on a real accessibility bus."""
+"""The windows as assistive technology sees them: a real client on a real accessibility bus."""
 
 import os
 from contextlib import contextmanager
 
 import gi
-from desktop import Desktop, soon
+from desktop import Desktop, DesktopTest, soon
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
@@ -13,7 +13,7 @@ GONE = ("No such object", "no longer exists", "was not provided by any", "discon
 
 
 class SpokenDesktop(Desktop):
-    """A desktop with an accessibility bus; one a test process, whose client library connects but once."""
+    """A desktop with an accessibility bus. A test process can have only one: its client library connects only once."""
 
     def __enter__(self):
         super().__enter__()
@@ -34,7 +34,7 @@ class SpokenDesktop(Desktop):
         return self
 
     def application(self, process):
-        """What the process says of itself, once it is known on the bus."""
+        """The process's accessible object; waits until the bus knows it."""
 
         def known():
             for application in Node(Atspi.get_desktop(0)).children():
@@ -47,20 +47,29 @@ class SpokenDesktop(Desktop):
         return application
 
 
+class SpokenTest(DesktopTest):
+    desktop_class = SpokenDesktop
+    shared = True
+
+    def application(self):
+        """The program's accessible object."""
+        return self.desktop.application(self.process)
+
+
 @contextmanager
 def renamed():
-    """Gives the new names of charts and of their points, as they are told of meanwhile."""
-    told = []
+    """Gives a function that returns the new names of charts and points that have been announced since."""
+    announced = []
 
     def note(event):
         with unless_gone():
             if event.source.get_role_name() in ("chart", "list item"):
-                told.append(event.source.get_name())
+                announced.append(event.source.get_name())
 
     def names():
         while GLib.MainContext.default().iteration(False):
             pass
-        return told
+        return announced
 
     listener = Atspi.EventListener.new(note)
     listener.register("object:property-change:accessible-name")
@@ -72,7 +81,7 @@ def renamed():
 
 @contextmanager
 def unless_gone():
-    """Leaves at a question to an object that its program no longer has; any other failure is one."""
+    """Ignores the failure of a question to an object that no longer exists; any other failure is raised."""
     try:
         yield
     except GLib.Error as error:
@@ -92,7 +101,7 @@ class Node:
         return f"{self.role} {self.name!r}"
 
     def children(self):
-        """The objects directly below; a window may take some away while they are asked for one by one."""
+        """The child objects; some may disappear while they are asked for one by one."""
         found = []
         with unless_gone():
             for i in range(self.handle.get_child_count()):
@@ -103,13 +112,13 @@ class Node:
         return found
 
     def has(self, state):
-        """An object that is gone has no state."""
+        """Whether the object is in that state; one that is gone is in none."""
         with unless_gone():
             return self.handle.get_state_set().contains(getattr(Atspi.StateType, state))
         return False
 
     def walk(self):
-        """The showing objects below, in their order; but not what a table consists of."""
+        """The visible objects below, in their order, without the cells of tables."""
         for child in self.children():
             if child.has("SHOWING"):
                 yield child
@@ -146,7 +155,7 @@ class Node:
              if (window.role, window.name) == (role, title) and window.has("SHOWING")), None))
 
     def first(self, role, name=None):
-        """The first showing object below of that role, and of that name if one is given."""
+        """The first visible object below that has the role, and the name if one is given."""
         for node in self.walk():
             if node.role == role and name in (None, node.name):
                 return node
@@ -156,7 +165,7 @@ class Node:
         """The innermost object below that has the focus."""
         found = None
         for node in self.walk():
-            # The current item of a list says so whether or not the list has the focus.
+            # The current item of a list has that state even when the list has not the focus.
             if node.has("FOCUSED") and (node.role != "list item" or node.parent().has("FOCUSED")):
                 found = node
         return found

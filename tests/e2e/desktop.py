@@ -1,15 +1,27 @@
-"""A virtual desktop with a window manager, a clipboard and the program on it; nothing of the user's is touched."""
+"""A virtual desktop with a window manager and a clipboard, and the program on it; the user's desktop is left alone."""
 
 import os
 import re
 import shutil
 import signal
 import subprocess
+import sys
 import tempfile
 import time
+import unittest
 from pathlib import Path
 
 SAMPLES = Path(__file__).resolve().parents[2] / "samples"
+
+# The titles of windows.
+START, CHART, LIST, NEED_DATA = "Plot Vue!", "Plotvue!", "PlotVue", "Need Data"
+
+
+def sample(name):
+    return (SAMPLES / f"{name}.txt").read_bytes()
+
+
+PRODUCT = sample("product")
 
 
 class NotInTime(AssertionError):
@@ -51,7 +63,7 @@ class Desktop:
         )
         try:
             read, write = os.pipe()
-            # It would start afresh whenever its last client goes, and cut off one that is just coming.
+            # Without -noreset it would restart when its last client goes, and cut off one that is just connecting.
             self.launch("Xvfb", "-noreset", "-displayfd", str(write), "-screen", "0", self.screen, "-nolisten", "tcp",
                         pass_fds=[write])
             os.close(write)
@@ -103,7 +115,7 @@ class Desktop:
         path = self.home / "capture"
         path.write_bytes(capture)
         self.owner = self.launch("xclip", "-quiet", "-selection", "clipboard", "-in", str(path))
-        patience = 2 + len(capture) / 5_000_000  # an owner before it that halts is asked in vain
+        patience = 2 + len(capture) / 5_000_000  # the owner before it may have halted and not answer
         soon("the capture is on the clipboard", lambda: self.held(patience) == capture)
 
     def held(self, patience):
@@ -127,7 +139,7 @@ class Desktop:
         return found
 
     def window(self, title):
-        """Waits for the window and for its having the focus; returns its number."""
+        """Waits until the window is shown and has the focus; returns its number."""
         number = soon(f"the window {title!r} is shown", lambda: self.windows().get(title))
         soon(f"the window {title!r} has the focus",
              lambda: self.output("xdotool", "getwindowfocus").strip() == number)
@@ -141,7 +153,7 @@ class Desktop:
         return int(re.search(r"HEIGHT=(\d+)", geometry)[1])
 
     def key(self, *keys):
-        """Keys for whatever has the focus."""
+        """Presses the keys, one after the other, for whatever has the focus."""
         for key in keys:
             self.output("xdotool", "key", "--clearmodifiers", key)
 
@@ -152,6 +164,68 @@ def ended(process, seconds=20):
         return process.wait(seconds)
     except subprocess.TimeoutExpired:
         raise NotInTime("the program did not end") from None
+
+
+class DesktopTest(unittest.TestCase):
+    """Tests of the program on a desktop: a new one for each test, or one for all tests of a class that is `shared`."""
+
+    desktop_class = Desktop
+    shared = False
+    program = None
+
+    @classmethod
+    def setUpClass(cls):
+        if cls.shared:
+            cls.desktop = cls.enterClassContext(cls.desktop_class(cls.program))
+
+    def setUp(self):
+        if not self.shared:
+            self.desktop = self.enterContext(self.desktop_class(self.program))
+
+    def start(self, title=None):
+        """Starts the program, which ends with the test, and waits for its window of that title, if one is given."""
+        self.process = self.desktop.start()
+        self.addCleanup(self.process.wait)
+        self.addCleanup(self.process.kill)
+        if title:
+            self.desktop.window(title)
+        return self.process
+
+    def still_runs(self):
+        self.assertIsNone(self.process.poll())
+
+    def ends(self, status=0):
+        self.assertEqual(ended(self.process), status)
+
+    def errors(self):
+        """What the program has printed on standard error until its end."""
+        return self.process.stderr.read().decode()
+
+    def charts(self, capture):
+        """Copies the capture, a monthly screen, while a window is up; Refresh charts it."""
+        self.desktop.copy(capture)
+        self.desktop.key("F5")
+        self.desktop.window(CHART)
+
+    def needs_data(self):
+        """The program says that there is no data, and shows the start-up window then."""
+        self.desktop.window(NEED_DATA)
+        self.desktop.key("Return")
+        self.desktop.gone(NEED_DATA)
+        self.desktop.window(START)
+
+    def leave(self):
+        """Escape leads from a chart or list to the start-up window, and ends the program there."""
+        self.desktop.key("Escape")
+        self.desktop.window(START)
+        self.desktop.key("Escape")
+        self.ends()
+
+
+def main():
+    """Runs the tests of the file that is run; its last argument is the program."""
+    DesktopTest.program = sys.argv.pop()
+    unittest.main(verbosity=2)
 
 
 signal.signal(signal.SIGTERM, lambda *_: exit(1))  # a test that takes too long still cleans up

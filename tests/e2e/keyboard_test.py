@@ -1,29 +1,18 @@
-"""The program without a mouse; where the focus stands is what assistive technology is told."""
+"""The program without a mouse; which control has the focus is asked as assistive technology asks."""
 
-import sys
-import unittest
-
-from accessible import SpokenDesktop
-from desktop import SAMPLES, ended, soon
+from accessible import SpokenTest
+from desktop import CHART, LIST, START, main, sample, soon
 
 
-class Keyboard(unittest.TestCase):
-    @classmethod
-    def setUpClass(cls):
-        cls.desktop = SpokenDesktop(program)
-        cls.desktop.__enter__()
-        cls.addClassCleanup(cls.desktop.__exit__)
-
-    def start(self, sample, title="Plotvue!"):
-        self.desktop.copy((SAMPLES / f"{sample}.txt").read_bytes())
-        self.process = self.desktop.start()
-        self.addCleanup(self.process.wait)
-        self.addCleanup(self.process.kill)
+class Keyboard(SpokenTest):
+    def open(self, name, title=CHART):
+        self.desktop.copy(sample(name))
+        self.start()
         return self.shown(title)
 
     def shown(self, title):
         self.desktop.window(title)
-        return self.desktop.application(self.process).shown(title)
+        return self.application().shown(title)
 
     def focus_is(self, window, role, name):
         def there():
@@ -35,15 +24,15 @@ class Keyboard(unittest.TestCase):
         except AssertionError:
             self.fail(f"The focus is on {self.focus}, not on {role} {name!r}.")
 
-    def tab_goes_through(self, window, *stations):
-        for role, name in stations:
+    def tab_goes_through(self, window, *controls):
+        for role, name in controls:
             self.desktop.key("Tab")
             self.focus_is(window, role, name)
 
     def charted(self, name):
         """Waits until a window has the focus on a chart of that name; returns the window."""
         def there():
-            for window in self.desktop.application(self.process).children():
+            for window in self.application().children():
                 focus = window.focused() if window.has("SHOWING") else None
                 if focus and focus.role == "chart" and name in focus.name:
                     return window
@@ -52,33 +41,33 @@ class Keyboard(unittest.TestCase):
         return soon(f"{name} is charted", there)
 
     def gone_to_the_start_window(self):
-        self.desktop.window("Plot Vue!")
-        self.desktop.gone("Plotvue!")
+        self.desktop.window(START)
+        self.desktop.gone(CHART)
 
-    def test_tab_goes_through_a_chart_window_as_the_eye_does(self):
-        window = self.start("product")
+    def test_tab_goes_through_a_chart_window_in_reading_order(self):
+        window = self.open("product")
         chart = window.first("chart")
         self.focus_is(window, "chart", chart.name)
         self.tab_goes_through(window, ("radio button", "12 Month"), ("radio button", "Sales"),
                               ("push button", "Print"), ("push button", "Refresh"), ("push button", "Exit"),
                               ("chart", chart.name))
 
-    def test_tab_goes_through_the_start_window_as_the_eye_does(self):
-        self.start("product")
+    def test_tab_goes_through_the_start_window_in_reading_order(self):
+        self.open("product")
         self.desktop.key("Escape")
-        window = self.shown("Plot Vue!")
+        window = self.shown(START)
         self.focus_is(window, "push button", "Refresh")
         self.tab_goes_through(window, ("push button", "Exit"), ("list item", "Sales Journal History"),
                               ("push button", "Refresh"))
 
-    def test_tab_goes_through_a_list_window_as_the_eye_does(self):
-        window = self.start("vendors", "PlotVue")
+    def test_tab_goes_through_a_list_window_in_reading_order(self):
+        window = self.open("vendors", LIST)
         self.focus_is(window, "table", "Inventory")
         self.tab_goes_through(window, ("push button", "Tips"), ("push button", "Print"), ("push button", "Exit"),
                               ("text", "Analysis"), ("text", "Summary"), ("table", "Inventory"))
 
     def test_arrows_choose_in_an_option_group(self):
-        window = self.start("product")
+        window = self.open("product")
         chart = window.first("chart")
         self.assertEqual(len(chart.children()), 13)
         self.desktop.key("Tab", "Up")
@@ -89,27 +78,27 @@ class Keyboard(unittest.TestCase):
         soon("12 months are charted", lambda: len(chart.children()) == 13)
 
     def test_arrows_go_through_the_points_of_a_chart(self):
-        window = self.start("product")
+        window = self.open("product")
         points = [point.name for point in window.first("chart").children()]
         for key, point in (("Right", 0), ("Right", 1), ("End", -1), ("Left", -2), ("Home", 0), ("Left", 0)):
             self.desktop.key(key)
             self.focus_is(window, "list item", points[point])
 
     def test_escape_hides_the_read_out_and_then_leaves(self):
-        window = self.start("product")
+        window = self.open("product")
         chart = window.first("chart")
         self.desktop.key("Right")
         self.focus_is(window, "list item", chart.children()[0].name)
         self.desktop.key("Escape")
         self.focus_is(window, "chart", chart.name)
-        self.assertIn("Plotvue!", self.desktop.windows())
+        self.assertIn(CHART, self.desktop.windows())
         self.desktop.key("Escape")
         self.gone_to_the_start_window()
         self.desktop.key("Escape")
-        self.assertEqual(ended(self.process), 0)
+        self.ends()
 
     def test_enter_on_a_row_opens_the_drill_down_that_steps_through_the_list(self):
-        window = self.start("vendors", "PlotVue")
+        window = self.open("vendors", LIST)
         table = window.first("table")
         vendors = [table.cell(row, 2).name for row in range(3)]
         self.desktop.key("Down", "Return")
@@ -127,7 +116,7 @@ class Keyboard(unittest.TestCase):
     def test_refresh_by_key(self):
         for key in ("F5", "alt+r"):
             with self.subTest(key):
-                self.start("product")
+                self.open("product")
                 self.desktop.copy(None)
                 self.desktop.key(key)
                 self.gone_to_the_start_window()
@@ -135,12 +124,12 @@ class Keyboard(unittest.TestCase):
                 self.process.wait()
 
     def test_exit_by_key(self):
-        self.start("product")
+        self.open("product")
         self.desktop.key("alt+x")
         self.gone_to_the_start_window()
 
     def test_print_by_key_opens_a_dialog_that_escape_closes(self):
-        self.start("product")
+        self.open("product")
         before = sorted(self.desktop.home.iterdir())
         for key in ("ctrl+p", "alt+p"):
             with self.subTest(key):
@@ -148,15 +137,14 @@ class Keyboard(unittest.TestCase):
                 self.desktop.window("Print")
                 self.desktop.key("Escape")
                 self.desktop.gone("Print")
-                self.desktop.window("Plotvue!")
+                self.desktop.window(CHART)
         self.assertEqual(sorted(self.desktop.home.iterdir()), before)
 
-    def test_shortcuts_are_told(self):
-        window = self.start("product")
+    def test_tooltips_name_the_shortcuts(self):
+        window = self.open("product")
         for name, key in (("Print", "Ctrl+P"), ("Refresh", "F5"), ("Exit", "Esc")):
             self.assertEqual(window.first("push button", name).description(), f"{name} ({key})")
 
 
 if __name__ == "__main__":
-    program = sys.argv.pop()
-    unittest.main(verbosity=2)
+    main()

@@ -1,11 +1,11 @@
-"""A print server of the test's own: its queues keep what they are sent."""
+"""A print server for one test: its queues keep what is sent to them."""
 
 import os
 import subprocess
 import tempfile
 from pathlib import Path
 
-from desktop import soon
+from desktop import CHART, PRODUCT, DesktopTest, soon
 
 BACKEND = """#!/bin/sh
 # backend JOB USER TITLE COPIES OPTIONS [FILE]
@@ -59,7 +59,7 @@ Shared No
 
 
 class PrintServer:
-    """Runs on the desktop given, whose programs see it as theirs; ends with that desktop."""
+    """A print server that the programs on the desktop use; it ends with the desktop."""
 
     def __init__(self, desktop, queues):
         # Not below the home directory: the server's helpers run as another user when the test runs as root.
@@ -101,6 +101,14 @@ class PrintServer:
     def copies(self, job):
         return int((self.kept / f"{job}.copies").read_text())
 
+    def check_pages(self, test, jobs):
+        """Each job must be one copy of one page that is not empty."""
+        for job in jobs:
+            test.assertEqual(self.copies(job), 1)
+            pages = self.page_pixels(job)
+            test.assertEqual(len(pages), 1)
+            test.assertGreater(pages[0], 2000)
+
     def page_pixels(self, job):
         """For every page of the job: how many pixels are not white."""
         pages = []
@@ -110,3 +118,31 @@ class PrintServer:
             pages.append(sum(byte < 250 for byte in page.read_bytes()[15:]))
             page.unlink()
         return pages
+
+
+class PrintTest(DesktopTest):
+    """Tests with a chart on the screen and two printers, of which the first is the default."""
+
+    def setUp(self):
+        super().setUp()
+        self.server = PrintServer(self.desktop, ["first", "second"])
+        self.addCleanup(self.server.close)
+        self.desktop.copy(PRODUCT)
+        self.start(CHART)
+
+    def open_dialog(self):
+        self.desktop.key("ctrl+p")
+        return self.desktop.window("Print")
+
+    def cancel(self):
+        self.desktop.key("Escape")
+        self.desktop.gone("Print")
+
+    def print_copies(self, *digits):
+        """Prints so many copies on the second printer, by the keys of the dialog that is open."""
+        dialog = self.desktop.window("Print")
+        height = self.desktop.height(dialog)
+        self.desktop.key("alt+o")  # more options
+        soon("the dialog shows its options", lambda: self.desktop.height(dialog) > height)
+        self.desktop.key("alt+n", "Down")  # the next printer
+        self.desktop.key(*["Tab"] * 6, *digits, "alt+p")  # the number of copies has no key of its own

@@ -1,19 +1,17 @@
-"""What real terminals copy off a host's screen is charted as the screen itself, blanks at line ends or none."""
+"""What terminals copy from a host's screen is charted like the screen itself, with or without blanks at line ends."""
 
-import sys
-import unittest
 from contextlib import suppress
 
 import terminals
-from accessible import SpokenDesktop
-from desktop import SAMPLES, NotInTime, soon
+from accessible import SpokenTest
+from desktop import SAMPLES, NotInTime, main, soon
 
 LINES, COLUMNS = 24, 80
 SCREENS = ("product", "glhistory", "active", "glexpense", "pastdue")
 
 
 def page(sample):
-    """The lines of the sample's first page, as they are in it."""
+    """The lines of the sample's first page."""
     lines = (SAMPLES / f"{sample}.txt").read_text().splitlines()
     return lines[:next((i for i in range(1, LINES) if lines[i] == lines[0]), LINES)]
 
@@ -36,7 +34,7 @@ def words(chart):
     return [chart.name, *(point.name for point in chart.children())]
 
 
-def told(desktop):
+def charted(desktop):
     """The words of the chart that the program opens when it starts, or of its list and the chart of the first row."""
     process = desktop.start()
     try:
@@ -54,16 +52,14 @@ def told(desktop):
         process.communicate()
 
 
-class Terminals(unittest.TestCase):
+class Terminals(SpokenTest):
     @classmethod
     def setUpClass(cls):
-        cls.desktop = SpokenDesktop(program)
-        cls.desktop.__enter__()
-        cls.addClassCleanup(cls.desktop.__exit__)
+        super().setUpClass()
         cls.intact = {}
         for sample in SCREENS:
             cls.desktop.copy("".join(line + "\r\n" for line in page(sample)).encode())
-            cls.intact[sample] = told(cls.desktop)
+            cls.intact[sample] = charted(cls.desktop)
         cls.desktop.copy(None)
 
     def copied(self, copy, lines):
@@ -91,10 +87,10 @@ class Terminals(unittest.TestCase):
                         text = self.copied(copy, lines)
                         keeps = painted and terminal is terminals.xterm
                         self.assertEqual(" \n" in text, keeps, "blanks at the ends of lines")
-                        found = told(self.desktop)
+                        found = charted(self.desktop)
                     self.assertEqual(found, self.intact[sample])
                 if not found:
-                    return  # the others would be waited for as long
+                    return  # the other samples would take as long to fail
 
     def test_xterm(self):
         self.check(terminals.xterm)
@@ -107,5 +103,4 @@ class Terminals(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    program = sys.argv.pop()
-    unittest.main(verbosity=2)
+    main()

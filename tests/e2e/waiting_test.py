@@ -1,58 +1,46 @@
-"""A screen too short to be read: the person is told, whatever window is up, and can end the program."""
+"""A screen that is too short to be read: a box says so, whatever window is visible, and can end the program."""
 
-import sys
-import unittest
+from accessible import Atspi, SpokenTest
+from desktop import CHART, LIST, PRODUCT, main, soon
 
-from accessible import Atspi, SpokenDesktop
-from desktop import SAMPLES, ended, soon
-
-PRODUCT = (SAMPLES / "product.txt").read_bytes()
+BOX = LIST  # it has the title of the list windows
 SHORT = b"".join(PRODUCT.splitlines(keepends=True)[:11])
 BAR = "#2458B0"
 
 
-class Waiting(unittest.TestCase):
-    @classmethod
-    def setUpClass(cls):
-        cls.desktop = SpokenDesktop(program)
-        cls.desktop.__enter__()
-        cls.addClassCleanup(cls.desktop.__exit__)
-
-    def start(self, capture):
+class Waiting(SpokenTest):
+    def start_with(self, capture):
         self.desktop.copy(capture)
-        self.process = self.desktop.start()
-        self.addCleanup(self.process.wait)
-        self.addCleanup(self.process.kill)
+        self.start()
 
     def start_window(self):
         """The start-up window, and nothing on the clipboard."""
-        self.start(None)
-        self.desktop.window("Need Data")
-        self.desktop.key("Return")
-        self.desktop.window("Plot Vue!")
+        self.start_with(None)
+        self.needs_data()
 
     def chart(self):
         """A chart, and a screen that is too short on the clipboard."""
-        self.start(PRODUCT)
-        self.desktop.window("Plotvue!")
-        window = self.desktop.application(self.process).shown("Plotvue!")
+        self.start_with(PRODUCT)
+        self.desktop.window(CHART)
+        window = self.application().shown(CHART)
         self.desktop.copy(SHORT)
         return window
 
     def box(self, lines="11 lines"):
-        """The box, after a look at what it says."""
-        self.desktop.window("PlotVue")
-        box = self.desktop.application(self.process).shown("PlotVue", role="alert")
+        """Waits for the box, checks what it says and returns it."""
+        self.desktop.window(BOX)
+        box = self.application().shown(BOX, role="alert")
         words = " ".join(node.name for node in box.walk() if node.role == "label")
         for part in (f" {lines},", " 24;", "at least 20 ", "keep the blanks"):
             self.assertIn(part, words)
         self.assertEqual([node.name for node in box.walk() if node.role == "push button"], ["Close PlotVue"])
-        self.assertIsNone(self.process.poll())
+        self.still_runs()
         return box
 
-    def ends(self):
-        self.assertEqual(ended(self.process), 1)
-        self.assertRegex(self.process.stderr.read().decode(), r"^PlotVue: [^\n]*fewer than 20 lines[^\n]*\n$")
+    def fails(self):
+        """The program ends, and says why on standard error."""
+        self.ends(1)
+        self.assertRegex(self.errors(), r"^PlotVue: [^\n]*fewer than 20 lines[^\n]*\n$")
 
     def bars(self, window):
         """How many pixels of the window have the bars' colour."""
@@ -65,23 +53,23 @@ class Waiting(unittest.TestCase):
                             str(place.y + place.height // 2), "click", "1")
 
     def test_at_the_start_the_box_is_alone(self):
-        self.start(SHORT)
+        self.start_with(SHORT)
         self.box()
-        self.assertEqual(list(self.desktop.windows()), ["PlotVue"])
+        self.assertEqual(list(self.desktop.windows()), [BOX])
         self.desktop.key("Return")
-        self.ends()
+        self.fails()
 
     def test_one_line(self):
-        self.start(b"QXM31H          10\r\n")
+        self.start_with(b"QXM31H          10\r\n")
         self.box("1 line")
         self.desktop.key("space")
-        self.ends()
+        self.fails()
 
     def test_empty_lines_do_not_count_and_blank_ones_do(self):
-        self.start(b"QXM31H          10\r\n\r\nPRODUCT:\r\n \r\n\r\n")
+        self.start_with(b"QXM31H          10\r\n\r\nPRODUCT:\r\n \r\n\r\n")
         self.box("3 lines")
         self.desktop.key("Escape")
-        self.ends()
+        self.fails()
 
     def test_at_refresh_in_the_start_up_window(self):
         self.start_window()
@@ -89,20 +77,20 @@ class Waiting(unittest.TestCase):
         self.desktop.key("F5")
         self.box()
         self.desktop.key("Escape")
-        self.ends()
+        self.fails()
 
     def test_by_mouse_at_an_option_with_a_chart_open(self):
         window = self.chart()
         self.click(window.first("radio button", "Profit"))
         self.click(self.box().first("push button", "Close PlotVue"))
-        self.ends()
+        self.fails()
 
     def test_by_the_title_bar_of_the_box(self):
         self.chart()
         self.desktop.key("F5")
         self.box()
         self.desktop.key("alt+F4")
-        self.ends()
+        self.fails()
 
     def test_by_assistive_technology_which_runs_nothing_under_the_box(self):
         window = self.chart()
@@ -111,24 +99,23 @@ class Waiting(unittest.TestCase):
         window.first("push button", "Exit").press()
         window.first("push button", "Refresh").press()
         self.assertEqual(box.description(), box.description())  # asked after them, it answers after them
-        self.assertEqual(sorted(self.desktop.windows()), ["PlotVue", "Plotvue!"])
+        self.assertEqual(sorted(self.desktop.windows()), [BOX, CHART])
         box.first("push button", "Close PlotVue").press()
-        self.ends()
+        self.fails()
 
     def test_the_chart_under_the_box_stays_painted(self):
         self.chart()
         self.desktop.key("F5")
         self.box()
-        number = self.desktop.windows()["Plotvue!"]
-        box = self.desktop.windows()["PlotVue"]
+        number = self.desktop.windows()[CHART]
+        box = self.desktop.windows()[BOX]
         self.desktop.output("xdotool", "windowmove", box, "0", "0")
         self.desktop.output("xdotool", "windowsize", number, "820", "600")
         soon("the chart is painted in its new size",
              lambda: self.desktop.height(number) == 600 and self.bars(number) > 5000)
         self.desktop.key("Return")
-        self.ends()
+        self.fails()
 
 
 if __name__ == "__main__":
-    program = sys.argv.pop()
-    unittest.main(verbosity=2)
+    main()

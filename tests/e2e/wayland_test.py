@@ -1,21 +1,17 @@
-"""The program on a Wayland desktop, where only the window with the focus is told what the clipboard holds."""
+"""The program on a Wayland desktop, where only the window with the focus may read the clipboard."""
 
 import json
 import os
 import shutil
-import sys
 import tempfile
 import time
-import unittest
 from pathlib import Path
 
-from desktop import SAMPLES, Desktop, ended, soon
-
-PRODUCT = (SAMPLES / "product.txt").read_bytes()
+from desktop import CHART, NEED_DATA, PRODUCT, START, Desktop, DesktopTest, main, soon
 
 
 class WaylandDesktop(Desktop):
-    """A compositor without a screen, with a keyboard. It refuses to be root's: then all is run by nobody."""
+    """A compositor without a screen, with a keyboard. It does not run as root: then the user nobody runs everything."""
 
     def __enter__(self):
         self.home = Path(tempfile.mkdtemp(prefix="plotvue-"))
@@ -79,35 +75,23 @@ class WaylandDesktop(Desktop):
         soon(f"the window {title!r} has the focus", lambda: self.windows().get(title))
 
 
-class Wayland(unittest.TestCase):
-    def setUp(self):
-        self.desktop = WaylandDesktop(program)
-        self.desktop.__enter__()
-        self.addCleanup(self.desktop.__exit__)
+class Wayland(DesktopTest):
+    desktop_class = WaylandDesktop
 
     def test_a_capture_at_the_start_opens_its_window_alone(self):
         self.desktop.copy(PRODUCT)
-        process = self.desktop.start()
-        self.desktop.window("Plotvue!")
+        self.start(CHART)
         time.sleep(1.5)  # longer than the program waits for the focus
-        self.assertEqual(list(self.desktop.windows()), ["Plotvue!"])
-        self.assertIsNone(process.poll())
+        self.assertEqual(list(self.desktop.windows()), [CHART])
+        self.still_runs()
 
     def test_a_capture_that_comes_later_is_charted_by_refresh(self):
-        process = self.desktop.start()
-        self.desktop.window("Need Data")
-        self.desktop.key("Return")
-        self.desktop.window("Plot Vue!")
-        self.desktop.copy(PRODUCT)
-        self.desktop.key("F5")
-        self.desktop.window("Plotvue!")
-        self.desktop.gone("Plot Vue!")
-        self.desktop.key("Escape")
-        self.desktop.window("Plot Vue!")
-        self.desktop.key("Escape")
-        self.assertEqual(ended(process), 0)
+        self.start(NEED_DATA)
+        self.needs_data()
+        self.charts(PRODUCT)
+        self.desktop.gone(START)
+        self.leave()
 
 
 if __name__ == "__main__":
-    program = sys.argv.pop()
-    unittest.main(verbosity=2)
+    main()

@@ -1,25 +1,16 @@
 """What other programs may hold on an X11 clipboard, and how badly they may behave."""
 
 import signal
-import sys
 import time
-import unittest
 
-from accessible import SpokenDesktop
-from desktop import SAMPLES, soon
+from accessible import SpokenTest
+from desktop import CHART, NEED_DATA, PRODUCT, START, main, sample, soon
 
-PRODUCT = (SAMPLES / "product.txt").read_bytes()
 PICTURE = b"\x89PNG\r\n\x1a\n" + bytes(64)
 LARGE = 5_000_000  # more than one transfer carries: it comes in pieces
 
 
-class X11Clipboard(unittest.TestCase):
-    @classmethod
-    def setUpClass(cls):
-        cls.desktop = SpokenDesktop(program)
-        cls.desktop.__enter__()
-        cls.addClassCleanup(cls.desktop.__exit__)
-
+class X11Clipboard(SpokenTest):
     def own(self, target, content):
         """Another program offers the content as this type and no other; returns the program."""
         path = self.desktop.home / "content"
@@ -31,20 +22,13 @@ class X11Clipboard(unittest.TestCase):
             "xclip", "-selection", "clipboard", "-t", "TARGETS", "-out").split())
         return owner
 
-    def start(self):
-        process = self.desktop.start()
-        self.addCleanup(process.wait)
-        self.addCleanup(process.kill)
-        return process
-
-    def chart(self, title="Plotvue!"):
+    def chart(self):
         """Starts the program; returns the name and the points of the chart that it opens."""
-        process = self.start()
-        self.desktop.window(title)
-        chart = self.desktop.application(process).shown(title).first("chart")
+        self.start(CHART)
+        chart = self.application().shown(CHART).first("chart")
         points = [point.name for point in chart.children()]
-        process.kill()
-        process.wait()
+        self.process.kill()
+        self.process.wait()
         return chart.name, points
 
     def plain(self):
@@ -73,19 +57,18 @@ class X11Clipboard(unittest.TestCase):
         self.assertEqual(found, points)
 
     def test_line_ends_of_any_kind_chart_the_same(self):
-        for sample in ("product", "glhistory", "customer", "salesmencategories"):
-            capture = (SAMPLES / f"{sample}.txt").read_bytes()
+        for name in ("product", "glhistory", "customer", "salesmencategories"):
+            capture = sample(name)
             self.own("UTF8_STRING", capture)
             expected = self.chart()
             for ends in (b"\n", b"\r"):
-                with self.subTest(sample=sample, ends=ends):
+                with self.subTest(sample=name, ends=ends):
                     self.own("UTF8_STRING", capture.replace(b"\r\n", ends))
                     self.assertEqual(self.chart(), expected)
 
     def test_a_picture_is_no_data(self):
         self.own("image/png", PICTURE)
-        self.start()
-        self.desktop.window("Need Data")
+        self.start(NEED_DATA)
 
     def test_a_large_text_is_read_from_its_beginning(self):
         expected = self.plain()
@@ -98,34 +81,29 @@ class X11Clipboard(unittest.TestCase):
         self.own("UTF8_STRING", anonymous + b"no screen at all\r\n" * (LARGE // 18) + b"QXM31H\r\n")
         name, found = self.chart()
         self.assertEqual(name, expected)
-        # The day stands behind the identifier: there is none, and the newest month without a projection.
+        # The day comes after the identifier: there is none, and the newest month without a projection.
         self.assertEqual(found[:-1], points[:-1])
 
     def test_an_owner_that_hangs_is_no_data_and_the_program_lives_on(self):
         owner = self.own("UTF8_STRING", PRODUCT)
         owner.send_signal(signal.SIGSTOP)
-        process = self.start()
+        self.start()
         began = time.monotonic()
-        self.desktop.window("Need Data")
+        self.desktop.window(NEED_DATA)
         self.assertLess(time.monotonic() - began, 7)
-        self.desktop.key("Return")
-        self.desktop.window("Plot Vue!")
+        self.needs_data()
         owner.kill()
-        self.desktop.copy(PRODUCT)
-        self.desktop.key("F5")
-        self.desktop.window("Plotvue!")
-        self.assertIsNone(process.poll())
+        self.charts(PRODUCT)
+        self.still_runs()
 
     def test_an_owner_that_goes_while_a_chart_is_shown_leads_back(self):
         owner = self.own("UTF8_STRING", PRODUCT)
-        self.start()
-        self.desktop.window("Plotvue!")
+        self.start(CHART)
         owner.kill()
         owner.wait()
         self.desktop.key("F5")
-        self.desktop.window("Plot Vue!")
+        self.desktop.window(START)
 
 
 if __name__ == "__main__":
-    program = sys.argv.pop()
-    unittest.main(verbosity=2)
+    main()

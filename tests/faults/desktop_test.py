@@ -1,43 +1,28 @@
-"""The real program when what it stands on halts or goes away: the clipboard's owner, the display."""
+"""The real program when what it depends on halts or goes away: the clipboard's owner, the display."""
 
 import os
 import signal
 import subprocess
 import sys
 import time
-import unittest
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
-from desktop import SAMPLES, Desktop, ended, soon
+from desktop import (  # noqa: E402
+    CHART, LIST, NEED_DATA, PRODUCT, START, Desktop, DesktopTest, ended, main, sample, soon)
 
-PRODUCT = (SAMPLES / "product.txt").read_bytes()
-GAINS = (SAMPLES / "monthtomonth.txt").read_bytes()
-VENDORS = (SAMPLES / "vendors.txt").read_bytes()
-LONG = PRODUCT + b"no screen at all\r\n" * 300_000  # comes in many pieces
+GAINS, VENDORS = sample("monthtomonth"), sample("vendors")
+LONG = PRODUCT + b"no screen at all\r\n" * 300_000  # is sent in many pieces
 
 
-class OnTheDesktop(unittest.TestCase):
-    def setUp(self):
-        self.desktop = Desktop(program)
-        self.desktop.__enter__()
-        self.addCleanup(self.desktop.__exit__)
-
-    def need_data(self):
-        self.desktop.window("Need Data")
-        self.desktop.key("Return")
-        self.desktop.gone("Need Data")
-        self.desktop.window("Plot Vue!")
-
-    def charts_the_next_capture(self, process):
-        self.desktop.copy(PRODUCT)
-        self.desktop.key("F5")
-        self.desktop.window("Plotvue!")
-        self.assertIsNone(process.poll())
+class OnTheDesktop(DesktopTest):
+    def charts_the_next_capture(self):
+        self.charts(PRODUCT)
+        self.still_runs()
         self.still_held(PRODUCT)
 
     def still_held(self, capture, owner=None):
-        """Whatever has happened, the clipboard is its owner's, and holds what was copied."""
+        """The clipboard still has its owner and holds what was copied."""
         self.assertIsNone((owner or self.desktop.owner).poll())
         held = subprocess.run(["xclip", "-selection", "clipboard", "-out"], env=self.desktop.env,
                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, timeout=20, check=True).stdout
@@ -53,54 +38,54 @@ class OnTheDesktop(unittest.TestCase):
         return owner
 
     def start_with_an_owner_that_halts(self, pieces):
-        """The program comes back, in the time that the toolkit gives an owner, and says that there is no data."""
+        """After the time that the toolkit gives an owner the program goes on, and says that there is no data."""
         owner = self.halting_owner(LONG, pieces)
-        process = self.desktop.start()
+        self.start()
         stat = Path(f"/proc/{owner.pid}/stat")
         soon("the owner has halted", lambda: stat.read_text().rpartition(")")[2].split()[0] == "T")
         began = time.monotonic()
-        self.need_data()
+        self.needs_data()
         self.assertLess(time.monotonic() - began, 8)
-        return owner, process
+        return owner
 
-    def test_an_owner_that_halts_amid_a_long_answer_and_goes_on(self):
-        owner, process = self.start_with_an_owner_that_halts(pieces=10)
+    def test_an_owner_that_halts_during_a_long_answer_and_goes_on(self):
+        owner = self.start_with_an_owner_that_halts(pieces=10)
         owner.send_signal(signal.SIGCONT)
         self.still_held(LONG, owner)
         self.desktop.key("F5")
-        self.desktop.window("Plotvue!")
+        self.desktop.window(CHART)
         self.still_held(LONG, owner)
-        self.assertIsNone(process.poll())
+        self.still_runs()
 
-    def test_an_owner_that_halts_amid_a_long_answer_and_another_copy(self):
-        owner, process = self.start_with_an_owner_that_halts(pieces=1)
-        self.charts_the_next_capture(process)
+    def test_an_owner_that_halts_during_a_long_answer_and_another_copy(self):
+        owner = self.start_with_an_owner_that_halts(pieces=1)
+        self.charts_the_next_capture()
         owner.send_signal(signal.SIGCONT)
         self.assertEqual(ended(owner), 0)  # the clipboard is no longer its own
         self.desktop.key("F5")
-        self.desktop.window("Plotvue!")
+        self.desktop.window(CHART)
         self.still_held(PRODUCT)
 
     def test_an_owner_that_is_gone_when_it_should_answer(self):
         self.desktop.copy(PRODUCT)
         os.kill(self.desktop.owner.pid, signal.SIGSTOP)
-        process = self.desktop.start()
-        time.sleep(1)  # it has asked by now and waits
+        self.start()
+        time.sleep(1)  # by now it has asked and is waiting
         self.desktop.owner.kill()
-        self.need_data()
-        self.charts_the_next_capture(process)
+        self.needs_data()
+        self.charts_the_next_capture()
 
-    def test_an_owner_that_is_gone_amid_a_long_answer(self):
-        self.desktop.copy(b" " * 50_000_000)  # comes in pieces; whole or not, it is no screen
-        process = self.desktop.start()
+    def test_an_owner_that_is_gone_during_a_long_answer(self):
+        self.desktop.copy(b" " * 50_000_000)  # is sent in pieces; whole or not, it is no screen
+        self.start()
         time.sleep(0.5)
         self.desktop.owner.kill()
-        self.need_data()
-        self.charts_the_next_capture(process)
+        self.needs_data()
+        self.charts_the_next_capture()
 
     def test_the_display_is_closed(self):
-        for capture, title in ((None, "Need Data"), (PRODUCT, "Plotvue!")):
-            with self.subTest(title), Desktop(program) as desktop:
+        for capture, title in ((None, NEED_DATA), (PRODUCT, CHART)):
+            with self.subTest(title), Desktop(self.program) as desktop:
                 desktop.copy(capture)
                 process = desktop.start()
                 desktop.window(title)
@@ -109,18 +94,17 @@ class OnTheDesktop(unittest.TestCase):
 
     def test_no_display_at_all(self):
         self.desktop.env["DISPLAY"] = ":4711"
-        self.assertNotEqual(ended(self.desktop.start()), 0)
+        self.assertNotEqual(ended(self.start()), 0)
 
     def test_a_folder_in_the_place_of_the_scratch_file(self):
         (self.desktop.home / "pvuscrn.txt").mkdir()
         self.desktop.copy(GAINS)
-        process = self.desktop.start()
-        self.desktop.window("PlotVue")
+        self.start(LIST)
         self.still_held(GAINS)
         self.desktop.key("Return")
-        self.assertEqual(ended(process), 1)
+        self.ends(1)
         self.still_held(GAINS)
-        self.assertRegex(process.stderr.read().decode(),
+        self.assertRegex(self.errors(),
                          r"^PlotVue: The file pvuscrn.txt in the working directory cannot be created \(.+\)\.\n$")
 
     def test_nothing_is_written_but_the_three_files(self):
@@ -129,8 +113,8 @@ class OnTheDesktop(unittest.TestCase):
         here.mkdir()
         variables = [f"{name}={elsewhere}" for name in ("HOME", "TMPDIR", "XDG_RUNTIME_DIR")]
         self.desktop.copy(VENDORS)
-        process = self.desktop.launch("env", f"--chdir={here}", *variables, program, stderr=subprocess.PIPE)
-        self.desktop.window("PlotVue")
+        self.process = self.desktop.launch("env", f"--chdir={here}", *variables, self.program)
+        self.desktop.window(LIST)
         self.desktop.key("Return")
         soon("a row is charted", lambda: (here / "plotvue.txt").exists())
         self.desktop.key("Page_Down", "ctrl+p")
@@ -138,18 +122,12 @@ class OnTheDesktop(unittest.TestCase):
         self.desktop.key("Escape")
         self.desktop.gone("Print")
         self.desktop.key("Escape", "Escape")
-        self.desktop.window("Plot Vue!")
-        self.desktop.copy(PRODUCT)
-        self.desktop.key("F5")
-        self.desktop.window("Plotvue!")
-        self.desktop.key("Escape")
-        self.desktop.window("Plot Vue!")
-        self.desktop.key("Escape")
-        self.assertEqual(ended(process), 0)
+        self.desktop.window(START)
+        self.charts(PRODUCT)
+        self.leave()
         self.assertEqual(sorted(path.name for path in here.iterdir()), ["plotvue.txt", "plotvue1.txt", "pvuscrn.txt"])
         self.assertEqual(list(elsewhere.iterdir()), [])
 
 
 if __name__ == "__main__":
-    program = sys.argv.pop()
-    unittest.main(verbosity=2)
+    main()

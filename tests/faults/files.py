@@ -1,33 +1,34 @@
-"""A replayed session, and what may befall the small files in the midst of it."""
+"""Replayed sessions, and damage to the small files in the middle of them."""
 
 import os
 import shutil
 import subprocess
+import sys
 import tempfile
 import unittest
 from pathlib import Path
 
-from replay import Replay
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "replay"))
+from replay import SAMPLES, Replay  # noqa: E402
 
-SAMPLES = Path(__file__).resolve().parents[2] / "samples"
 LIST, CHARTS = "frmM2Mpft", "frmM2MpftA"
 SCRATCH, ENTRIES, CHOSEN = "pvuscrn.txt", "plotvue.txt", "plotvue1.txt"
-CHOOSING = [f"row {LIST} MSFlexGrid1 1", f"click {CHARTS} cmdBack", f"click {CHARTS} cmdNext"]
+ROW, BACK, DOWN = f"row {LIST} MSFlexGrid1 1", f"click {CHARTS} cmdBack", f"click {CHARTS} cmdNext"
 FULL = "No space left on device"
 END_OF_LIST = {"event": "message", "title": "", "text": "End of list"}
 
 MOUNTING = ("unshare", "--map-root-user", "--mount", "sh", "-c")
 MAY_MOUNT = not subprocess.run([*MOUNTING, "mount -t tmpfs none /mnt"], check=False,
                                stderr=subprocess.DEVNULL).returncode
-# Whoever may do everything lays that down: what a file's mode forbids is forbidden then.
+# Root gives up its rights: then what a file's mode forbids is forbidden.
 BARE = ("setpriv", "--bounding-set=-dac_override,-dac_read_search") if os.getuid() == 0 else ()
 
 
 def disk_of(pages, directory):
-    """What makes the directory a disk of that many pages of 4 KB."""
+    """The command that makes the directory a disk of that many pages of 4 KB for the command that follows it."""
     if MAY_MOUNT:
         return (*MOUNTING, f'mount -t tmpfs -o size={4 * pages}k none "{directory}" && cd "{directory}" && exec "$0" "$@"')
-    # A limit to the size of files runs into the same end.
+    # A limit to the size of files has the same effect.
     return ("prlimit", f"--fsize={4096 * pages}", "--", "env", "--ignore-signal=XFSZ")
 
 
@@ -77,20 +78,31 @@ class Files(unittest.TestCase):
         self.assertTrue(replay.state(LIST)["visible"])
 
     def take(self, name):
-        (self.directory / name).unlink()
+        """Takes the file, or what was put in its place, away."""
+        path = self.directory / name
+        if path.is_dir():
+            path.rmdir()
+        else:
+            path.unlink(missing_ok=True)
+
+    def put(self, name, content):
+        (self.directory / name).write_bytes(content)
 
     def put_folder(self, name):
-        (self.directory / name).unlink(missing_ok=True)
+        self.take(name)
         (self.directory / name).mkdir()
 
     def put_pipe(self, name):
-        (self.directory / name).unlink(missing_ok=True)
+        self.take(name)
         os.mkfifo(self.directory / name)
 
+    def put_link(self, name, target):
+        self.take(name)
+        (self.directory / name).symlink_to(target)
+
     def put_full_device(self, name):
-        (self.directory / name).unlink(missing_ok=True)
-        (self.directory / name).symlink_to("/dev/full")
-        if os.getuid() == 0:  # the device is everybody's: even a program that is wrong must not change it for good
+        self.put_link(name, "/dev/full")
+        if os.getuid() == 0:  # all programs share the device: even a faulty PlotVue must not change its rights for good
             self.addCleanup(os.chmod, "/dev/full", 0o666)
 
     def allow(self, name, mode):
@@ -99,3 +111,9 @@ class Files(unittest.TestCase):
     def cut(self, name, keep):
         path = self.directory / name
         path.write_bytes(path.read_bytes()[:keep])
+
+
+def main():
+    """Runs the tests of the file that is run; its last argument is the replay program."""
+    Files.program = Path(sys.argv.pop()).resolve()
+    unittest.main(verbosity=2)

@@ -1,26 +1,21 @@
 """Two of the real program on one display and in one directory."""
 
 import sys
-import unittest
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
-from accessible import SpokenDesktop
-from desktop import SAMPLES, ended, soon
+from accessible import SpokenTest  # noqa: E402
+from desktop import ended, main, sample, soon  # noqa: E402
 
 
-class Pair(unittest.TestCase):
+class Pair(SpokenTest):
     @classmethod
     def setUpClass(cls):
-        cls.desktop = SpokenDesktop(program)
-        cls.desktop.__enter__()
-        cls.addClassCleanup(cls.desktop.__exit__)
-        cls.desktop.copy((SAMPLES / "vendors.txt").read_bytes())
+        super().setUpClass()
+        cls.desktop.copy(sample("vendors"))
 
-    def start(self):
-        process = self.desktop.start()
-        self.addCleanup(process.wait)
-        self.addCleanup(process.kill)
+    def start_with_focus(self):
+        process = self.start()
         window = self.desktop.application(process).shown("PlotVue")
         number = soon("it has a window", lambda: self.desktop.output(
             "xdotool", "search", "--all", "--onlyvisible", "--pid", str(process.pid), "--name", "PlotVue").strip())
@@ -31,7 +26,7 @@ class Pair(unittest.TestCase):
         return process
 
     def drill_down(self, process):
-        """The window of the process that shows charts, and the name of the first of them; None while there is none."""
+        """The process's window with charts and the name of its first chart, or None for both."""
         for window in self.desktop.application(process).children():
             charts = [node.name for node in window.walk() if node.role == "chart"] if window.has("SHOWING") else []
             if charts:
@@ -47,14 +42,14 @@ class Pair(unittest.TestCase):
         self.drill_down(process)[0].first("push button", button).press()
 
     def test_both_step_through_the_one_list(self):
-        one = self.start()
+        one = self.start_with_focus()
         self.desktop.key("Return")
         self.shows(one, 0)
-        two = self.start()
+        two = self.start_with_focus()
         self.desktop.key("Down", "Down", "Return")
         self.shows(two, 2)
         self.shows(one, 0)
-        # The row chosen last is where both go on from, whoever chose it.
+        # Both step on from the row that was chosen last, whichever of them chose it.
         for process, button, row in ((one, "Down", 3), (two, "Down", 4), (one, "Back", 3), (one, "Back", 2),
                                      (two, "Back", 1), (one, "Down", 2)):
             self.press(process, button)
@@ -67,10 +62,10 @@ class Pair(unittest.TestCase):
         self.assertIsNone(two.poll())
 
     def test_each_reaches_the_end_of_the_list_for_itself(self):
-        one = self.start()
+        one = self.start_with_focus()
         self.desktop.key("Return")
         self.shows(one, 0)
-        two = self.start()
+        two = self.start_with_focus()
         self.desktop.key("Return")
         self.shows(two, 0)
         self.press(two, "Back")
@@ -85,5 +80,4 @@ class Pair(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    program = sys.argv.pop()
-    unittest.main(verbosity=2)
+    main()

@@ -1,110 +1,76 @@
-"""The small files cannot be read, or say something else: it ends as it must, with a plain sentence."""
+"""The small files cannot be read, or hold something else: the session ends with a plain sentence, or the list does."""
 
-import sys
 import unittest
-from pathlib import Path
 
-from files import BARE, CHARTS, CHOSEN, ENTRIES, LIST, Files
+from files import BACK, BARE, CHARTS, CHOSEN, DOWN, ENTRIES, LIST, Files, main
+
+PROFIT = f"choose {CHARTS} optSales 1"
+CANNOT_BE_OPENED, CANNOT_BE_READ, TOO_EARLY = r"cannot be opened \(.+\)", r"cannot be read \(.+\)", "ends too early"
 
 
 class Reading(Files):
+    def check(self, damage, line, file=None, ending=None, around=()):
+        """Damages a file while charts are open and plays the line. The session must end with a sentence about `file`
+        that ends so; without a file, the line must lead to "End of list"."""
+        with self.subTest(line):
+            replay = self.charted(around=around)
+            damage()
+            if file:
+                self.fails(replay, line, rf"^The file {file} .* {ending}\.$")
+            else:
+                self.ends_the_list(replay, line)
+            for name in (ENTRIES, CHOSEN):
+                self.take(name)
+
     def test_the_list_is_gone(self):
-        replay = self.charted()
-        self.take(ENTRIES)
-        self.fails(replay, f"click {CHARTS} cmdBack", rf"^The file {ENTRIES} .* cannot be opened \(.+\)\.$")
-        replay = self.charted()
-        self.take(ENTRIES)
-        self.fails(replay, f"choose {CHARTS} optSales 1", rf"^The file {ENTRIES} .* cannot be opened \(.+\)\.$")
-        replay = self.charted()
-        self.take(ENTRIES)
-        self.ends_the_list(replay, f"click {CHARTS} cmdNext")
+        self.check(lambda: self.take(ENTRIES), BACK, ENTRIES, CANNOT_BE_OPENED)
+        self.check(lambda: self.take(ENTRIES), PROFIT, ENTRIES, CANNOT_BE_OPENED)
+        self.check(lambda: self.take(ENTRIES), DOWN)
 
     def test_the_chosen_row_is_gone(self):
-        replay = self.charted()
-        self.take(CHOSEN)
-        self.fails(replay, f"click {CHARTS} cmdBack", rf"^The file {CHOSEN} .* cannot be opened \(.+\)\.$")
-        replay = self.charted()
-        self.take(CHOSEN)
-        self.fails(replay, f"click {CHARTS} cmdNext", rf"^The file {CHOSEN} .* cannot be opened \(.+\)\.$")
+        for line in (BACK, DOWN):
+            self.check(lambda: self.take(CHOSEN), line, CHOSEN, CANNOT_BE_OPENED)
 
     def test_a_folder_where_the_list_is_read(self):
-        replay = self.charted()
-        self.put_folder(ENTRIES)
-        self.fails(replay, f"click {CHARTS} cmdBack", rf"^The file {ENTRIES} .* cannot be read \(.+\)\.$")
+        self.check(lambda: self.put_folder(ENTRIES), BACK, ENTRIES, CANNOT_BE_READ)
 
     def test_files_cut_short(self):
-        for name, keep in ((ENTRIES, 0), (ENTRIES, 300), (CHOSEN, 0), (CHOSEN, 5)):
-            with self.subTest(name, keep=keep):
-                replay = self.charted()
-                self.cut(name, keep)
-                self.fails(replay, f"click {CHARTS} cmdBack", rf"^The file {name} .* ends too early\.$")
-                replay = self.charted()
-                self.cut(name, keep)
-                if name == ENTRIES:
-                    self.ends_the_list(replay, f"click {CHARTS} cmdNext")
-                else:
-                    self.fails(replay, f"click {CHARTS} cmdNext", rf"^The file {name} .* ends too early\.$")
+        for keep in (0, 300):
+            self.check(lambda: self.cut(ENTRIES, keep), BACK, ENTRIES, TOO_EARLY)
+            self.check(lambda: self.cut(ENTRIES, keep), DOWN)
+        for keep in (0, 5):
+            for line in (BACK, DOWN):
+                self.check(lambda: self.cut(CHOSEN, keep), line, CHOSEN, TOO_EARLY)
 
     def test_a_chosen_row_that_is_in_no_list(self):
-        replay = self.charted()
-        (self.directory / CHOSEN).write_bytes(b'1,"nobody"\r\n')
-        self.fails(replay, f"choose {CHARTS} optSales 2", rf"^The file {ENTRIES} .* ends too early\.$")
-        replay = self.charted()
-        (self.directory / CHOSEN).write_bytes(b'1,"nobody"\r\n')
-        self.ends_the_list(replay, f"click {CHARTS} cmdNext")
+        self.check(lambda: self.put(CHOSEN, b'1,"nobody"\r\n'), f"choose {CHARTS} optSales 2", ENTRIES, TOO_EARLY)
+        self.check(lambda: self.put(CHOSEN, b'1,"nobody"\r\n'), DOWN)
 
     def test_garbage(self):
-        garbage = bytes(range(256)) * 40
         for name in (ENTRIES, CHOSEN):
-            for button in ("cmdBack", "cmdNext"):
-                with self.subTest(name, button=button):
-                    replay = self.charted()
-                    (self.directory / name).write_bytes(garbage)
-                    if button == "cmdNext":
-                        self.ends_the_list(replay, f"click {CHARTS} {button}")
-                    else:
-                        self.fails(replay, f"click {CHARTS} {button}", rf"^The file {ENTRIES} .* ends too early\.$")
+            self.check(lambda: self.put(name, bytes(range(256)) * 40), BACK, ENTRIES, TOO_EARLY)
+            self.check(lambda: self.put(name, bytes(range(256)) * 40), DOWN)
 
     def test_a_file_that_is_not_to_be_read(self):
-        for name in (ENTRIES, CHOSEN):
-            with self.subTest(name):
-                lines = [f"click {CHARTS} cmdBack", f"choose {CHARTS} optSales 1"]
-                if name == CHOSEN:
-                    lines.append(f"click {CHARTS} cmdNext")
-                for line in lines:
-                    replay = self.charted(around=BARE)
-                    self.allow(name, 0)
-                    self.fails(replay, line, rf"^The file {name} .* cannot be opened \(Permission denied\)\.$")
-                    self.take(name)
-        replay = self.charted(around=BARE)
-        self.allow(ENTRIES, 0)
-        self.ends_the_list(replay, f"click {CHARTS} cmdNext")
-        self.assertTrue((self.directory / ENTRIES).exists())
+        for name, line in ((ENTRIES, BACK), (ENTRIES, PROFIT), (CHOSEN, BACK), (CHOSEN, PROFIT), (CHOSEN, DOWN)):
+            self.check(lambda: self.allow(name, 0), line, name, r"cannot be opened \(Permission denied\)", around=BARE)
+        self.check(lambda: self.allow(ENTRIES, 0), DOWN, around=BARE)
 
     def test_a_pipe_that_nobody_writes(self):
         for name in (ENTRIES, CHOSEN):
-            with self.subTest(name):
-                replay = self.charted()
-                self.put_pipe(name)
-                self.fails(replay, f"click {CHARTS} cmdBack", rf"^The file {name} .* ends too early\.$")
-                self.take(name)
+            self.check(lambda: self.put_pipe(name), BACK, name, TOO_EARLY)
 
     def test_a_device_that_never_ends(self):
         for name in (ENTRIES, CHOSEN):
-            with self.subTest(name):
-                replay = self.charted()
-                self.take(name)
-                (self.directory / name).symlink_to("/dev/zero")
-                self.fails(replay, f"click {CHARTS} cmdBack", rf"^The file {name} .* cannot be read \(.+\)\.$")
-                self.take(name)
+            self.check(lambda: self.put_link(name, "/dev/zero"), BACK, name, CANNOT_BE_READ)
 
     def test_two_in_one_directory_step_through_the_list_written_last(self):
         one, two = self.charted(2), self.charted(5)
-        two.tell(f"click {CHARTS} cmdNext")
-        one.tell(f"click {CHARTS} cmdNext")
+        two.tell(DOWN)
+        one.tell(DOWN)
         shown = two.state(CHARTS)
         self.assertNotEqual(shown, one.state(CHARTS))
-        one.tell(f"click {CHARTS} cmdBack")
+        one.tell(BACK)
         self.assertEqual(shown, one.state(CHARTS))
 
     def test_another_analysis_in_the_same_directory(self):
@@ -112,10 +78,9 @@ class Reading(Files):
         two = self.copied("ratios")
         two.tell("start", "row frmRatio MSFlexGrid1 1")
         self.assertTrue(two.state("frmRatioA")["visible"])
-        self.fails(one, f"click {CHARTS} cmdNext", rf"^The file {CHOSEN} .* ends too early\.$")
+        self.fails(one, DOWN, rf"^The file {CHOSEN} .* {TOO_EARLY}\.$")
         self.assertIsNone(two.over)
 
 
 if __name__ == "__main__":
-    Files.program = Path(sys.argv.pop()).resolve()
-    unittest.main(verbosity=2)
+    main()

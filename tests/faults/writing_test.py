@@ -1,24 +1,29 @@
-"""The small files cannot be written: it ends as it must, with a plain sentence."""
+"""The small files cannot be written: the session ends with a plain sentence."""
 
 import os
-import sys
 import unittest
-from pathlib import Path
 
-from files import BARE, CHARTS, CHOOSING, CHOSEN, ENTRIES, FULL, LIST, MAY_MOUNT, SCRATCH, Files, disk_of
+from files import BACK, BARE, CHARTS, CHOSEN, DOWN, ENTRIES, FULL, LIST, MAY_MOUNT, ROW, SCRATCH, Files, disk_of, main
+
+CANNOT_BE_CREATED = r"cannot be created \(.+\)"
+CANNOT_BE_WRITTEN = rf"cannot be written \({FULL}\)"
 
 
 class Writing(Files):
+    def cannot_be_chosen(self, damage, name, ending):
+        """Damages the file while the list is open and clicks a row; the sentence about the file must end so."""
+        with self.subTest(name):
+            replay = self.listed()
+            damage(name)
+            self.fails(replay, ROW, rf"^The file {name} .* {ending}\.$")
+            self.take(name)
+
     def test_a_folder_in_the_place_of_each_file(self):
         self.put_folder(SCRATCH)
         self.fails(self.copied(), "start", rf"^The file {SCRATCH} in the working directory cannot be created \(.+\)\.$")
-        (self.directory / SCRATCH).rmdir()
+        self.take(SCRATCH)
         for name in (CHOSEN, ENTRIES):
-            with self.subTest(name):
-                replay = self.listed()
-                self.put_folder(name)
-                self.fails(replay, f"row {LIST} MSFlexGrid1 1", rf"^The file {name} .* cannot be created \(.+\)\.$")
-                (self.directory / name).rmdir()
+            self.cannot_be_chosen(self.put_folder, name, CANNOT_BE_CREATED)
 
     def test_a_link_is_followed(self):
         target = self.directory / "elsewhere"
@@ -28,19 +33,18 @@ class Writing(Files):
         self.assertTrue((self.directory / ENTRIES).is_symlink())
         self.assertIn(b"RANK:", target.read_bytes())
         self.assertEqual(target.stat().st_mode & 0o777, 0o600)
-        replay.tell(f"click {CHARTS} cmdNext")
+        replay.tell(DOWN)
         self.assertIsNone(replay.over)
 
     def test_a_link_to_nowhere(self):
-        (self.directory / ENTRIES).symlink_to("/dev/nowhere/list")
-        self.fails(self.listed(), f"row {LIST} MSFlexGrid1 1", rf"^The file {ENTRIES} .* cannot be created \(.+\)\.$")
+        self.cannot_be_chosen(lambda name: self.put_link(name, "/dev/nowhere/list"), ENTRIES, CANNOT_BE_CREATED)
 
     def test_a_link_to_itself(self):
         (self.directory / SCRATCH).symlink_to(SCRATCH)
         self.fails(self.copied(), "start", rf"^The file {SCRATCH} .* cannot be created \(.+\)\.$")
 
     def test_a_file_that_is_not_to_be_written(self):
-        for name, lines in ((SCRATCH, ()), (CHOSEN, CHOOSING), (ENTRIES, CHOOSING[:1])):
+        for name, lines in ((SCRATCH, ()), (CHOSEN, (ROW, BACK, DOWN)), (ENTRIES, (ROW,))):
             for line in lines or [f"click {LIST} cmdExit"]:
                 with self.subTest(name, line=line):
                     replay = self.charted(around=BARE)
@@ -80,16 +84,12 @@ class Writing(Files):
                     self.put_full_device(name)
                 replay.tell("start")
                 self.assertTrue(replay.state(LIST)["visible"])
-                self.fails(replay, CHOOSING[0], rf"^The file {name} .* cannot be written \({FULL}\)\.$")
-                (self.directory / name).unlink(missing_ok=True)
+                self.fails(replay, ROW, rf"^The file {name} .* cannot be written \({FULL}\)\.$")
+                self.take(name)
 
     def test_a_device_that_is_full(self):
         for name in (CHOSEN, ENTRIES):
-            with self.subTest(name):
-                replay = self.listed()
-                self.put_full_device(name)
-                self.fails(replay, CHOOSING[0], rf"^The file {name} .* cannot be written \({FULL}\)\.$")
-                self.take(name)
+            self.cannot_be_chosen(self.put_full_device, name, CANNOT_BE_WRITTEN)
 
     def test_a_device_keeps_its_rights(self):
         ours, terminal = os.openpty()
@@ -97,18 +97,13 @@ class Writing(Files):
         self.addCleanup(os.close, terminal)
         os.fchmod(terminal, 0o640)
         (self.directory / ENTRIES).symlink_to(os.ttyname(terminal))
-        self.fails(self.listed(), CHOOSING[0], rf"^The file {ENTRIES} .* cannot be read \(.+\)\.$")
+        self.fails(self.listed(), ROW, rf"^The file {ENTRIES} .* cannot be read \(.+\)\.$")
         self.assertEqual(os.fstat(terminal).st_mode & 0o777, 0o640)
 
     def test_a_pipe_that_nobody_reads(self):
         for name in (CHOSEN, ENTRIES):
-            with self.subTest(name):
-                replay = self.listed()
-                self.put_pipe(name)
-                self.fails(replay, CHOOSING[0], rf"^The file {name} .* cannot be created \(.+\)\.$")
-                self.take(name)
+            self.cannot_be_chosen(self.put_pipe, name, CANNOT_BE_CREATED)
 
 
 if __name__ == "__main__":
-    Files.program = Path(sys.argv.pop()).resolve()
-    unittest.main(verbosity=2)
+    main()

@@ -1,4 +1,4 @@
-"""What the random sessions and the soak share: the program that plays them, and where it plays."""
+"""The program that plays the random sessions and the soak, and the directories and environment that it plays in."""
 
 import os
 import subprocess
@@ -9,7 +9,7 @@ ROOT = Path(__file__).resolve().parents[2]
 
 
 def built():
-    """The program, built for speed."""
+    """Builds the program with optimisation; returns its path."""
     build = ROOT / "build/sessions"
     for command in (["cmake", "-S", ROOT, "-B", build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release"],
                     ["cmake", "--build", build, "--target", "plotvue-sessions"]):
@@ -18,14 +18,15 @@ def built():
 
 
 def empty_directory(prefix):
-    """In memory where that is possible: thousands of small files that are rewritten keep a disk busy."""
+    """A new directory, in memory where possible: rewriting thousands of small files keeps a disk busy."""
     memory = "/dev/shm"
     return Path(tempfile.mkdtemp(prefix=prefix, dir=memory if os.access(memory, os.W_OK) else None))
 
 
 def without_traces(directory):
-    """An environment in which whatever is written outside the working directory lands in `directory`, a new one."""
+    """Makes the directory; returns an environment in which everything that is written outside the working directory is
+    written there."""
     directory.mkdir(mode=0o700)
     kept = {name: value for name, value in os.environ.items() if not name.startswith("XDG_")}
     return {**kept, "HOME": str(directory), "TMPDIR": str(directory), "XDG_RUNTIME_DIR": str(directory),
-            "QT_QPA_PLATFORM": "offscreen", "QT_LOGGING_RULES": "*.warning=false"}  # of Qt's own
+            "QT_QPA_PLATFORM": "offscreen", "QT_LOGGING_RULES": "*.warning=false"}  # Qt's

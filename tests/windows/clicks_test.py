@@ -7,23 +7,17 @@ import time
 import unittest
 from pathlib import Path
 
-from wine import SAMPLES, Wine, ended, soon
+from wine import CHART, LIST, NEED_DATA, PRODUCT, START, WineTest, ended, sample, soon
 
 BARS = bytes((0x24, 0x58, 0xB0))  # the first series' colour
-START = "Plot Vue!"
 
 
-class Clicks(unittest.TestCase):
-    @classmethod
-    def setUpClass(cls):
-        cls.desktop = Wine(program)
-        cls.desktop.__enter__()
-        cls.addClassCleanup(cls.desktop.__exit__)
+class Clicks(WineTest):
+    shared = True
 
     def setUp(self):
-        directory = tempfile.TemporaryDirectory(prefix="plotvue-clicks-")
-        self.addCleanup(directory.cleanup)
-        self.directory = Path(directory.name)
+        super().setUp()
+        self.directory = Path(self.enterContext(tempfile.TemporaryDirectory(prefix="plotvue-clicks-")))
 
     def start(self, title):
         self.process = self.desktop.start(directory=self.directory)
@@ -49,9 +43,6 @@ class Clicks(unittest.TestCase):
         held = file.read_bytes()
         file.unlink()
         return held
-
-    def sample(self, name):
-        return (SAMPLES / f"{name}.txt").read_bytes()
 
     def copy_in_windows(self, text, *seconds):
         """Another Windows program copies; returns it when the clipboard stays open."""
@@ -105,62 +96,62 @@ class Clicks(unittest.TestCase):
         return soon(what, condition)
 
     def test_what_an_x_program_copies_is_charted_and_exit_leads_out(self):
-        self.copy(self.sample("product"))
-        window = self.start("Plotvue!")
+        self.copy(PRODUCT)
+        window = self.start(CHART)
         self.charted(window)
         self.desktop.key("Escape")
         self.window(START)
-        self.desktop.gone("Plotvue!")
+        self.desktop.gone(CHART)
         self.desktop.key("Escape")
-        self.assertEqual(ended(self.process), 0)
+        self.ends()
         self.assertEqual([file.name for file in self.directory.iterdir()], [])
 
-    def test_what_a_windows_program_copies_is_read_as_it_stands(self):
-        text = self.sample("vendors").replace(b"\r\n", b"\r\r\n", 3)
+    def test_what_a_windows_program_copies_is_read_as_it_is(self):
+        text = sample("vendors").replace(b"\r\n", b"\r\r\n", 3)
         self.copy_in_windows(text)
-        self.start("PlotVue")
+        self.start(LIST)
         self.assertEqual((self.directory / "pvuscrn.txt").read_bytes(), b'"' + text + b'"\r\n')
 
     def test_a_clipboard_that_is_busy_for_a_moment_is_read(self):
-        busy = self.copy_in_windows(self.sample("product"), 3)
+        busy = self.copy_in_windows(PRODUCT, 3)
         time.sleep(2.5)
-        self.charted(self.start("Plotvue!"))
+        self.charted(self.start(CHART))
         self.assertEqual(ended(busy), 0)
 
     def test_a_clipboard_that_stays_busy_holds_no_data(self):
-        busy = self.copy_in_windows(self.sample("product"), 15)
+        busy = self.copy_in_windows(PRODUCT, 15)
         time.sleep(1)
-        self.start("Need Data")
+        self.start(NEED_DATA)
         self.desktop.key("Escape")
         self.window(START)
         busy.kill()
 
     def test_buttons_are_clicked_and_options_chosen(self):
-        self.copy(self.sample("product"))
-        window = self.start("Plotvue!")
+        self.copy(PRODUCT)
+        window = self.start(CHART)
         first = self.charted(window)
         self.desktop.key("Tab", "Up")
         soon("24 months are charted", lambda: self.charted(window) != first)
-        self.click(window, 60, 30)  # Exit stands in the lower right corner
+        self.click(window, 60, 30)  # Exit is in the lower right corner
         self.window(START)
-        self.desktop.gone("Plotvue!")
+        self.desktop.gone(CHART)
 
     def test_refresh_charts_what_was_copied_since(self):
-        self.copy(self.sample("product"))
-        window = self.start("Plotvue!")
+        self.copy(PRODUCT)
+        window = self.start(CHART)
         first = self.charted(window)
-        self.copy(self.sample("product").replace(b" 93934.66", b" 13934.66"))
+        self.copy(PRODUCT.replace(b" 93934.66", b" 13934.66"))
         self.desktop.key("F5")
         soon("the other figures are charted", lambda: self.charted(window) != first)
         self.desktop.key("Escape")
         self.window(START)
-        self.copy(self.sample("vendors"))
+        self.copy(sample("vendors"))
         self.desktop.key("F5")
-        self.window("PlotVue")
+        self.window(LIST)
 
     def test_a_row_is_clicked_and_down_and_back_step_through_the_list(self):
-        self.copy(self.sample("vendors"))
-        window = self.start("PlotVue")
+        self.copy(sample("vendors"))
+        window = self.start(LIST)
         self.desktop.key("Down", "Return")
         soon("the row's key is written", self.chosen)
         chart = soon("the chart has a window of its own", lambda: next(
@@ -177,7 +168,7 @@ class Clicks(unittest.TestCase):
 
     def test_an_empty_clipboard_needs_data(self):
         self.empty_clipboard()
-        self.start("Need Data")
+        self.start(NEED_DATA)
         self.desktop.key("Escape")
         self.window(START)
 
@@ -186,23 +177,23 @@ class Clicks(unittest.TestCase):
             time.sleep(1)
             return self.process.poll() is not None
         soon("PlotVue ends", left)
-        self.assertEqual(ended(self.process), 0)
+        self.ends()
 
     def test_a_short_screen_is_waited_for_until_the_box_is_closed(self):
-        self.copy_in_windows(b"\r\n".join(self.sample("product").split(b"\r\n")[:15]))
-        self.start("PlotVue")
+        self.copy_in_windows(b"\r\n".join(PRODUCT.split(b"\r\n")[:15]))
+        self.start(LIST)
         self.desktop.key("Return")
-        self.assertEqual(ended(self.process), 1)
+        self.ends(1)
 
-    def test_an_error_is_told_in_a_box(self):
+    def test_an_error_is_reported_in_a_box(self):
         (self.directory / "pvuscrn.txt").mkdir()
-        self.copy(self.sample("vendors"))
-        self.start("PlotVue")
+        self.copy(sample("vendors"))
+        self.start(LIST)
         self.desktop.key("Return")
-        self.assertEqual(ended(self.process), 1)
+        self.ends(1)
 
 
 if __name__ == "__main__":
-    program, copier = sys.argv[1:3]
+    WineTest.program, copier = sys.argv[1:3]
     del sys.argv[1:]
     unittest.main(verbosity=2)

@@ -6,17 +6,15 @@ import time
 import unittest
 from pathlib import Path
 
-from wine import NotInTime, Wine, soon
+from wine import NotInTime, WineTest, soon
 
 LISTED = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\PlotVue"
 PROGRAM = "plotvue.exe"
 
 
-class Installer(unittest.TestCase):
+class Installer(WineTest):
     def setUp(self):
-        self.desktop = Wine()
-        self.desktop.__enter__()
-        self.addCleanup(self.desktop.__exit__)
+        super().setUp()
         self.addCleanup(self.desktop.launch, "wine", "taskkill", "/f", "/im", PROGRAM)
         self.drive = Path(self.desktop.env["WINEPREFIX"], "drive_c")
         (self.user,) = (folder for folder in (self.drive / "users").iterdir() if folder.name != "Public")

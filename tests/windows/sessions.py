@@ -13,13 +13,13 @@ SEED, COUNT, BOTH, STEPS = 1, 300, 10, 40
 
 program = sys.argv[1]
 with Wine() as desktop, tempfile.TemporaryDirectory(prefix="plotvue-sessions-") as directory, \
-        tempfile.TemporaryFile() as told, tempfile.TemporaryFile() as complaints:
+        tempfile.TemporaryFile() as printed, tempfile.TemporaryFile() as complaints:
     status = subprocess.run(["wine", program, "sessions", *map(str, (SEED, 0, COUNT, BOTH, STEPS))], cwd=directory,
-                            env=desktop.env, stdin=subprocess.DEVNULL, stdout=told, stderr=complaints, timeout=500,
+                            env=desktop.env, stdin=subprocess.DEVNULL, stdout=printed, stderr=complaints, timeout=500,
                             check=False).returncode
-    told.seek(0)
+    printed.seek(0)
     complaints.seek(0)
-    ends = told.read().decode()
+    ends = printed.read().decode()
     print(ends, complaints.read().decode(errors="replace"), os.listdir(directory))
     played = sum(int(line.split()[0]) for line in ends.splitlines())
     sys.exit(status or played != COUNT)

@@ -10,7 +10,8 @@ import tempfile
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
-from desktop import SAMPLES, Desktop, NotInTime, ended, soon  # noqa: E402, F401: of use to the tests here
+from desktop import (  # noqa: E402, F401: the tests here use them
+    CHART, LIST, NEED_DATA, PRODUCT, START, Desktop, DesktopTest, NotInTime, ended, main, sample, soon)
 
 # Wine's own fonts are bitmaps and a serif; a Windows machine has the one that its dialogs ask for.
 SETTINGS = r"""Windows Registry Editor Version 5.00
@@ -62,7 +63,7 @@ class Wine(Desktop):
     def windows_program(self, *command, seconds=60, **options):
         """Runs it to its end, which must be a good one; returns what it prints."""
         options = {"cwd": self.home, "env": self.env, **options}
-        # Not a pipe: what Wine starts on the way would keep it open.
+        # Not a pipe: processes that Wine starts would keep it open.
         with tempfile.TemporaryFile() as printed:
             subprocess.run(["wine", *map(str, command)], stdin=subprocess.DEVNULL, stdout=printed,
                            stderr=subprocess.DEVNULL, timeout=seconds, check=True, **options)
@@ -71,6 +72,10 @@ class Wine(Desktop):
 
     def start(self, program=None, directory=None):
         return self.launch("wine", str(program or self.program), cwd=directory or self.home)
+
+
+class WineTest(DesktopTest):
+    desktop_class = Wine
 
 
 if __name__ == "__main__":

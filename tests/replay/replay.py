@@ -1,16 +1,29 @@
-"""The replay program as a process that is told one thing after the other."""
+"""The replay program as a process that plays one line after the other."""
 
 import json
 import os
 import subprocess
 import tempfile
+from pathlib import Path
 
-ENVIRONMENT = {"QT_QPA_PLATFORM": "offscreen", "QT_LOGGING_RULES": "*.warning=false"}  # of Qt's own
+ROOT = Path(__file__).resolve().parents[2]
+SAMPLES = ROOT / "samples"
+CAPTURES = ROOT / "tests/replay/scripts/captures"
+# Qt's own warnings are off: what is printed on standard error is PlotVue's.
+ENVIRONMENT = {"QT_QPA_PLATFORM": "offscreen", "QT_LOGGING_RULES": "*.warning=false"}
 
 
-def text(line):
-    """Half a surrogate pair comes as its own three bytes."""
-    return line.decode("utf-8", "surrogatepass")
+def parsed(line):
+    """The event or state of a printed line; half a surrogate pair is three bytes of its own."""
+    return json.loads(line.decode("utf-8", "surrogatepass"))
+
+
+def working_directory(place):
+    """Makes a directory in which scripts find the samples and captures that they name."""
+    place.mkdir()
+    (place / "samples").symlink_to(SAMPLES)
+    (place / "captures").symlink_to(CAPTURES)
+    return place
 
 
 class Replay:
@@ -25,24 +38,25 @@ class Replay:
 
     def tell(self, *lines):
         """Plays the lines and returns the events and states that they printed."""
-        lines = [*lines, "dump startup"]  # the last answer says that all is done
+        dumped = lines[-1].startswith("dump ")
+        lines = lines if dumped else (*lines, "dump startup")  # its answer says that all is done
         self.script += lines
         try:
             self.process.stdin.write("".join(line + "\n" for line in lines).encode())
             self.process.stdin.flush()
         except BrokenPipeError:
-            pass  # it is over, as will be read
+            pass  # the session is over, as the answers will show
         awaited = sum(line.startswith("dump ") for line in lines)
         answers = []
         while awaited and (line := self.process.stdout.readline()):
             self.printed.append(line)
-            answers.append(json.loads(text(line)))
+            answers.append(parsed(line))
             awaited -= "event" not in answers[-1]
         if awaited:
-            last = json.loads(text(self.printed[-1])) if self.printed else {}
-            self.over = last.get("event", "nothing was printed")
+            last = parsed(self.printed[-1]) if self.printed else {}
+            self.over = last.get("event", "it broke off")
             return answers
-        return answers[:-1]
+        return answers if dumped else answers[:-1]
 
     def state(self, window):
         """What the window shows; None when the session is over."""
