@@ -14,8 +14,6 @@ constexpr auto markers = [] {
     return result;
 }();
 
-constexpr MarkerSearch search(markers);
-
 bool holdsZero(TextSpan text)
 {
     return toInt16(static_cast<double>(find(text, u"0")), u"The copied text") > 0;
@@ -25,7 +23,7 @@ bool holdsZero(TextSpan text)
 
 const Screen* recognise(TextSpan text)
 {
-    const MarkerSet found = search.in(text);
+    const MarkerSet found = MarkerSearch<markers>::in(text);
     for (std::size_t i = 0; i < screens.size(); ++i)
         if ((found >> i & 1) && (!screens[i].needsZero || holdsZero(text)))
             return &screens[i];

@@ -71,7 +71,7 @@ HARMLESS = {
         r"int slot = 0; slot\[ < -> <= \](input\.figures\.slotCount\(\)|layout\.pointCount|figures\.pointCount)": NOTHING_THERE,
     },
     r"app/(recognition|markersearch)": {
-        r"maxMarkers|characters = |minLength = \[6 -> 5|with(First|Last)_|found & |possible (==|>>)": ONLY_WHERE,
+        r"characters = |with(First|Last)|found & |possible (==|>>)": ONLY_WHERE,
         r"i\[ < -> <= \](screens|markers)": "no candidate has a bit after the last marker's",
     },
 }
