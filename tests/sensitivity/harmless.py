@@ -57,7 +57,7 @@ HARMLESS = {
         r"searchedLines = \[1000 -> 1001": NOTHING_MORE,
         r" <-> .*ScreenText": OTHER_THINGS,
         r"\"Mlabel\".* <-> .*\"1:\"": OTHER_THINGS,
-        r"\{\.text = u\"GAIN:\".* <-> \{\.text = u\"P:\"": "what both take stands in the same columns of the same line",
+        r"\{\.marker = u\"GAIN:\".* <-> \{\.marker = u\"P:\"": "what both take stands in the same columns of the same line",
         r"u\"GAIN:\" <-> u\"P:\"": "either mark is asked for, in any order",
     },
     r"chart/figuretext": {
