@@ -27,7 +27,7 @@ Declaration Startup::declare() const
 {
     return {.name = "startup",
             .caption = u"Plot Vue!",
-            .content = {Box::Direction::Row,
+            .content = {Panel::Direction::Row,
                         {column({{Label{.name = "Label1",
                                         .text = u"PlotVue!",
                                         .font = {.family = u"Arial", .points = 48, .italic = true}}},

@@ -5,9 +5,9 @@
 
 namespace plotvue {
 
-OptionGroup::Option& OptionGroup::option(int index)
+OptionGroup::Entry& OptionGroup::option(int index)
 {
-    const auto at = std::ranges::find(options, index, &Option::index);
+    const auto at = std::ranges::find(options, index, &Entry::index);
     if (at == options.end())
         throw std::out_of_range("no such option");
     return *at;
@@ -15,7 +15,7 @@ OptionGroup::Option& OptionGroup::option(int index)
 
 int OptionGroup::chosenIn(int frame) const
 {
-    for (const Option& option : options)
+    for (const Entry& option : options)
         if (option.frame == frame && std::ranges::binary_search(chosen, option.index))
             return option.index;
     throw std::out_of_range("no such frame");

@@ -40,16 +40,16 @@ private:
 // An option group in one frame or several, with one option chosen in each. Options go by their index; the
 // functions throw std::out_of_range for one that the group does not have.
 struct OptionGroup {
-    struct Option {
+    struct Entry {
         int index;
         Text caption;
         bool visible;
         int frame; // counted from 0, from the top
 
-        bool operator==(const Option&) const = default;
+        bool operator==(const Entry&) const = default;
     };
-    std::vector<Option> options; // from the top, frame after frame
-    std::vector<int> chosen;     // ascending, one a frame
+    std::vector<Entry> options; // from the top, frame after frame
+    std::vector<int> chosen;    // ascending, one a frame
 
     int chosenIn(int frame) const;
     void choose(int index); // the frame's earlier choice is no longer chosen
@@ -59,7 +59,7 @@ struct OptionGroup {
     bool operator==(const OptionGroup&) const = default;
 
 private:
-    Option& option(int index);
+    Entry& option(int index);
 };
 
 // A grid of text. Rows and columns count from 0; row 0 holds the headings. The functions throw

@@ -82,7 +82,7 @@ struct PictureBox { // says gain or loss beside a grid
 
 struct Item;
 
-struct Box {
+struct Panel { // a row or a column of items
     enum class Direction { Row, Column } direction;
     std::vector<Item> items;
 };
@@ -90,7 +90,7 @@ struct Box {
 struct Space {}; // takes the room that is left over
 
 struct Item {
-    std::variant<Button, Label, TextBox, ListBox, OptionFrame, ChartBox, GridBox, PictureBox, Box, Space>
+    std::variant<Button, Label, TextBox, ListBox, OptionFrame, ChartBox, GridBox, PictureBox, Panel, Space>
         what;
     int stretch = 0; // its share of the room that is left over; 0: none
 };
@@ -98,7 +98,7 @@ struct Item {
 struct Declaration {
     Name name; // "frmProduct"
     TextSpan caption;
-    Box content;
+    Panel content;
     // Of the client area when the window first opens, in device-independent pixels, where the desktop's
     // letters have 10 points; larger in proportion where they are larger.
     int width = 1000, height = 600;
@@ -109,10 +109,10 @@ Item column(std::vector<Item> items, int stretch = 0);
 
 // Calls `visit` with every control in the declaration, in their order.
 template <typename Visitor>
-void forEachControl(const Box& box, Visitor&& visit)
+void forEachControl(const Panel& panel, Visitor&& visit)
 {
-    for (const Item& item : box.items) {
-        if (const Box* inner = std::get_if<Box>(&item.what))
+    for (const Item& item : panel.items) {
+        if (const Panel* inner = std::get_if<Panel>(&item.what))
             forEachControl(*inner, visit);
         else
             std::visit(visit, item.what);

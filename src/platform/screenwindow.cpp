@@ -24,7 +24,7 @@ Declaration declareScreenWindow(Name name, TextSpan caption, std::vector<Item> c
     side.push_back({refreshButton()});
     side.push_back({exitButton(u"E&xit")});
     content.push_back(column(std::move(side)));
-    return {.name = name, .caption = caption, .content = {Box::Direction::Row, std::move(content)}};
+    return {.name = name, .caption = caption, .content = {Panel::Direction::Row, std::move(content)}};
 }
 
 } // namespace plotvue

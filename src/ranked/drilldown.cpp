@@ -30,7 +30,7 @@ Declaration DrillDownWindow::declare() const
     content.push_back(column(std::move(side)));
     return {.name = design_.window,
             .caption = design_.analysis.caption,
-            .content = {Box::Direction::Row, std::move(content)},
+            .content = {Panel::Direction::Row, std::move(content)},
             .width = design_.width};
 }
 

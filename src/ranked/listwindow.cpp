@@ -24,7 +24,7 @@ Declaration RankedListWindow::declare() const
     content.push_back(row(std::move(buttons)));
     return {.name = analysis_.window,
             .caption = analysis_.caption,
-            .content = {Box::Direction::Column, std::move(content)},
+            .content = {Panel::Direction::Column, std::move(content)},
             .width = 860,
             .height = 620};
 }

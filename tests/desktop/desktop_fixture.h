@@ -34,7 +34,7 @@ inline Declaration everyControl()
         .name = "every",
         .caption = u"Every control",
         .content = {
-            Box::Direction::Row,
+            Panel::Direction::Row,
             {column({{Label{.name = "Label1", .text = u"R&D\r", .font = {.points = 12, .bold = true}}},
                      {TextBox{.name = "txt", .spokenName = u"Summary"}},
                      {ListBox{.name = "List1", .spokenName = u"Screens", .items = {u"One", u"Two"}}},

@@ -198,7 +198,7 @@ TEST_F(DesktopWindowTest, LettersAreOfTheFamilyAndSizeThatTheyAskForOrTheDesktop
     const auto letters =
         build({.name = "letters",
                .caption = {},
-               .content = {Box::Direction::Column,
+               .content = {Panel::Direction::Column,
                            {{Label{.name = "asked", .text = u"A", .font = asked}},
                             {ListBox{.name = "list", .spokenName = {}, .items = {}, .font = asked}},
                             {Label{.name = "own", .text = u"B"}}}}});

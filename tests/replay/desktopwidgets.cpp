@@ -90,7 +90,7 @@ void lookAt(OptionGroup& group, const Form& form, Name name)
     const auto buttons = buttonsOf(form, name);
     group.chosen.clear();
     for (std::size_t i = 0; i < buttons.size(); ++i) {
-        OptionGroup::Option& option = group.options.at(i);
+        OptionGroup::Entry& option = group.options.at(i);
         option.caption = seen(option.caption, shownOnOneLine(option.caption), captionOn(*buttons[i]));
         option.visible = !buttons[i]->isHidden();
         if (buttons[i]->isChecked())
@@ -153,7 +153,7 @@ void pressWidget(const Form& form, Name button)
 void chooseWidget(const Form& form, Name group, int index)
 {
     const auto& options = form.controls().options(group)->options;
-    const auto at = std::ranges::find(options, index, &OptionGroup::Option::index);
+    const auto at = std::ranges::find(options, index, &OptionGroup::Entry::index);
     buttonsOf(form, group).at(static_cast<std::size_t>(at - options.begin()))->click();
 }
 

@@ -106,7 +106,7 @@ struct ControlWriter {
     }
     std::string operator()(const OptionGroup& group) const
     {
-        const auto option = [](const OptionGroup::Option& state) {
+        const auto option = [](const OptionGroup::Entry& state) {
             return R"({"index":)" + number(state.index) + R"(,"caption":)" + quoted(state.caption) +
                    R"(,"visible":)" + (state.visible ? "true" : "false") + "}";
         };

@@ -76,7 +76,7 @@ void Player::command(const std::vector<std::string>& words)
     } else if (is("choose", 4)) {
         const int index = wholeNumber(words[3]);
         const auto options = control<OptionGroup>(words[1], words[2]).options;
-        if (std::ranges::find(options, index, &OptionGroup::Option::index) == options.end())
+        if (std::ranges::find(options, index, &OptionGroup::Entry::index) == options.end())
             throw BadLine(words[2] + " has no option " + words[3]);
         stage_.choose(loadedForm(words[1]), words[2], index);
     } else if (is("row", 4)) {

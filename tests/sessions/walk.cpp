@@ -166,7 +166,7 @@ std::vector<Walk::Offer> Walk::offers(const std::string& window)
             text && text->of == replay::SeenText::Of::Button)
             offer.push_back("click " + window + " " + name);
         if (const auto* group = std::get_if<OptionGroup>(&seen))
-            for (const OptionGroup::Option& option : group->options)
+            for (const OptionGroup::Entry& option : group->options)
                 if (option.visible)
                     offer.push_back("choose " + window + " " + name + " " + std::to_string(option.index));
         if (const auto* grid = std::get_if<Grid>(&seen))

@@ -14,7 +14,7 @@ Declaration everything()
 {
     return {.name = "frmAll",
             .caption = u"All",
-            .content = {Box::Direction::Column,
+            .content = {Panel::Direction::Column,
                         {{Button{.name = "cmdA", .caption = u"&A"}},
                          {Label{.name = "lblA", .text = u"label"}},
                          row({{TextBox{.name = "txtA", .spokenName = u"A"}},
@@ -84,7 +84,7 @@ TEST_F(ControlsTest, KeepOptionsInTheirPlaces)
         optA.setCaption(1, u"new");
     });
     EXPECT_EQ(controls.options("optA")->options,
-              (std::vector<OptionGroup::Option>{
+              (std::vector<OptionGroup::Entry>{
                   {1, u"new", true, 0}, {0, u"A", true, 0}, {2, u"C", false, 1}, {3, u"D", true, 1}}));
 }
 

@@ -37,7 +37,7 @@ inline Events opening(const std::string& window)
 inline Texts fromTheTop(const OptionGroup& options)
 {
     Texts captions;
-    for (const OptionGroup::Option& option : options.options)
+    for (const OptionGroup::Entry& option : options.options)
         captions.push_back(option.caption);
     return captions;
 }
@@ -45,7 +45,7 @@ inline Texts fromTheTop(const OptionGroup& options)
 inline std::vector<int> indicesFromTheTop(const OptionGroup& options)
 {
     std::vector<int> indices;
-    for (const OptionGroup::Option& option : options.options)
+    for (const OptionGroup::Entry& option : options.options)
         indices.push_back(option.index);
     return indices;
 }

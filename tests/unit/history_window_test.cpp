@@ -57,7 +57,7 @@ TEST_F(HistoryWindowTest, HasOneChartTwoGroupsAndThreeButtons)
 std::vector<std::pair<int, Text>> captions(const OptionGroup& state)
 {
     std::vector<std::pair<int, Text>> result;
-    for (const OptionGroup::Option& option : state.options) {
+    for (const OptionGroup::Entry& option : state.options) {
         EXPECT_TRUE(option.visible);
         result.emplace_back(option.index, option.caption);
     }

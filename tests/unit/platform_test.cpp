@@ -27,7 +27,7 @@ protected:
     {
         return {.name = "frmAny",
                 .caption = u"Any",
-                .content = {Box::Direction::Row, {{Button{.name = "cmdAny", .caption = u"&Any"}}}}};
+                .content = {Panel::Direction::Row, {{Button{.name = "cmdAny", .caption = u"&Any"}}}}};
     }
     Handlers handlers() override
     {

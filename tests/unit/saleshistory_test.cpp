@@ -171,7 +171,7 @@ TEST_P(SalesHistoryTest, StandsItsOptionsInOrder)
 {
     const auto fromTheTop = [&](Name group) {
         std::vector<std::pair<int, Text>> found;
-        for (const OptionGroup::Option& option : tester.session.options(tester.window, group).options)
+        for (const OptionGroup::Entry& option : tester.session.options(tester.window, group).options)
             found.emplace_back(option.index, option.caption);
         return found;
     };

@@ -31,7 +31,7 @@ inline Texts controlsOf(Session& session, Name window)
 inline Texts captions(const OptionGroup& options)
 {
     Texts result;
-    for (const OptionGroup::Option& option : options.options)
+    for (const OptionGroup::Entry& option : options.options)
         result.push_back(option.caption);
     return result;
 }

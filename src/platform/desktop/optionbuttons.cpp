@@ -59,7 +59,7 @@ void OptionButtons::show()
     std::map<int, OptionButton*>
         entries; // by frame: the option chosen, or, while that is hidden, the first that is not
     for (std::size_t i = 0; i < buttons_.size(); ++i) {
-        const OptionGroup::Option& option = group.options[i];
+        const OptionGroup::Entry& option = group.options[i];
         OptionButton& button = *buttons_[i];
         const bool chosen = group.chosenIn(option.frame) == option.index;
         showCaption(button, option.caption);

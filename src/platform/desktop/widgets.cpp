@@ -27,7 +27,7 @@ class Builder {
 public:
     explicit Builder(WindowWidget& window) : controls_(window.controls()), window_(window) {}
 
-    QBoxLayout* arrange(const Box& box);
+    QBoxLayout* arrange(const Panel& panel);
 
 private:
     void place(const Item& item, QBoxLayout& layout);
@@ -48,19 +48,19 @@ private:
 
 bool isSideColumn(const Item& item)
 {
-    const Box* box = std::get_if<Box>(&item.what);
-    return box && box->direction == Box::Direction::Column && item.stretch == 0;
+    const Panel* panel = std::get_if<Panel>(&item.what);
+    return panel && panel->direction == Panel::Direction::Column && item.stretch == 0;
 }
 
-QBoxLayout* Builder::arrange(const Box& box)
+QBoxLayout* Builder::arrange(const Panel& panel)
 {
-    const bool row = box.direction == Box::Direction::Row;
+    const bool row = panel.direction == Panel::Direction::Row;
     auto* layout = new QBoxLayout(row ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     layout->setContentsMargins(0, 0, 0, 0);
     bool columns = false;
-    for (const Item& item : box.items) {
+    for (const Item& item : panel.items) {
         place(item, *layout);
-        columns = columns || (row && std::holds_alternative<Box>(item.what));
+        columns = columns || (row && std::holds_alternative<Panel>(item.what));
     }
     layout->setSpacing(columns ? columnGap : gap);
     return layout;
@@ -70,8 +70,8 @@ void Builder::place(const Item& item, QBoxLayout& layout)
 {
     if (std::holds_alternative<Space>(item.what)) {
         layout.addStretch(item.stretch);
-    } else if (const Box* box = std::get_if<Box>(&item.what)) {
-        QBoxLayout* inner = arrange(*box);
+    } else if (const Panel* panel = std::get_if<Panel>(&item.what)) {
+        QBoxLayout* inner = arrange(*panel);
         if (isSideColumn(item) && layout.direction() == QBoxLayout::LeftToRight)
             inner->addStrut(sideColumn * window_.fontMetrics().averageCharWidth());
         layout.addLayout(inner, item.stretch);
