@@ -17,7 +17,7 @@ from pathlib import Path
 from replay import ENVIRONMENT, parsed, working_directory
 from tour import tours
 
-PATIENCE = 60
+PATIENCE = 150  # seconds; on a busy machine too
 
 
 def files(place):
