@@ -43,6 +43,25 @@ std::string sentence(const Event& event)
 
 } // namespace
 
+Events opening(Name window)
+{
+    const std::string name(window);
+    return {"load startup", "show startup", "hide startup", "load " + name, "show " + name};
+}
+
+std::unique_ptr<View> WatchedPlatform::build(const Declaration& declaration, const Handlers& handlers,
+                                             std::function<void()> close)
+{
+    built[declaration.name] = declaration;
+    return RecordingPlatform::build(declaration, handlers, std::move(close));
+}
+
+Text WatchedPlatform::clipboardText()
+{
+    ++clipboardReads;
+    return RecordingPlatform::clipboardText();
+}
+
 Session::Session() : app(platform)
 {
     before_ = fs::current_path().string();
@@ -113,6 +132,29 @@ bool Session::visible(Name window)
 Text Session::caption(Name window)
 {
     return view(window).state().caption;
+}
+
+Texts Session::controls(Name window)
+{
+    Texts names;
+    for (const auto& [name, control] : view(window).state().controls)
+        names.push_back(fromUtf8(name));
+    return names;
+}
+
+bool Session::hasControl(Name window, Name control)
+{
+    return view(window).state().controls.contains(control);
+}
+
+Texts Session::frames(Name window)
+{
+    Texts result;
+    forEachControl(platform.built.at(window).content, [&](const auto& control) {
+        if constexpr (std::is_same_v<std::decay_t<decltype(control)>, OptionFrame>)
+            result.push_back(fromUtf8(control.name) + u": " + Text(control.caption));
+    });
+    return result;
 }
 
 ChartContent Session::chart(Name window, Name control)

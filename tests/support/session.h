@@ -9,13 +9,31 @@
 
 namespace plotvue::test {
 
+using Events = std::vector<std::string>;
+using Numbers = std::vector<double>;
+using Texts = std::vector<Text>;
+
+// What happens when the program starts with a capture that opens the window.
+Events opening(Name window);
+
+// Also keeps what it was told to build, and counts how often the clipboard was read.
+class WatchedPlatform : public RecordingPlatform {
+public:
+    std::map<Name, Declaration> built;
+    int clipboardReads = 0;
+
+    std::unique_ptr<View> build(const Declaration& declaration, const Handlers& handlers,
+                                std::function<void()> close) override;
+    Text clipboardText() override;
+};
+
 // Runs in an empty directory of its own, which goes with it.
 class Session {
 public:
     Session();
     ~Session();
 
-    RecordingPlatform platform;
+    WatchedPlatform platform;
     Application app;
 
     // What happened since the last look: "load frmProduct", "show frmProduct", "hide …", "unload …",
@@ -33,6 +51,9 @@ public:
     bool loaded(Name window);
     bool visible(Name window);
     Text caption(Name window);
+    Texts controls(Name window); // their names, sorted
+    bool hasControl(Name window, Name control);
+    Texts frames(Name window); // of its options, as they are arranged: "Frame2: Months"
     ChartContent chart(Name window, Name control = "ChartFX1");
     OptionsState options(Name window, Name group);
     GridState grid(Name window, Name control = "MSFlexGrid1");

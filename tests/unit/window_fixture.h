@@ -8,30 +8,16 @@
 
 namespace plotvue::test {
 
-using Events = std::vector<std::string>;
-using Numbers = std::vector<double>;
-using Texts = std::vector<Text>;
-
-// What happens when the program starts with a capture that opens the window.
-inline Events opening(Name window)
-{
-    const std::string name(window);
-    return {"load startup", "show startup", "hide startup", "load " + name, "show " + name};
-}
-
 inline Texts controlsOf(Session& session, Name window)
 {
-    Texts names;
-    for (const auto& [name, control] : session.app.window(window)->view().state().controls)
-        names.push_back(fromUtf8(name));
-    return names;
+    return session.controls(window);
 }
 
-// Of the options, as they stand on the window.
-inline Texts captions(const OptionsState& options)
+// Of the options, in their order on the window.
+inline Texts captions(const auto& options)
 {
     Texts result;
-    for (const OptionState& option : options.options)
+    for (const auto& option : options.options)
         result.push_back(option.caption);
     return result;
 }
