@@ -1,4 +1,5 @@
-// Host screens for tests: text put at a line and a column, both counted from 1.
+// Host screens for tests: made of nothing, or of a sample with other text in some places. Lines and columns
+// are counted from 1.
 #pragma once
 
 #include "capture/text.h"
@@ -11,21 +12,38 @@ namespace plotvue::test {
 class CaptureBuilder {
 public:
     explicit CaptureBuilder(std::size_t lines = 24) : lines_(lines) {}
+    explicit CaptureBuilder(TextSpan capture); // its lines end in CR LF
 
-    // Lines never written to hold a single "." so that they do not vanish as blank ones do.
     CaptureBuilder& put(std::size_t line, std::size_t column, TextSpan text);
+    CaptureBuilder& replaceLine(std::size_t line, TextSpan text);
+    CaptureBuilder& insertLine(std::size_t line, TextSpan text); // before the line with that number
 
-    // The lines with CR LF, or another line end.
+    const Text& line(std::size_t line) const { return lines_.at(line - 1); }
+
+    // Fewer characters than `width` where the line ends earlier.
+    Text characters(std::size_t line, std::size_t column, std::size_t width) const;
+
+    // Without its commas. Throws std::runtime_error unless the characters hold one number between blanks.
+    double number(std::size_t line, std::size_t column, std::size_t width) const;
+
+    // The lines with CR LF, or another line end. Empty lines hold a single ".", because readers skip blank
+    // ones.
     Text text(TextSpan lineEnd = u"\r\n") const;
 
 private:
-    std::vector<Text> lines_;
+    std::vector<Text> lines_; // without line ends
 };
 
-// The text of a file, UTF-8, as it stands. Throws std::runtime_error when it cannot be read.
+// The whole text of a UTF-8 file. Throws std::runtime_error when it cannot be read.
 Text readFile(const std::string& path);
 
 // A capture of samples/: sample("product").
 Text sample(std::string_view name);
+
+// Every occurrence of the word overwritten with dots.
+Text blotted(Text capture, TextSpan word);
+
+// The capture, filled up so that the word follows with its first letter at the position.
+Text withWordAt(Text capture, TextSpan word, std::size_t position);
 
 } // namespace plotvue::test

@@ -1,32 +1,10 @@
-// A host screen of monthly figures as a test states it: its own small reading of lines and columns, so that
-// what the program shows is compared with figures that the program has not read. Lines, columns and months
-// are counted from 1, months from the newest backwards.
+// The months of a host screen where a test says that they stand: what a chart shows is compared with figures
+// that the program has not read. Months are counted from 1, from the newest backwards.
 #pragma once
 
-#include "capture/text.h"
-
-#include <vector>
+#include "support/capturebuilder.h"
 
 namespace plotvue::test {
-
-// Reads and changes one capture.
-class HostScreen {
-public:
-    explicit HostScreen(TextSpan capture); // lines end in CR LF
-
-    Text text() const; // with CR LF again
-    Text characters(int line, int column, int width) const;
-
-    // Commas dropped. Throws std::runtime_error unless the characters hold one number between blanks.
-    double number(int line, int column, int width) const;
-
-    HostScreen& put(int line, int column, TextSpan text); // over what stands there
-    HostScreen& replaceLine(int line, TextSpan text);
-    HostScreen& moveDown(int line); // a line with a dot comes before it
-
-private:
-    std::vector<Text> lines_; // without line ends
-};
 
 // A run of months down the screen.
 struct MonthColumn {
@@ -36,13 +14,12 @@ struct MonthColumn {
 };
 
 struct Columns {
-    int offset, width; // behind the month's column
+    int offset, width; // the offset is counted from the month's column
 };
 
-// The months of a screen, where the test says that they stand.
 class MonthlyTable {
 public:
-    MonthlyTable(HostScreen screen, std::vector<MonthColumn> columns);
+    MonthlyTable(CaptureBuilder screen, std::vector<MonthColumn> columns);
 
     Text characters(int month, Columns columns) const;
     double number(int month, Columns columns) const;
@@ -51,17 +28,22 @@ public:
     // Newest first: "OCT99", or "O99" where more than 18 months are read.
     std::vector<Text> labels(int months) const;
 
+    // Over what the months hold at the offset.
+    void put(int month, int offset, TextSpan text);
+
+    const CaptureBuilder& screen() const { return screen_; }
+
 private:
     struct Place {
         int line, column;
     };
     Place placeOf(int month) const;
 
-    HostScreen screen_;
+    CaptureBuilder screen_;
     std::vector<MonthColumn> columns_;
 };
 
-// The slots of a chart: the oldest of the months first, and an empty one behind the newest.
+// The slots of a chart: the oldest of the months first, and an empty one after the newest.
 template <typename T>
 std::vector<T> slots(const std::vector<T>& newestFirst)
 {

@@ -2,6 +2,7 @@
 
 #include "capture/utf8.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -45,6 +46,12 @@ std::string sentence(const Event& event)
 
 } // namespace
 
+Events opening(Name window)
+{
+    const std::string name(window);
+    return {"load startup", "show startup", "hide startup", "load " + name, "show " + name};
+}
+
 Session::Session() : app(platform)
 {
     before_ = fs::current_path().string();
@@ -63,7 +70,7 @@ Session::~Session()
     fs::remove_all(directory_, ignored);
 }
 
-std::vector<std::string> Session::events()
+Events Session::events()
 {
     return std::exchange(events_, {});
 }
@@ -143,17 +150,33 @@ Text Session::text(Name window, Name control)
     return caption ? *caption : *controls(window).text(control);
 }
 
-std::vector<std::string> Session::controlNames(Name window)
+Texts Session::controlNames(Name window)
 {
-    std::set<std::string> names;
+    std::set<Text> names;
     forEachControl(controls(window).declaration.content, [&](const auto& declared) {
         if constexpr (requires { declared.group; })
-            names.emplace(declared.group);
+            names.insert(fromUtf8(declared.group));
         else if constexpr (requires { declared.name; } &&
                            !std::is_same_v<decltype(declared), const PictureBox&>)
-            names.emplace(declared.name);
+            names.insert(fromUtf8(declared.name));
     });
     return {names.begin(), names.end()};
+}
+
+bool Session::hasControl(Name window, Name control)
+{
+    const Texts names = controlNames(window);
+    return std::ranges::find(names, fromUtf8(control)) != names.end();
+}
+
+Texts Session::frames(Name window)
+{
+    Texts result;
+    forEachControl(controls(window).declaration.content, [&](const auto& declared) {
+        if constexpr (std::is_same_v<decltype(declared), const OptionFrame&>)
+            result.push_back(fromUtf8(declared.name) + u": " + Text(declared.caption));
+    });
+    return result;
 }
 
 bool Session::fileExists(const std::string& name) const

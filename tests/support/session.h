@@ -9,18 +9,37 @@
 
 namespace plotvue::test {
 
+using Events = std::vector<std::string>;
+using Numbers = std::vector<double>;
+using Texts = std::vector<Text>;
+
+// What happens when the program starts with a capture that opens the window.
+Events opening(Name window);
+
+// Counts how often the clipboard is read.
+class CountingPlatform : public RecordingPlatform {
+public:
+    int clipboardReads = 0;
+
+    Text clipboardText() override
+    {
+        ++clipboardReads;
+        return RecordingPlatform::clipboardText();
+    }
+};
+
 // Runs in an empty directory of its own, which goes with it.
 class Session {
 public:
     Session();
     ~Session();
 
-    RecordingPlatform platform;
+    CountingPlatform platform;
     Application app;
 
     // What happened since the last look: "load frmProduct", "show frmProduct", "hide …", "unload …",
     // "message Need Data: …", "print frmProduct", "spin", "error …", "end".
-    std::vector<std::string> events();
+    Events events();
 
     void copy(TextSpan clipboard) { platform.clipboard = clipboard; }
     void start() { app.start(); }
@@ -33,12 +52,13 @@ public:
     bool loaded(Name window);
     bool visible(Name window);
     Text caption(Name window);
+    Texts controlNames(Name window); // ascending; an option group once, pictures are none
+    bool hasControl(Name window, Name control);
+    Texts frames(Name window); // of its options, in their order: "Frame2: Months"
     Chart chart(Name window, Name control = "ChartFX1");
     OptionGroup options(Name window, Name group);
     Grid grid(Name window, Name control = "MSFlexGrid1");
     Text text(Name window, Name control); // of a label or a text box; the caption of a button
-
-    std::vector<std::string> controlNames(Name window); // ascending; an option group once, pictures none
 
     bool fileExists(const std::string& name) const;
     std::string file(const std::string& name) const; // bytes; "" when there is none
@@ -46,7 +66,7 @@ public:
 private:
     Controls& controls(Name window);
 
-    std::vector<std::string> events_;
+    Events events_;
     std::string directory_, before_;
 };
 

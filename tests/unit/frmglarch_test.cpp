@@ -1,112 +1,96 @@
-#include "unit/history_fixture.h"
+#include "support/chartwindow.h"
+#include "support/monthlytable.h"
 
 #include <cmath>
+#include <gtest/gtest.h>
 
 namespace plotvue::test {
-
 namespace {
 
-constexpr Name window = "frmGLarch";
+class FrmGLarch : public testing::Test {
+protected:
+    // The program, with a capture and a number of years.
+    std::unique_ptr<ChartWindow> drawing(const CaptureBuilder& capture, int years = 1)
+    {
+        auto drawn = std::make_unique<ChartWindow>("frmGLarch", capture);
+        drawn->open();
+        drawn->choose(0, years - 1);
+        return drawn;
+    }
+    Numbers values(const CaptureBuilder& capture) { return drawing(capture)->chart().series.at(0); }
+    Text label(std::size_t month, const CaptureBuilder& capture, int years = 1)
+    {
+        return drawing(capture, years)->chart().labels.at(month);
+    }
+    static bool fails(const CaptureBuilder& capture)
+    {
+        return ChartWindow("frmGLarch", capture).open().back().starts_with("error ");
+    }
 
-HostScreen ledger()
-{
-    return hostScreen("glhistory");
-}
+    // The sample with another line.
+    CaptureBuilder withLine(std::size_t line, TextSpan text) const
+    {
+        return CaptureBuilder(ledger).replaceLine(line, text);
+    }
 
-// One year of amounts, January first, in the newest column.
-HostScreen ledgerWith(const std::vector<TextSpan>& amounts)
-{
-    HostScreen host = ledger();
-    int line = 6;
-    for (const TextSpan amount : amounts)
-        host.put(line++, 62, Text(13 - amount.size(), u' ') + Text(amount));
-    return host;
-}
+    // The sample with other amounts in the newest year, January first.
+    CaptureBuilder withAmounts(const std::vector<TextSpan>& amounts) const
+    {
+        CaptureBuilder capture = ledger;
+        std::size_t line = 6;
+        for (const TextSpan amount : amounts)
+            capture.put(line++, 62, Text(13 - amount.size(), u' ') + Text(amount));
+        return capture;
+    }
 
-Numbers drawn(const HostScreen& host)
-{
-    Session session;
-    session.start(host.text());
-    return session.chart(window).series.at(0);
-}
+    const CaptureBuilder ledger{TextSpan(sample("glhistory"))};
+};
 
-Texts labels(const HostScreen& host, int period = 0)
+TEST_F(FrmGLarch, ShowsEveryAmountOfEveryYearTurned)
 {
-    Session session;
-    session.start(host.text());
-    session.choose(window, "opt12", period);
-    return session.chart(window).labels;
-}
-
-// The last event of a start with the capture.
-std::string outcome(const HostScreen& host)
-{
-    Session session;
-    session.start(host.text());
-    return session.events().back();
-}
-
-TEST(FrmGLarch, ShowsEveryAmountOfEveryYearTurned)
-{
-    const MonthlyTable table(ledger(), {{1, 12, 17, 62, -1},
-                                        {13, 12, 17, 48, -1},
-                                        {25, 12, 17, 34, -1},
-                                        {37, 12, 17, 20, -1},
-                                        {49, 12, 17, 6, -1}});
+    const MonthlyTable table(ledger, {{1, 12, 17, 62, -1},
+                                      {13, 12, 17, 48, -1},
+                                      {25, 12, 17, 34, -1},
+                                      {37, 12, 17, 20, -1},
+                                      {49, 12, 17, 6, -1}});
     const Texts months{u"DEC", u"NOV", u"OCT", u"SEP", u"AUG", u"JUL",
                        u"JUN", u"MAY", u"APR", u"MAR", u"FEB"};
-    Session session;
-    session.start(ledger().text());
     Texts newestFirst;
     for (int years = 1; years <= 5; ++years) {
         SCOPED_TRACE(years);
-        session.choose(window, "opt12", years - 1);
         Numbers amounts;
         for (const double amount : table.numbers({0, 13}, 12 * years))
             amounts.push_back(-std::nearbyint(amount));
         newestFirst.insert(newestFirst.end(), months.begin(), months.end());
         newestFirst.push_back(Text(u"J9") + static_cast<char16_t>(u'9' + 1 - years));
-        const Chart chart = session.chart(window);
-        EXPECT_EQ(chart.series, std::vector<Numbers>{slots(amounts)});
-        EXPECT_EQ(chart.labels, slots(newestFirst));
+        const auto drawn = drawing(ledger, years);
+        EXPECT_EQ(drawn->chart().series, std::vector<Numbers>{slots(amounts)});
+        EXPECT_EQ(drawn->chart().labels, slots(newestFirst));
+        EXPECT_FALSE(drawn->chart().decimals);
     }
 }
 
-TEST(FrmGLarch, OneYearIsTheNewestColumn)
+TEST_F(FrmGLarch, FiveYearsBeginInTheOldestColumn)
 {
-    Session session;
-    session.start(ledger().text());
-    EXPECT_EQ(session.chart(window).series,
-              (std::vector<Numbers>{{1277492, 1289092, 1089282, 950794, 827976, 754842, 775795, 768372,
-                                     923265, 1028226, 1157194, 1338832, 0}}));
-}
-
-TEST(FrmGLarch, FiveYearsBeginInTheOldestColumn)
-{
-    Session session;
-    session.start(ledger().text());
-    session.choose(window, "opt12", 4);
-    const Chart chart = session.chart(window);
+    const auto chart = drawing(ledger, 5)->chart();
     ASSERT_EQ(chart.series[0].size(), 61u);
     EXPECT_EQ(chart.series[0][0], 1010295);  // JAN95, line 6
     EXPECT_EQ(chart.series[0][11], 1025889); // DEC95, line 17
     EXPECT_EQ(chart.series[0][18], -34219);  // JUL96, a debit
     EXPECT_EQ(chart.series[0][43], -12406);  // AUG98: the half goes to the even neighbour
+    EXPECT_EQ(chart.series[0][48], 1277492); // JAN99
     EXPECT_EQ(chart.series[0][59], 1338832); // DEC99, line 17
     EXPECT_EQ(chart.labels[60], u"");
 }
 
-TEST(FrmGLarch, AnAmountIsExactlyItsThirteenColumns)
+TEST_F(FrmGLarch, AnAmountIsExactlyItsThirteenColumns)
 {
     const TextSpan amounts = u"00012345678917"
                              u"00010000000327"
                              u"00010000000537"
                              u"00010000000747"
                              u"0001000000095777";
-    Session session;
-    session.start(ledger().put(9, 6, amounts).text());
-    session.choose(window, "opt12", 4);
-    const Numbers values = session.chart(window).series[0];
+    const Numbers values = drawing(CaptureBuilder(ledger).put(9, 6, amounts), 5)->chart().series[0];
     EXPECT_EQ(values[3], -1234567891);
     EXPECT_EQ(values[15], -1000000032);
     EXPECT_EQ(values[27], -1000000053);
@@ -114,163 +98,114 @@ TEST(FrmGLarch, AnAmountIsExactlyItsThirteenColumns)
     EXPECT_EQ(values[51], -1000000095);
 }
 
-TEST(FrmGLarch, AHalfGoesToTheEvenNeighbour)
+TEST_F(FrmGLarch, AHalfGoesToTheEvenNeighbour)
 {
-    EXPECT_EQ(drawn(ledgerWith({u"1,234.50", u"1,235.50", u"0.50", u"1.50", u"2.51", u"0.49", u"", u"NONE",
-                                u"9.00", u"8.00", u"7.00", u"-1.50"})),
+    EXPECT_EQ(values(withAmounts({u"1,234.50", u"1,235.50", u"0.50", u"1.50", u"2.51", u"0.49", u"", u"NONE",
+                                  u"9.00", u"8.00", u"7.00", u"-1.50"})),
               (Numbers{1234, 1236, 0, 2, 3, 0, 0, 0, 9, 8, 7, -2, 0}));
 }
 
-TEST(FrmGLarch, MostlyNegativeIsTurned)
+TEST_F(FrmGLarch, AmountsThatAreMostlyNegativeAreTurned)
 {
-    EXPECT_EQ(
-        drawn(ledgerWith({u"-1", u"-2", u"-3", u"-4", u"-5", u"-6", u"-7", u"8", u"9", u"10", u"11", u"0"})),
-        (Numbers{1, 2, 3, 4, 5, 6, 7, -8, -9, -10, -11, 0, 0}));
+    EXPECT_EQ(values(withAmounts(
+                  {u"-1", u"-2", u"-3", u"-4", u"-5", u"-6", u"-7", u"8", u"9", u"10", u"11", u"0"})),
+              (Numbers{1, 2, 3, 4, 5, 6, 7, -8, -9, -10, -11, 0, 0}));
 }
 
-TEST(FrmGLarch, ATieKeepsTheSigns)
+TEST_F(FrmGLarch, ATieKeepsTheSigns)
 {
-    EXPECT_EQ(
-        drawn(ledgerWith({u"-1", u"-2", u"-3", u"-4", u"-5", u"-6", u"7", u"8", u"9", u"10", u"11", u"12"})),
-        (Numbers{-1, -2, -3, -4, -5, -6, 7, 8, 9, 10, 11, 12, 0}));
+    EXPECT_EQ(values(withAmounts(
+                  {u"-1", u"-2", u"-3", u"-4", u"-5", u"-6", u"7", u"8", u"9", u"10", u"11", u"12"})),
+              (Numbers{-1, -2, -3, -4, -5, -6, 7, 8, 9, 10, 11, 12, 0}));
 }
 
-TEST(FrmGLarch, WhatRoundsToNothingDoesNotCount)
+TEST_F(FrmGLarch, AmountsThatRoundToZeroDoNotCount)
 {
-    EXPECT_EQ(drawn(ledgerWith(
+    EXPECT_EQ(values(withAmounts(
                   {u"-0.50", u"-0.50", u"-0.40", u"-5", u"5", u"0", u"0", u"0", u"0", u"0", u"0", u"0"})),
               (Numbers{0, 0, 0, -5, 5, 0, 0, 0, 0, 0, 0, 0, 0}));
 }
 
-TEST(FrmGLarch, ASingleAmountTurnsAnAccountWithoutOthers)
+TEST_F(FrmGLarch, ASingleAmountTurnsAnAccountWithoutOthers)
 {
-    EXPECT_EQ(drawn(ledgerWith({u"0", u"0", u"0", u"0", u"0", u"0", u"-1", u"0", u"0", u"0", u"0", u"0"})),
+    EXPECT_EQ(values(withAmounts({u"0", u"0", u"0", u"0", u"0", u"0", u"-1", u"0", u"0", u"0", u"0", u"0"})),
               (Numbers{0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0}));
 }
 
-TEST(FrmGLarch, ATrailingMinusReadsAndCountsAsPositive)
+TEST_F(FrmGLarch, ATrailingMinusReadsAndCountsAsPositive)
 {
-    EXPECT_EQ(drawn(ledgerWith(
+    EXPECT_EQ(values(withAmounts(
                   {u"1-", u"2-", u"3-", u"4-", u"5-", u"6-", u"7-", u"-8", u"-9", u"-10", u"0", u"0"})),
               (Numbers{1, 2, 3, 4, 5, 6, 7, -8, -9, -10, 0, 0, 0}));
 }
 
-TEST(FrmGLarch, OnlyTheYearsShownDecideTheSign)
+TEST_F(FrmGLarch, OnlyTheYearsShownDecideTheSign)
 {
-    Session session;
-    session.start(
-        ledgerWith({u"1", u"2", u"3", u"4", u"5", u"6", u"7", u"8", u"9", u"10", u"11", u"12"}).text());
-    EXPECT_EQ(session.chart(window).series[0][11], 12);
-    session.choose(window, "opt12", 2); // 23 negative ones and a positive one before them
-    EXPECT_EQ(session.chart(window).series[0][35], -12);
+    const CaptureBuilder capture =
+        withAmounts({u"1", u"2", u"3", u"4", u"5", u"6", u"7", u"8", u"9", u"10", u"11", u"12"});
+    EXPECT_EQ(values(capture)[11], 12);
+    // 23 negative ones and a positive one before them
+    EXPECT_EQ(drawing(capture, 3)->chart().series[0][35], -12);
 }
 
-TEST(FrmGLarch, AmountsMustFitWholeNumbersOf32Bits)
+TEST_F(FrmGLarch, AmountsMustFitWholeNumbersOf32Bits)
 {
-    EXPECT_EQ(drawn(ledgerWith({u"2147483647", u"1", u"1"}))[0], -2147483647);
-    EXPECT_TRUE(outcome(ledgerWith({u"2147483648"})).starts_with("error "));
-    EXPECT_TRUE(outcome(ledgerWith({u"-2147483649"})).starts_with("error "));
-    EXPECT_TRUE(outcome(ledgerWith({u"-2147483648"})).starts_with("error ")); // when it is turned
-    EXPECT_EQ(drawn(ledgerWith(
+    EXPECT_EQ(values(withAmounts({u"2147483647", u"1", u"1"}))[0], -2147483647);
+    EXPECT_TRUE(fails(withAmounts({u"2147483648"})));
+    EXPECT_TRUE(fails(withAmounts({u"-2147483649"})));
+    EXPECT_TRUE(fails(withAmounts({u"-2147483648"}))); // when it is turned
+    EXPECT_EQ(values(withAmounts(
                   {u"-2147483648", u"1", u"1", u"1", u"1", u"1", u"1", u"1", u"1", u"1", u"1", u"1"}))[0],
               -2147483648.0);
 }
 
-TEST(FrmGLarch, JanuaryIsMarkedWithItsYear)
+TEST_F(FrmGLarch, JanuaryIsMarkedWithItsYear)
 {
-    const HostScreen host = ledger().replaceLine(4, u"ACTIVITY FROM 01/1998 TO 12/2002");
-    EXPECT_EQ(labels(host), (Texts{u"J02", u"FEB", u"MAR", u"APR", u"MAY", u"JUN", u"JUL", u"AUG", u"SEP",
-                                   u"OCT", u"NOV", u"DEC", u""}));
-    EXPECT_EQ(labels(host, 1)[0], u"J01");
-    EXPECT_EQ(labels(host, 2)[0], u"J00");
-    EXPECT_EQ(labels(host, 3)[0], u"J99");
-    EXPECT_EQ(labels(host, 4)[0], u"J98");
+    const CaptureBuilder capture = withLine(4, u"ACTIVITY FROM 01/1998 TO 12/2002");
+    EXPECT_EQ(drawing(capture)->chart().labels, (Texts{u"J02", u"FEB", u"MAR", u"APR", u"MAY", u"JUN", u"JUL",
+                                                       u"AUG", u"SEP", u"OCT", u"NOV", u"DEC", u""}));
+    EXPECT_EQ(label(0, capture, 2), u"J01");
+    EXPECT_EQ(label(0, capture, 3), u"J00");
+    EXPECT_EQ(label(0, capture, 4), u"J99");
+    EXPECT_EQ(label(0, capture, 5), u"J98");
 }
 
-TEST(FrmGLarch, ARowThatHoldsJanuaryAnywhereIsMarked)
+TEST_F(FrmGLarch, ARowThatHoldsJanuaryAnywhereIsMarked)
 {
-    EXPECT_EQ(labels(ledger().put(7, 76, u"JAN"))[1], u"F99");
+    EXPECT_EQ(label(1, CaptureBuilder(ledger).put(7, 76, u"JAN")), u"F99");
 }
 
-TEST(FrmGLarch, MonthNamesStandInColumnsTwoToFour)
+TEST_F(FrmGLarch, MonthNamesAreReadInColumnsTwoToFour)
 {
-    EXPECT_EQ(labels(ledger().put(8, 1, u"XMARX"))[2], u"MAR");
-    EXPECT_EQ(labels(ledger().put(6, 1, u"XJANX"))[0], u"J99");
+    EXPECT_EQ(label(2, CaptureBuilder(ledger).put(8, 1, u"XMARX")), u"MAR");
+    EXPECT_EQ(label(0, CaptureBuilder(ledger).put(6, 1, u"XJANX")), u"J99");
 }
 
-TEST(FrmGLarch, TheFirstYearIsTheFourCharactersBehindTheFirstSlash)
+TEST_F(FrmGLarch, TheFirstYearIsTheFourCharactersAfterTheFirstSlash)
 {
-    EXPECT_EQ(labels(ledger().replaceLine(4, u"A/99017/1980"), 4)[0], u"J01");
-    EXPECT_EQ(labels(ledger().replaceLine(4, u"99987 TO 2002"), 4)[0], u"J98"); // no slash: columns 1 to 4
-    EXPECT_EQ(labels(ledger().replaceLine(4, u"A/NONE"), 4)[0], u"J");          // years 0 to 4
-    EXPECT_EQ(labels(ledger().replaceLine(4, u"A/123"), 4)[0], u"J3");
-    EXPECT_EQ(labels(ledger().replaceLine(4, u"A/9999"))[0], u"J00"); // of 10003
-    EXPECT_TRUE(outcome(ledger().replaceLine(4, u"A/9E9 ")).starts_with("error "));
+    EXPECT_EQ(label(0, withLine(4, u"A/99017/1980"), 5), u"J01");
+    EXPECT_EQ(label(0, withLine(4, u"99987 TO 2002"), 5), u"J98"); // no slash: columns 1 to 4
+    EXPECT_EQ(label(0, withLine(4, u"A/NONE"), 5), u"J");          // years 0 to 4
+    EXPECT_EQ(label(0, withLine(4, u"A/123"), 5), u"J3");
+    EXPECT_EQ(label(0, withLine(4, u"A/9999")), u"J00"); // of 10003
+    EXPECT_TRUE(fails(withLine(4, u"A/9E9 ")));
 }
 
-TEST(FrmGLarch, TheFirstYearIsReadBeforeTheLinesRunOut)
+TEST_F(FrmGLarch, TheFirstYearIsReadBeforeTheLinesRunOut)
 {
-    Session session;
-    session.start(u"PFMGLARCH1\r\nACCOUNT\r\nLOCATION\r\nFROM 01/9E9\r\n");
-    EXPECT_TRUE(session.events().back().starts_with("error "));
+    const TextSpan capture = u"PFMGLARCH1\r\nACCOUNT\r\nLOCATION\r\nFROM 01/9E9\r\n";
+    EXPECT_TRUE(fails(CaptureBuilder(capture)));
 }
 
-TEST(FrmGLarch, TitlesNameTheAccountAndTheLocation)
+TEST_F(FrmGLarch, TitlesAreCutAfterTheFirstColonOrTakenWhole)
 {
-    Session session;
-    session.start(ledger().text());
-    const Chart chart = session.chart(window);
-    EXPECT_EQ(chart.titles, (std::map<int, Text>{{2, u"G/L History for Acct: 4010-00 HEATING OIL SALES"},
-                                                 {3, u"ALL TERMINALS"}}));
-    EXPECT_FALSE(chart.decimals);
-}
-
-TEST(FrmGLarch, TitlesAreCutBehindTheFirstColonOrTakenWhole)
-{
-    Session session;
-    session.start(ledger().replaceLine(2, u"A:B:C").replaceLine(3, u"D: E:F").text());
-    EXPECT_EQ(session.chart(window).titles.at(2), u"G/L History for Acct: B:C");
-    EXPECT_EQ(session.chart(window).titles.at(3), u" E:F");
-    session.copy(ledger().replaceLine(2, u"ABC").replaceLine(3, u"DEF").text());
-    session.press(window, "cmdRefresh");
-    EXPECT_EQ(session.chart(window).titles.at(2), u"G/L History for Acct: ABC");
-    EXPECT_EQ(session.chart(window).titles.at(3), u"DEF");
-}
-
-TEST(FrmGLarch, OptionsAreYearsAndNothingElse)
-{
-    Session session;
-    session.start(ledger().text());
-    EXPECT_EQ(session.events(), opening("frmGLarch"));
-    expectButtons(session, window);
-    const OptionGroup years = session.options(window, "opt12");
-    EXPECT_EQ(fromTheTop(years), (Texts{u"1", u"2", u"3", u"4", u"5"}));
-    EXPECT_EQ(indicesFromTheTop(years), (std::vector{0, 1, 2, 3, 4}));
-    EXPECT_EQ(years.chosen, std::vector{0});
-    EXPECT_EQ(frameCaptions(frmGLarch), Texts{u"Years"});
-    EXPECT_THROW(session.options(window, "optSales"), std::out_of_range);
-    EXPECT_EQ(session.caption(window), u"Plotvue!");
-}
-
-TEST(FrmGLarch, WithoutItsIdentifierNothingIsRead)
-{
-    Session session;
-    session.start(ledger().text());
-    expectForeignCaptureLeaves(session, "frmGLarch", ledger().put(1, 1, u"PFMGLARCH2").text());
-}
-
-TEST(FrmGLarch, ShortCapturesNeverReturn)
-{
-    expectShortCaptureSpins("frmGLarch", "glhistory");
-}
-
-TEST(FrmGLarch, ExitKeepsTheChart)
-{
-    Session session;
-    session.start(ledger().text());
-    expectExitKeepsTheChart(session, "frmGLarch", ledgerWith({u"-5"}).text());
+    const auto drawn = drawing(withLine(2, u"A:B:C").replaceLine(3, u"D: E:F"));
+    EXPECT_EQ(drawn->title(2), u"G/L History for Acct: B:C");
+    EXPECT_EQ(drawn->title(3), u" E:F");
+    drawn->refresh(withLine(2, u"ABC").replaceLine(3, u"DEF"));
+    EXPECT_EQ(drawn->title(2), u"G/L History for Acct: ABC");
+    EXPECT_EQ(drawn->title(3), u"DEF");
 }
 
 } // namespace
-
 } // namespace plotvue::test

@@ -28,7 +28,7 @@ TEST_F(CategoriesBySalesman, ItsControls)
     session.start(screen(4).text());
     EXPECT_EQ(session.events(), opening(cxs));
     EXPECT_EQ(session.caption(cxs), u"Plotvue!");
-    EXPECT_EQ(controlsOf(session, cxs),
+    EXPECT_EQ(session.controlNames(cxs),
               (Texts{u"ChartFX1", u"MSFlexGrid1", u"cmdExit", u"cmdPrint", u"cmdRefresh", u"optSales"}));
     EXPECT_EQ(session.text(cxs, "cmdRefresh"), u"&Refresh");
     EXPECT_EQ(session.text(cxs, "cmdPrint"), u"&Print");

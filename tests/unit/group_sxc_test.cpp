@@ -26,7 +26,7 @@ TEST_F(SalesmenByCategory, ItsControls)
     session.start(screen(4).text());
     EXPECT_EQ(session.events(), opening(sxc));
     EXPECT_EQ(session.caption(sxc), u"Plotvue!");
-    EXPECT_EQ(controlsOf(session, sxc),
+    EXPECT_EQ(session.controlNames(sxc),
               (Texts{u"ChartFX1", u"cmdExit", u"cmdPrint", u"cmdRefresh", u"optSales"}));
     EXPECT_EQ(session.text(sxc, "cmdRefresh"), u"&Refresh");
     EXPECT_EQ(session.text(sxc, "cmdPrint"), u"&Print");

@@ -220,8 +220,8 @@ TEST_P(RankedControls, AreNamedAndCaptioned)
 {
     const auto entries = std::ranges::find(everyAnalysis(), GetParam().list, &ThreeEntries::list);
     RankedSession session(GetParam().list, entries->capture, 1);
-    EXPECT_EQ(controlsOf(session, session.list), GetParam().listControls);
-    EXPECT_EQ(controlsOf(session, session.drillDown), GetParam().drillDownControls);
+    EXPECT_EQ(session.controlNames(session.list), GetParam().listControls);
+    EXPECT_EQ(session.controlNames(session.drillDown), GetParam().drillDownControls);
     EXPECT_EQ(session.caption(session.list), GetParam().caption);
     EXPECT_EQ(session.caption(session.drillDown), GetParam().caption);
     EXPECT_EQ(session.text(session.list, "cmdExit"), u"Exit");

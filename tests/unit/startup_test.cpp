@@ -88,8 +88,8 @@ TEST(Startup, HasNoOtherControls)
 {
     Session session;
     session.start();
-    EXPECT_THAT(session.controlNames("startup"), ElementsAre("Command1", "Command2", "Label1", "Label2",
-                                                             "Label3", "Label4", "Label5", "List1"));
+    EXPECT_THAT(session.controlNames("startup"), ElementsAre(u"Command1", u"Command2", u"Label1", u"Label2",
+                                                             u"Label3", u"Label4", u"Label5", u"List1"));
 }
 
 TEST(Startup, ItsLettersHaveTheirFamiliesAndSizes)

@@ -8,30 +8,11 @@
 
 namespace plotvue::test {
 
-using Events = std::vector<std::string>;
-using Numbers = std::vector<double>;
-using Texts = std::vector<Text>;
-
-// What happens when the program starts with a capture that opens the window.
-inline Events opening(Name window)
-{
-    const std::string name(window);
-    return {"load startup", "show startup", "hide startup", "load " + name, "show " + name};
-}
-
-inline Texts controlsOf(Session& session, Name window)
-{
-    Texts names;
-    for (const std::string& name : session.controlNames(window))
-        names.push_back(fromUtf8(name));
-    return names;
-}
-
-// Of the options, as they stand on the window.
-inline Texts captions(const OptionGroup& options)
+// Of the options, in their order on the window.
+inline Texts captions(const auto& options)
 {
     Texts result;
-    for (const OptionGroup::Entry& option : options.options)
+    for (const auto& option : options.options)
         result.push_back(option.caption);
     return result;
 }
