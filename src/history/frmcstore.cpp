@@ -28,7 +28,7 @@ extern const MonthlyScreen frmCSTORE{
     .day = 9,
     .blocks = twoHalves(5),
     .types = salesTypes(hundredTimesQuotient, u"G/P %", u"Unit G/P"),
-    .subject = {{.text = u"Store: "}, {.line = 1, .cut = storeName}},
+    .subject = {{.text = u"Store: "}, {.cut = storeName}},
     .subject2 = {{.line = 2, .after = u":", .from = 1, .lineEnd = false}},
     .periods = periodsShort(),
 };

@@ -48,10 +48,7 @@ extern const MonthlyScreen frmProduct{
     .blocks = twoHalves(1),
     .place = placeAfterDashLine,
     .types = salesTypesLong(),
-    .subject = {{.text = u"Product: "},
-                {.line = 2, .cut = productNumber},
-                {.text = u" "},
-                {.line = 2, .cut = productName}},
+    .subject = {{.text = u"Product: "}, {.cut = productNumber}, {.text = u" "}, {.cut = productName}},
     .periods = periodsLong(),
 };
 

@@ -59,12 +59,9 @@ void ChartWindow::expectRefusal(TextSpan capture, Name control, int option)
     const auto before = chart();
     EXPECT_EQ(click(capture, control, option), left());
     EXPECT_FALSE(session.visible(window));
-    EXPECT_EQ(chart().titles, before.titles);
-    EXPECT_EQ(chart().decimals, before.decimals);
-    EXPECT_EQ(chart().series, before.series);
-    EXPECT_EQ(chart().labels, before.labels);
+    EXPECT_TRUE(chart() == before);
     EXPECT_EQ(comeBack(screen.text()), back());
-    EXPECT_EQ(chart().labels, before.labels);
+    EXPECT_TRUE(chart() == before);
 }
 
 void ChartWindow::expectExitKeepsTheChart(TextSpan otherCapture)
@@ -84,9 +81,7 @@ void ChartWindow::expectExitKeepsTheChart(TextSpan otherCapture)
         EXPECT_EQ(session.events(), left());
         EXPECT_TRUE(session.loaded(window));
         EXPECT_EQ(comeBack(otherCapture), back());
-        EXPECT_EQ(chart().series, before.series);
-        EXPECT_EQ(chart().labels, before.labels);
-        EXPECT_EQ(chart().titles, before.titles);
+        EXPECT_TRUE(chart() == before);
         EXPECT_EQ(chosen(), chosenBefore);
     }
     EXPECT_EQ(refresh(otherCapture), Events{});

@@ -41,7 +41,8 @@ TEST_F(FrmCustP2, EndsTheProcessWhenTheColonIsAfterColumn34)
 {
     refresh(screen.replaceLine(2, Text(33, u'X') + u":NAME"));
     EXPECT_EQ(title(2), u"Customer: ");
-    EXPECT_THAT(refresh(screen.replaceLine(2, Text(34, u'X') + u":NAME")), ElementsAre(StartsWith("error ")));
+    EXPECT_THAT(refresh(screen.replaceLine(2, Text(34, u'X') + u":NAME")),
+                ElementsAre(StartsWith("error Line 2 of the copied text: ")));
 }
 
 TEST_F(FrmCustP2, KeepsTheBlanksInsideItsFields)
