@@ -50,7 +50,7 @@ def check_alike(one, other):
 
 
 def holds(found, expected):
-    """Whether `found` matches `expected`: null matches anything, and decimal numbers may differ in their last digits."""
+    """Whether `found` matches `expected`: null matches anything, and decimals may differ in their last digits."""
     if isinstance(expected, dict) and isinstance(found, dict):
         return all(name in found and holds(found[name], value) for name, value in expected.items())
     if isinstance(expected, list) and isinstance(found, list):

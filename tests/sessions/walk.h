@@ -20,7 +20,7 @@ struct Wrong : std::runtime_error {
 void mustBePlain(TextSpan sentence);
 void mustBeEqual(const std::string& what, const std::string& one, const std::string& other);
 
-// Checks that the directory holds no files except the scratch files, readable only by their owner, and
+// Checks that the directory holds no files except the small files, readable only by their owner, and
 // deletes them.
 void takeFiles(const std::string& directory);
 
