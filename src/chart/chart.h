@@ -51,7 +51,7 @@ struct Chart {
     std::map<int, Text> titles{};  // only the positions that were set
     std::optional<int> decimals{}; // of the value axis; absent: as many as its steps need
     std::vector<std::vector<double>> series{};
-    std::vector<Text> labels{};      // of the slots; may be empty, may end with an empty label
+    std::vector<Text> labels{};      // of the slots; may be fewer or none, and the last may be blank
     std::set<int> hidden{};          // series
     std::map<int, Text> legends{};   // by series
     std::map<int, Colour> colours{}; // by series

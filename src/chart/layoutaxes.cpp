@@ -104,8 +104,8 @@ LabelStyle styleOfMonths(const LayoutInput& input, const Labels& labels, double 
     return {.step = 12 * (labels.january ? 1 : static_cast<int>(years))};
 }
 
-// The slots from one name to the next. The distance between slanted labels is smaller than the slot width,
-// and capitals need only three quarters of the line height.
+// The number of slots from one labelled slot to the next. The distance between slanted labels is `slant`
+// times that of their slots, and capitals need only three quarters of the line height.
 int stepBetweenNames(bool slanted, double slotWidth, double em)
 {
     return slanted ? static_cast<int>(std::ceil(em * .75 / (slotWidth * slant))) : 1;
@@ -146,7 +146,7 @@ void placeLabels(const LayoutInput& input, Layout& layout, const Labels& labels,
                  double top, double longest)
 {
     layout.labelRole = style.role;
-    // In a chart of whole years the step divides 12, so every January gives the same phase.
+    // In a chart of whole years the step divides 12, so every January has the same remainder.
     const int phase = labels.january.value_or(0) % style.step;
     for (int slot = 0; slot < layout.slotCount; ++slot) {
         const bool january = labels.isJanuary(static_cast<std::size_t>(slot));

@@ -99,7 +99,7 @@ struct Item {
 };
 
 struct Declaration {
-    Name name; // "frmProduct"
+    Name name; // for example "frmProduct"
     TextSpan caption;
     Panel content;
     // The initial size of the client area in device-independent pixels, for a desktop font of 10 points. A

@@ -49,7 +49,7 @@ public:
     // runs, because assistive technology can still operate the windows under the last message box.
     void run(const std::function<void()>& handler);
 
-    bool over() const { return over_; } // true once a handler has ended the process as described for run()
+    bool over() const { return over_; } // true once an exception of a handler has ended the process
 
 protected:
     virtual void showMessage(TextSpan title, TextSpan text) = 0;

@@ -11,7 +11,7 @@ TEST(LineEnds, ABareLineFeedBecomesCrLf)
     EXPECT_EQ(mendLineEnds(u"a\n"), u"a\r\n");
 }
 
-TEST(LineEnds, AnEmptyLineThatABareLineFeedEndsBecomesABlank)
+TEST(LineEnds, AnEmptyLineThatEndsInABareLineFeedBecomesABlank)
 {
     EXPECT_EQ(mendLineEnds(u"a\n\nb\n"), u"a\r\n \r\nb\r\n");
     EXPECT_EQ(mendLineEnds(u"a\n\n\n\nb"), u"a\r\n \r\n \r\n \r\nb");

@@ -60,7 +60,7 @@ void expectFits(const QWidget& widget)
         for (const QWidget* other : children)
             EXPECT_TRUE(other == child || !other->geometry().intersects(child->geometry()))
                 << "is overlapped by " << described(*other);
-        // Which arranges its children itself, some of them outside the viewport.
+        // A scroll area arranges its children itself, some of them outside the viewport.
         if (!qobject_cast<const QAbstractScrollArea*>(child))
             expectFits(*child);
     }

@@ -6,8 +6,8 @@
 
 namespace plotvue::replay {
 
-// What the widgets display. A value that is displayed correctly is returned itself, because it may hold
-// control characters that are not displayed.
+// What the widgets display. If a widget displays the value of its control correctly, the value itself is
+// returned, because it may hold control characters that are not displayed.
 SeenWindow seenOnWidgets(const Form& form);
 
 void pressWidget(const Form& form, Name button);

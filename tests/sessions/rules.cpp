@@ -76,7 +76,7 @@ void Walk::backThenDownIsTheSame(const std::string& window, const std::string& c
     const std::string chart = window + "A";
     play(clickRow);
     if (over() || !holds(loadedNow_, chart))
-        return; // it was open already and has not changed
+        return; // the chart window was open already and has not changed
     const std::string before = dumped(chart);
     play("click " + chart + " cmdBack");
     if (over() || !isVisible(chart))

@@ -65,11 +65,11 @@ private:
     Manner manner_;
     std::ostringstream out_;
     replay::Player player_;
-    // Windows of ranked and of other screens; the rows of a list open the window with the name of the list
-    // and an A.
+    // lists_ holds the windows of the ranked analyses, charts_ those of all other screens. A row of a list
+    // opens the window whose name is that of the list with an A.
     std::set<std::string> lists_, charts_;
     std::set<std::string> loaded_, visible_;        // according to the events
-    std::vector<std::string> loadedNow_, shownNow_; // by the last played line
+    std::vector<std::string> loadedNow_, shownNow_; // during the last played line
     std::string end_ = "still alive";
     std::optional<Text> error_; // text of the error report
     int copied_ = 0;

@@ -141,7 +141,7 @@ TEST(ChartBars, OfAComponentOfZeroAreFlat)
     EXPECT_GT(layout.bars[0].box.width, 20);
     EXPECT_EQ(layout.bars[1].box.top, layout.zero);
 
-    chart.labels = {u"A"}; // two series at one point, no components
+    chart.labels = {u"A"}; // a labelled slot with two series, which are not components
     EXPECT_EQ(laidOut(chart, {}, {448, 260}).bars.size(), 1U);
 }
 

@@ -20,7 +20,7 @@ TEST(ChartDrawable, DoesNotSplitSurrogatePairs)
     const auto width = [](TextSpan text) { return 6.0 * static_cast<double>(text.size()); };
     EXPECT_EQ(drawable(Text(499, u'x') + u"\U0001F600"), Text(499, u'x'));
     EXPECT_EQ(drawable(Text(498, u'x') + u"\U0001F600!"), Text(498, u'x') + u"\U0001F600");
-    // Includes the first and the last character that takes two surrogates.
+    // Includes the first and the last code point that needs a surrogate pair.
     for (const TextSpan pair : {u"\U00010000", u"\U0001F600", u"\U0010FFFF"}) {
         const Text text = u"a" + Text(pair) + u"bcd";
         EXPECT_EQ(elided(text, 18, width), u"a\u2026");

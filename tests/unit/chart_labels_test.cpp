@@ -75,7 +75,7 @@ TEST(ChartLabels, AreThinnedToEverySecondThirdFourthSixthTwelfth)
     EXPECT_FALSE(laidOut(chart, {}, {242, 251}).slanted);
 }
 
-TEST(ChartLabels, WithAYearEachAreThinnedToStepsOfMoreThanAYear)
+TEST(ChartLabels, WithAYearEachMayHaveStepsOfMoreThanAYear)
 {
     const Chart chart = bars(std::vector<Text>(25, u"OCT98"));
     EXPECT_EQ(slotsLabelled(laidOut(chart, {}, {42 + 25 * 3, 251})), "0 12 24");
@@ -122,7 +122,7 @@ TEST(ChartLabels, BetweenJanuariesBecomeInitialsBeforeTheyAreThinned)
     EXPECT_EQ(describe(layout.labels[3].name), "99 @ 46.5,230 12x12");
 }
 
-TEST(ChartLabels, WithAYearEachApartFromOneAreNotOfWholeYears)
+TEST(ChartLabels, WithAYearInAllButOneAreNotOfWholeYears)
 {
     std::vector<Text> labels(12, u"O98");
     labels[3] = u"XXX";

@@ -65,7 +65,7 @@ protected:
         return said;
     }
 
-    Session directory; // the files of the ranked windows go there
+    Session directory; // working directory for the files of the ranked windows
     RecordingPlatform platform;
     Application app{platform};
 };

@@ -34,7 +34,7 @@ std::string nameOf(const Screen& screen)
     return toUtf8(screen.marker);
 }
 
-TEST(Screens, HaveASampleEach)
+TEST(Screens, HaveOneSampleEach)
 {
     auto found = samplesOfScreens();
     for (const Screen& screen : screens)

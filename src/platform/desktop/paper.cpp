@@ -30,7 +30,7 @@ private:
     QWidget& window_;
 };
 
-// Records the widget as vectors. Rendered directly on a printer, a widget becomes a bitmap.
+// Records the widget as vectors. Without this step, the toolkit would draw widgets on a printer as bitmaps.
 QPicture pictureOf(QWidget& widget)
 {
     QPicture picture;

@@ -42,7 +42,8 @@ fs::path programFolder()
     return fs::path(name.c_str()).parent_path();
 }
 
-// The menu entry starts the program in its installation folder, where nobody starts it from a terminal.
+// Takes a start in the installation folder for one from the menu. The menu entry uses that folder, and nobody
+// else has a reason to.
 bool startedFromMenu()
 {
     std::error_code none;
