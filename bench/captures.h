@@ -1,4 +1,4 @@
-// The captures that are timed.
+// The captures for the measurements.
 #pragma once
 
 #include "capture/text.h"
@@ -10,11 +10,10 @@ namespace plotvue {
 // A file of samples/.
 Text sampleCapture(const std::string& name);
 
-// Month-to-month analysis of 100 entries on 504 lines.
+// A month-to-month analysis of 100 entries on 504 lines.
 Text rankedCapture();
 
-// Text of that many characters, a letter of business with capitals, figures and line ends, that is no host
-// screen.
+// A text of that length that is not a host screen: a business letter with capitals, figures and line ends.
 Text foreignText(std::size_t characters);
 
 } // namespace plotvue

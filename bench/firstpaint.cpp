@@ -1,7 +1,6 @@
-// firstpaint PROGRAM: starts the program and ends it a moment after its first window has been drawn. Prints
-// the milliseconds until it was drawn, seen from the display's side, the milliseconds of processor time,
-// which other programs disturb less, and the most memory (kB) that it held at once. Needs a display without a
-// window manager.
+// firstpaint PROGRAM: starts the program, waits until its first window is drawn and kills it. Prints the
+// milliseconds until then as measured through the X server, the milliseconds of processor time, which other
+// programs affect less, and the peak memory in kB. Requires an X display without a window manager.
 #include <chrono>
 #include <cstdint>
 #include <cstdlib>
@@ -23,10 +22,10 @@ using Clock = std::chrono::steady_clock;
 template <typename T>
 using Reply = std::unique_ptr<T, decltype(&std::free)>;
 
-constexpr int smallestWindow = 200; // toolkits make little windows of their own
+constexpr int smallestWindow = 200; // toolkits create small helper windows
 constexpr auto rest = std::chrono::milliseconds(100);
 
-// The next window that is mapped and is no helper.
+// The next mapped window that is not a helper window.
 xcb_window_t mappedWindow(xcb_connection_t* display)
 {
     while (Reply<xcb_generic_event_t> event{xcb_wait_for_event(display), &std::free}) {
@@ -64,7 +63,7 @@ bool drawn(xcb_connection_t* display, xcb_window_t window)
     return false;
 }
 
-// The most memory that the process held at once, in kB.
+// The peak memory of the process in kB.
 long memoryPeak(pid_t process)
 {
     std::ifstream status("/proc/" + std::to_string(process) + "/status");
@@ -91,7 +90,8 @@ int main(int argc, char* argv[])
     const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(display)).data->root;
     const std::uint32_t events = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
     xcb_change_window_attributes(display, root, XCB_CW_EVENT_MASK, &events);
-    std::free(xcb_get_input_focus_reply(display, xcb_get_input_focus(display), nullptr)); // the mask is set
+    // After this reply the mask is set.
+    std::free(xcb_get_input_focus_reply(display, xcb_get_input_focus(display), nullptr));
 
     const auto start = Clock::now();
     const pid_t program = fork();
@@ -99,7 +99,7 @@ int main(int argc, char* argv[])
         execvp(argv[1], argv + 1);
         _exit(EXIT_FAILURE);
     }
-    alarm(20); // a program without a window ends the wait
+    alarm(20); // ends the wait for a program without a window
     const xcb_window_t window = mappedWindow(display);
     while (!drawn(display, window))
         std::this_thread::sleep_for(std::chrono::microseconds(200));

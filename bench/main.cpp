@@ -1,4 +1,4 @@
-// bench ROUNDS: times PlotVue's own work on the display at hand. The lines that it prints are for bench/run.
+// bench ROUNDS: measures PlotVue's own work on the current display. bench/run reads its output.
 #include "reading.h"
 #include "windows.h"
 

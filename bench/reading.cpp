@@ -1,5 +1,5 @@
-// What it costs to recognise a capture and to read its figures, beside one plain search through the same
-// text.
+// Measures how long it takes to recognise a capture and to read its figures, compared with one plain search
+// through the same text.
 #include "reading.h"
 
 #include "app/recognition.h"
@@ -14,9 +14,9 @@ namespace plotvue {
 
 namespace {
 
-constexpr TextSpan absentMarker = u"QXM99Z"; // as long as the shortest one of the screens
+constexpr TextSpan absentMarker = u"QXM99Z"; // has the length of the shortest marker
 
-// The compiler is not to leave out what nobody looks at.
+// Keeps the compiler from removing calculations whose result is not used.
 volatile std::size_t result;
 
 void search(const Text& text)
@@ -35,7 +35,7 @@ void recogniseAndRead(const Text& capture, int months)
 Case capture(int months)
 {
     const auto text = std::make_shared<const Text>(sampleCapture("product.txt"));
-    constexpr int times = 100; // a run
+    constexpr int times = 100; // per run
     const auto repeat = [text](auto&& what) {
         for (int i = 0; i < times; ++i)
             what(*text);

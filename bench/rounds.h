@@ -1,4 +1,4 @@
-// What is timed, and beside what.
+// A measurement and the reference that it is compared with.
 #pragma once
 
 #include <chrono>
@@ -17,13 +17,12 @@ struct Case {
     double nanosecondsAUnit;
     std::function<void()> run;
     std::string referenceName;
-    std::function<void()> reference;       // what is known to be cheap, in the same unit
-    std::function<void()> prepare = [] {}; // before each run, not timed
+    std::function<void()> reference;       // a known cheap operation, in the same unit
+    std::function<void()> prepare = [] {}; // runs before each run and is not timed
 };
 
-// Prints a line of fields with tabs between them: name, unit, reference, and the figures of all rounds, of
-// the case and of the reference. A round times both, each after a run that is not timed: that one pays for
-// cold caches.
+// Prints a line of tab-separated fields: name, unit, reference, the figures of all rounds for the case, and
+// those for the reference. Each round times both, each after a run that is not timed and fills the caches.
 inline void measure(const Case& timed, int rounds)
 {
     const auto once = [&](const std::function<void()>& run) {

@@ -1,4 +1,5 @@
-// The smallest program of the toolkit, a window as large as a chart's with a button: what any start costs.
+// The smallest program of the toolkit, a button in a window of the size of a chart window. Shows the minimum
+// time of any start.
 #include <QApplication>
 #include <QPushButton>
 #include <QVBoxLayout>

@@ -1,5 +1,5 @@
-// From what a person does to the painted window, beside painting the same window once more as it is. The
-// capture is copied by this program itself: what its owner takes to hand it over is not counted.
+// Measures the time from a user action to the painted window, compared with another repaint of the same
+// window. This program itself owns the clipboard, so no other process delays the result.
 #include "windows.h"
 
 #include "app/application.h"
@@ -17,7 +17,7 @@ namespace plotvue {
 
 namespace {
 
-// PlotVue at work, started with a capture copied.
+// A running PlotVue that was started with the capture on the clipboard.
 class Desk : public QObject {
 public:
     explicit Desk(const Text& capture) : application_(platform_)
@@ -30,7 +30,7 @@ public:
     Controls& controls(Name window) { return application_.window(window)->controls(); }
     bool visible(Name window) { return application_.window(window)->visible(); }
 
-    // Does it, and returns when that window has been painted.
+    // Runs the action and returns when that window has been painted.
     template <typename Action>
     void untilPainted(Name window, Action action)
     {
@@ -87,7 +87,7 @@ void optionClick(const char* group, const char* name, int rounds)
             rounds);
 }
 
-// Always from the 50th entry to the 51st: the files of the list are read from their beginning.
+// Always steps from the 50th entry to the 51st, because the files of the list are read from their beginning.
 void down(int rounds)
 {
     constexpr Name list = "frmM2Mpft", window = "frmM2MpftA";
@@ -97,7 +97,7 @@ void down(int rounds)
     desk.untilPainted(window, open);
     const auto reopen = [&] {
         open();
-        QApplication::processEvents(); // comes to the front, which is not counted
+        QApplication::processEvents(); // raises the window, which is not counted
     };
     measure({.name = "Down in a list of 100",
              .unit = "ms",

@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
-"""Takes the pictures of all windows from the samples, on a display of its own.
+"""Takes pictures of the windows of all samples on a virtual display.
 
 docs/pictures.py          the pictures of the README, into docs/
 docs/pictures.py --all    every window, light and dark, at 100 %, 150 % and 200 %: build/pictures/index.html
 docs/pictures.py --windows  every window of plotvue.exe under Wine, at 100 %, 150 % and 200 %:
                           build/pictures-windows/index.html
 
-Needs the release build, or that of packaging/windows, and xvfb, xclip, xdotool, imagemagick.
+Requires the release build, or the build of packaging/windows, and xvfb, xclip, xdotool and imagemagick.
 """
 import os
 import pathlib
@@ -22,7 +22,7 @@ sys.path.insert(0, str(ROOT / "tests/windows"))
 from wine import Wine  # noqa: E402
 
 SAMPLES = ["startup"] + sorted(path.stem for path in (ROOT / "samples").glob("*.txt"))
-# What opens the first row of a list; a chart opens no window then.
+# The keys that open the first row of a list. In a chart window they open nothing.
 OPEN_ROW = ["Down", "Return"]
 README = ["product", "monthtomonth", "monthtomonth-chart", "pastdue-chart", "salesmencategories", "glhistory"]
 
@@ -46,11 +46,11 @@ ForegroundNormal=239,240,241
 
 
 class Display:
-    """A virtual display; everything started on it ends with it."""
+    """A virtual display; all programs on it end with it."""
 
     program = [PROGRAM]
     slowness = 1
-    keeps_text = False  # on the clipboard, when who has copied it is gone
+    keeps_text = False  # whether the clipboard keeps its text when its owner ends
 
     def __init__(self):
         read, write = os.pipe()
@@ -77,7 +77,7 @@ class Display:
 
 
 class WineDisplay(Display):
-    """The same with Wine on it."""
+    """A virtual display with Wine."""
 
     program = ["wine", FOR_WINDOWS]
     slowness = 3
@@ -109,8 +109,8 @@ def wait_for(condition, seconds=10):
 
 
 def take(display, sample, folder, directory, extra, wanted=None):
-    """Takes the pictures of the window that the sample opens and, as SAMPLE-chart, of the window that its first row
-    opens, unless others are wanted. Returns the names of the pictures."""
+    """Takes pictures of the window that the sample opens and, as SAMPLE-chart, of the window that its first row opens.
+    `wanted` limits them to these names. Returns the names of the pictures taken."""
     owner = None
     names = []
 
@@ -121,7 +121,7 @@ def take(display, sample, folder, directory, extra, wanted=None):
             names.append(name)
 
     text = None if sample == "startup" else ROOT / "samples" / (sample + ".txt")
-    if text or display.keeps_text: # else nobody owns the clipboard
+    if text or display.keeps_text:  # else the clipboard has no owner
         owner = subprocess.Popen(["xclip", "-quiet", "-selection", "clipboard", text or os.devnull],
                                  env=display.environment, stderr=subprocess.DEVNULL)
         time.sleep(0.2 * display.slowness)

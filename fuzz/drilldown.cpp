@@ -1,4 +1,5 @@
-// The first line is the chosen-row file, the rest is the list file. Every drill-down window draws and steps.
+// The first line of the input is the chosen-row file, the rest is the list file. Every drill-down window
+// draws and steps.
 #include "fuzz.h"
 #include "platform/recording/recording.h"
 #include "ranked/analyses.h"
@@ -11,7 +12,7 @@ using namespace plotvue;
 
 namespace {
 
-// The windows look for their files in the working directory.
+// A temporary working directory, because the windows look for their files there.
 struct Directory {
     Directory()
     {

@@ -1,4 +1,4 @@
-// Any file is read, and a text that was written is read back.
+// Reads any file, and checks that a text that was written is read back unchanged.
 #include "ranked/exchange.h"
 
 #include "fuzz.h"

@@ -1,4 +1,4 @@
-// What the fuzzers have in common: one is a function that reads any bytes and must come back.
+// Shared code of the fuzzers. A fuzzer is a function that must return for any bytes.
 #pragma once
 
 #include "capture/failure.h"
@@ -22,7 +22,7 @@ inline Text textOf(const std::uint8_t* data, std::size_t size)
     return fromUtf8(bytesOf(data, size));
 }
 
-// A reader may end with a failure or run out of text, and in no other way.
+// Allows a reader to throw Failure or EndlessRead, and nothing else.
 template <typename Read>
 void mayFail(Read read)
 {
@@ -33,7 +33,7 @@ void mayFail(Read read)
     }
 }
 
-// What holds whatever is read.
+// Aborts unless the condition holds, as it must for every input.
 inline void always(bool truth)
 {
     if (!truth)

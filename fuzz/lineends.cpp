@@ -7,7 +7,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const Text text = fuzz::textOf(data, size);
     const Text mended = mendLineEnds(text);
-    // Only blanks and carriage returns are added, and those only before a line feed.
+    // mendLineEnds may only add blanks and carriage returns, and only before a line feed.
     char16_t before = u'\n';
     std::size_t kept = 0, blanks = 0;
     for (std::size_t i = 0; i < mended.size(); ++i) {

@@ -1,4 +1,4 @@
-// A fuzzer as a plain program: reads each file named, and each file of each folder named.
+// A fuzzer as a plain program: reads each given file and each file in each given folder.
 #include "fuzz.h"
 
 #include <filesystem>
@@ -14,7 +14,8 @@ void play(const std::filesystem::path& path)
     const std::string bytes{std::istreambuf_iterator<char>(file), {}};
     if (!file)
         throw std::filesystem::filesystem_error("cannot read", path, {});
-    std::cout << path.string() << std::endl; // flushed: the last one named is the culprit
+    // Flushed, so that the last name printed is the file that crashes.
+    std::cout << path.string() << std::endl;
     LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
 }
 

@@ -1,9 +1,9 @@
-; The installer: for the person who runs it, without an administrator; silent with /S.
+; The installer. It installs for the current user without administrator rights, and silently with /S.
 Unicode true
 !include LogicLib.nsh
 Target amd64-unicode
 SetCompressor /SOLID lzma
-SetDateSave off ; the same files give the same installer
+SetDateSave off ; makes the installer reproducible
 ManifestDPIAware true
 RequestExecutionLevel user
 
@@ -15,7 +15,7 @@ Icon "${ICON}"
 UninstallIcon "${ICON}"
 InstallDir "$LOCALAPPDATA\Programs\PlotVue"
 !define LISTED "Software\Microsoft\Windows\CurrentVersion\Uninstall\PlotVue"
-InstallDirRegKey HKCU "${LISTED}" "InstallLocation" ; a newer version goes where the old one is
+InstallDirRegKey HKCU "${LISTED}" "InstallLocation" ; an update is installed in the old folder
 
 VIProductVersion "${VERSION}.0.0"
 VIAddVersionKey "ProductName" "PlotVue"
@@ -29,7 +29,7 @@ Page instfiles
 UninstPage uninstConfirm
 UninstPage instfiles
 
-; The system keeps a program that runs from being written to.
+; Windows does not let a running program be overwritten.
 !macro EndWhenInUse
   ${If} ${FileExists} "$INSTDIR\plotvue.exe"
     ClearErrors
@@ -50,7 +50,7 @@ Section
   WriteUninstaller "$INSTDIR\uninstall.exe"
   SetOutPath "$INSTDIR\licences"
   File "${LICENCES}/*"
-  ; A start in the program's folder is one from the menu: PlotVue then works in a folder of its own.
+  ; Started in its own folder, PlotVue assumes a start from the menu and works in a private folder.
   SetOutPath "$INSTDIR"
   CreateShortcut "$SMPROGRAMS\PlotVue.lnk" "$INSTDIR\plotvue.exe" "" "" "" "" "" "Charts of copied host screens"
 
@@ -68,13 +68,13 @@ SectionEnd
 
 Section uninstall
   !insertmacro EndWhenInUse
-  SetOutPath "$TEMP" ; a folder that a process works in cannot go
+  SetOutPath "$TEMP" ; a working directory cannot be removed
   Delete "$SMPROGRAMS\PlotVue.lnk"
   Delete "$INSTDIR\plotvue.exe"
   Delete "$INSTDIR\uninstall.exe"
   RMDir /r "$INSTDIR\licences"
-  RMDir "$INSTDIR" ; unless a person has put something there
-  RMDir "$LOCALAPPDATA\Programs" ; unless other programs are there
-  RMDir /r "$LOCALAPPDATA\PlotVue" ; what a crash has left
+  RMDir "$INSTDIR" ; fails if the user has put files there
+  RMDir "$LOCALAPPDATA\Programs" ; fails if other programs are there
+  RMDir /r "$LOCALAPPDATA\PlotVue" ; left by a crash
   DeleteRegKey HKCU "${LISTED}"
 SectionEnd

@@ -1,4 +1,4 @@
-# A Windows program for x86-64, built on Debian: one file that needs only the system's own libraries.
+# Builds Windows programs for x86-64 on Debian: single files that need only libraries of Windows.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
@@ -7,7 +7,7 @@ set(CMAKE_C_COMPILER ${target}-gcc-posix) # std::mutex and its like need the var
 set(CMAKE_CXX_COMPILER ${target}-g++-posix)
 set(CMAKE_RC_COMPILER ${target}-windres)
 
-# Programs run here, and everything else is for there.
+# Build tools come from this machine, libraries and headers from the target.
 set(CMAKE_FIND_ROOT_PATH /usr/${target})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
@@ -17,7 +17,7 @@ if(PLOTVUE_WINDOWS_QT)
   list(PREPEND CMAKE_FIND_ROOT_PATH ${PLOTVUE_WINDOWS_QT})
 endif()
 
-# What nothing calls is left out, and no time is written into the program: the same sources give the same bytes.
+# Unused code is left out, and no time stamp is written, so that the same sources give the same bytes.
 foreach(language C CXX)
   set(CMAKE_${language}_FLAGS_INIT "-ffunction-sections -fdata-sections")
 endforeach()

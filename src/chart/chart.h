@@ -1,6 +1,6 @@
-// What a chart shows, and the operations that change it. A series is a row of figures; a slot is a place on
-// the horizontal axis, with a label and a figure of each series. Series and slots count from 0, title
-// positions from 1.
+// The content of a chart, and the operations that change it. A series is a sequence of figures. A slot is a
+// place on the horizontal axis, with a label and one figure of each series. Series and slots are counted from
+// 0, title positions from 1.
 #pragma once
 
 #include "capture/text.h"
@@ -18,27 +18,27 @@ struct Colour {
     bool operator==(const Colour&) const = default;
 };
 
-// Fixed when the window is designed.
+// Set once, in the declaration of a window.
 struct ChartDesign {
     enum class Bars { Stacked, Grouped };
-    enum class Labels { Months, Names }; // where room is short, some months go unlabelled, names never
+    enum class Labels { Months, Names }; // if space is short, months are thinned out and names are slanted
 
     Bars bars = Bars::Stacked;
     Labels labels = Labels::Months;
-    int projection = -1; // the series that projects the one before it; -1: none
-    // By series, used where several are shown; SetSeriesLegend overrides them. A series that is shown alone
-    // or has no legend is called by the title at position 1.
+    int projection = -1; // number of the series that projects the previous one; -1: none
+    // By series, used if several series are shown; SetSeriesLegend overrides them. A series that is shown
+    // alone or has no legend is named after the title at position 1.
     std::map<int, TextSpan> legends{};
 
     bool operator==(const ChartDesign&) const = default;
 };
 
-// The series and point labels that are handed over together.
+// The series and slot labels for SetChartData.
 class ChartArrayData {
 public:
-    void AddArray(const std::vector<double>& values);       // the next series
-    void AddArray(const std::vector<std::int32_t>& values); // the next series
-    void AddArray(const std::vector<Text>& labels);         // the point labels; replaces earlier ones
+    void AddArray(const std::vector<double>& values);       // appends a series
+    void AddArray(const std::vector<std::int32_t>& values); // appends a series
+    void AddArray(const std::vector<Text>& labels);         // replaces the slot labels
 
 private:
     friend struct Chart;
@@ -51,14 +51,15 @@ struct Chart {
     std::map<int, Text> titles{};  // only the positions that were set
     std::optional<int> decimals{}; // of the value axis; absent: as many as its steps need
     std::vector<std::vector<double>> series{};
-    std::vector<Text> labels{};      // of the slots; may be empty, may end with an empty label
+    std::vector<Text> labels{};      // of the slots; may be fewer or none, and the last may be blank
     std::set<int> hidden{};          // series
     std::map<int, Text> legends{};   // by series
     std::map<int, Colour> colours{}; // by series
     std::optional<double> axisMin{}, axisMax{};
 
     void SetChartData(const ChartArrayData& data); // replaces the earlier data
-    void SetTitle(int position, TextSpan text); // 1: small, above; 2: large; 3: below; others are not drawn
+    // 1: small, on top; 2: large; 3: below it; others are not drawn.
+    void SetTitle(int position, TextSpan text);
     void SetValueDecimals(int count) { decimals = count; }
     void SetSeriesLegend(int number, TextSpan text) { legends[number] = text; }
     void SetSeriesColor(int number, Colour colour) { colours[number] = colour; }

@@ -7,13 +7,13 @@
 
 namespace plotvue::chart {
 
-// `text` without its control characters and the blanks around it; at most its first 500 characters, which is
-// more than a line on any screen or sheet holds.
+// `text` without control characters and without leading and trailing blanks, cut to 500 characters, which is
+// more than fits in a line on any screen or page.
 Text drawable(TextSpan text);
-bool isBlank(TextSpan text); // only blanks and control characters
+bool isBlank(TextSpan text); // whether it has only blanks and control characters
 
-// `text` when it is at most `room` wide, else as much of its beginning as fits together with an ellipsis;
-// empty when not even the ellipsis fits.
+// `text` if its width is at most `room`, else the longest beginning that fits with an ellipsis. Empty if not
+// even the ellipsis fits.
 Text elided(Text text, double room, const std::function<double(TextSpan)>& widthOf);
 
 } // namespace plotvue::chart

@@ -1,4 +1,4 @@
-// A figure as the chart writes it.
+// The format of the figures in a chart.
 #pragma once
 
 #include "capture/text.h"
@@ -7,12 +7,12 @@ namespace plotvue::chart {
 
 inline constexpr int maxDecimals = 9;
 
-// `value` with that many decimals (less than 0 counts as 0, more than maxDecimals as maxDecimals), commas
-// between thousands and U+2212 as the minus sign, which is left out where the figure rounds to zero. From
-// 10^15 on, with an exponent.
+// `value` with commas between thousands and U+2212 as the minus sign, which is omitted if the figure rounds
+// to zero. `decimals` is clamped to the range from 0 to maxDecimals. From 10^15 on, the figure has an
+// exponent.
 Text figureText(double value, int decimals);
 
-// The fewest decimals that write `value` without rounding it, but at most `max`.
+// The minimum number of decimals that write `value` without rounding it, but at most `max`.
 int decimalsNeeded(double value, int max);
 
 } // namespace plotvue::chart

@@ -1,15 +1,16 @@
-// Where every part of a chart is drawn. Units are those of the paper; x grows to the right, y downwards.
+// The position and size of each part of a chart, in the units of the area on which it is drawn, the paper. x
+// grows to the right, y downwards.
 #pragma once
 
 #include "chart/scale.h"
 
 namespace plotvue::chart {
 
-// Sizes of type. A title that does not fit is set smaller, down to BodyTitle; labels, down to Tiny.
+// Text sizes. A title that does not fit is set in smaller sizes down to BodyTitle, a label down to Tiny.
 enum class TextRole { Tiny, Small, Body, BodyTitle, MediumTitle, LargeTitle };
 inline constexpr std::size_t textRoles = 6;
 
-// How much room text takes in the fonts in which it will be drawn.
+// Measures text in the fonts in which it will be drawn.
 class Metrics {
 public:
     virtual ~Metrics() = default;
@@ -31,7 +32,7 @@ struct Rect {
     bool operator==(const Rect&) const = default;
 };
 
-struct Line { // of text, drawn from the left of its box
+struct Line { // a line of text, drawn from the left edge of its box
     Rect box;
     Text text;
     bool operator==(const Line&) const = default;
@@ -43,7 +44,7 @@ struct Title : Line {
     bool operator==(const Title&) const = default;
 };
 struct LegendEntry {
-    std::size_t series = 0; // of PlotData
+    std::size_t series = 0; // index in PlotData::series()
     Rect swatch;
     Line name;
     bool operator==(const LegendEntry&) const = default;
@@ -53,21 +54,20 @@ struct Tick {
     Line figure;
     bool operator==(const Tick&) const = default;
 };
-// The box of a slanted label is where it would be if it were level: it is turned by -45 degrees about the
-// middle of its right edge. A January whose months are set as initials has two labels: "J" and, below it, its
-// year.
+// The box of a slanted label is its box before it is rotated by -45 degrees about the middle of its right
+// edge. Where months are abbreviated to initials, a January has two labels: "J" and the year below it.
 struct SlotLabel {
     int slot = 0;
     Line name;
-    bool strong = true; // false: one of the months between the Januaries
+    bool strong = true; // false: in a chart of whole years, a month other than January
     bool operator==(const SlotLabel&) const = default;
 };
 struct Bar {
-    std::size_t series = 0; // of PlotData
+    std::size_t series = 0; // index in PlotData::series()
     int slot = 0;
     Rect box;
     bool up = true;
-    bool end = true; // of its stack: no other bar follows beyond it
+    bool end = true; // the outermost bar of its stack
     bool operator==(const Bar&) const = default;
 };
 struct SlotValue {
@@ -78,14 +78,14 @@ struct SlotValue {
 
 struct Layout {
     Size paper;
-    double pixel = 0;    // of the device, to which all edges are snapped; 0: they are not
+    double pixel = 0;    // size of a device pixel, to which all edges are snapped; 0: no snapping
     double hairline = 1; // thickness of all lines
-    double em = 0;       // height of a small line
+    double em = 0;       // line height of TextRole::Small
 
-    std::vector<Title> titles; // only those with text
+    std::vector<Title> titles; // without empty ones
     std::vector<LegendEntry> legend;
 
-    int slotCount = 0, pointCount = 0; // 0: nothing of what follows is set
+    int slotCount = 0, pointCount = 0; // 0: the members below are not set
     Rect plot;
     Scale scale;
     double slotWidth = 0;
@@ -93,20 +93,20 @@ struct Layout {
     double zero = 0; // y of the zero line
     std::vector<SlotLabel> labels;
     TextRole labelRole = TextRole::Small;
-    bool slanted = false;          // the labels
-    std::vector<double> yearRules; // x, between December and January
-    std::vector<Bar> bars;         // figures of zero have none, but a component of zero has a flat one
-    std::vector<SlotValue> values; // written above or below the bars; empty unless all fit
+    bool slanted = false;          // whether the labels are slanted
+    std::vector<double> yearRules; // x of the lines between December and January
+    std::vector<Bar> bars;         // a figure of zero has no bar, but a component of zero has a flat one
+    std::vector<SlotValue> values; // figures above or below the bars; empty unless all of them fit
 
     Rect slotBox(int slot) const;
-    int slotAt(double x, double y) const; // the point whose slot or label is at this place; -1: none
-    double y(double value) const;         // a value beyond an end of the axis is placed at that end
+    int slotAt(double x, double y) const; // the point with its slot or label at this position; -1: none
+    double y(double value) const;         // a value outside the axis is clamped to its end
     double snapped(double length) const;
 
     bool operator==(const Layout&) const = default;
 };
 
-// `deviceScale`: device pixels per unit; 0 for paper, on which nothing is snapped.
+// `deviceScale` is the number of device pixels per unit; 0 for printing, where nothing is snapped.
 Layout layoutChart(const PlotData& data, Size paper, const Metrics& metrics, double deviceScale);
 
 } // namespace plotvue::chart

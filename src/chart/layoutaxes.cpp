@@ -12,7 +12,7 @@ namespace plotvue::chart {
 
 namespace {
 
-constexpr double slant = std::numbers::sqrt2 / 2; // sine and cosine of the slanted labels
+constexpr double slant = std::numbers::sqrt2 / 2; // sine and cosine of 45 degrees
 constexpr double linesPerStep = 3.5;
 constexpr int minSteps = 2, maxSteps = 8;
 
@@ -23,12 +23,12 @@ bool holdsDigit(const Text& text)
 
 struct Labels {
     std::vector<Text> texts;
-    std::optional<int> january; // a slot with one; absent where the chart is not one of whole years
+    std::optional<int> january; // the slot of a January; absent if the chart is not one of whole years
 
     bool isJanuary(std::size_t slot) const { return january && holdsDigit(texts[slot]); }
 };
 
-// In a chart of whole years only the Januaries are labelled with their year: "J98", "FEB", "MAR".
+// A chart of whole years is one whose labels have a year only in January: "J98", "FEB", "MAR".
 Labels readLabels(const LayoutInput& input)
 {
     Labels labels;
@@ -58,13 +58,13 @@ struct LabelStyle {
     };
     Form form = Form::Whole;
     TextRole role = TextRole::Small;
-    double gap = .5; // the minimum between two labels, in em
+    double gap = .5; // minimum gap between two labels, in em
     int step = 1;    // slots from one label to the next
 
     int lines() const { return form == Form::Whole ? 1 : 2; }
 };
 
-// The lines of a label; the second is empty where there is none.
+// The lines of a label; the second is empty if there is only one.
 std::array<Text, 2> linesOf(const Text& label, LabelStyle::Form form)
 {
     if (form == LabelStyle::Form::Whole)
@@ -79,13 +79,13 @@ double widest(const LayoutInput& input, const Labels& labels, const LabelStyle& 
     for (const Text& label : labels.texts) {
         const auto [first, second] = linesOf(label, style.form);
         width = std::max(width, input.metrics.width(first, style.role));
-        if (style.form == LabelStyle::Form::Broken) // a year below initials has the room of twelve slots
+        if (style.form == LabelStyle::Form::Broken) // a year below initials may be as wide as twelve slots
             width = std::max(width, input.metrics.width(second, style.role));
     }
     return width;
 }
 
-// The first style in which every label fits; where none does, labels are left out.
+// The first style in which every label fits. If there is none, the labels are thinned out.
 LabelStyle styleOfMonths(const LayoutInput& input, const Labels& labels, double slotWidth, double em)
 {
     using Form = LabelStyle::Form;
@@ -104,8 +104,8 @@ LabelStyle styleOfMonths(const LayoutInput& input, const Labels& labels, double 
     return {.step = 12 * (labels.january ? 1 : static_cast<int>(years))};
 }
 
-// Between slanted labels there is less room than between their slots, and capitals need only three quarters
-// of a line's height.
+// The number of slots from one labelled slot to the next. The distance between slanted labels is `slant`
+// times that of their slots, and capitals need only three quarters of the line height.
 int stepBetweenNames(bool slanted, double slotWidth, double em)
 {
     return slanted ? static_cast<int>(std::ceil(em * .75 / (slotWidth * slant))) : 1;
@@ -146,7 +146,7 @@ void placeLabels(const LayoutInput& input, Layout& layout, const Labels& labels,
                  double top, double longest)
 {
     layout.labelRole = style.role;
-    // In a chart of whole years the step divides a year, so any January tells which slots are labelled.
+    // In a chart of whole years the step divides 12, so every January has the same remainder.
     const int phase = labels.january.value_or(0) % style.step;
     for (int slot = 0; slot < layout.slotCount; ++slot) {
         const bool january = labels.isJanuary(static_cast<std::size_t>(slot));

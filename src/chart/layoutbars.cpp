@@ -9,8 +9,8 @@ namespace {
 
 constexpr double maxBarWidth = 6, maxLoneBarWidth = 9; // in em
 constexpr int fewSlots = 3;
-constexpr double minGap = 4;  // between two figures
-constexpr double flatBar = 2; // hairlines: a component of 0 shows its colour
+constexpr double minGap = 4;  // minimum distance between two figures
+constexpr double flatBar = 2; // in hairlines: height of a component of 0, which shows its colour
 
 struct BarRow { // the bars of a slot, from left to right
     double each = 0, gap = 0, all = 0;

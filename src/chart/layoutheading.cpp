@@ -10,7 +10,7 @@ namespace {
 
 struct TitlePlace {
     int position;
-    std::vector<TextRole> roles; // the first in which it fits, or else the last
+    std::vector<TextRole> roles; // the first one in which the title fits is used, else the last
     bool main;
 };
 const std::array<TitlePlace, 3> titlePlaces{
@@ -38,7 +38,7 @@ double placeTitles(const LayoutInput& input, Layout& layout, const Rect& inner, 
         text = input.fitted(std::move(text), inner.width, role);
         if (text.empty())
             continue;
-        // The height of its largest size, whatever its size: from chart to chart the bars stay in one place.
+        // Reserve the height of the largest size, so that the plot has the same position in every chart.
         const double height = input.metrics.height(place.roles.front());
         layout.titles.push_back(
             {{{inner.left, top, inner.width, height}, std::move(text)}, role, place.main});
@@ -60,8 +60,7 @@ double placeLegend(const LayoutInput& input, Layout& layout, const Rect& inner, 
         if (name.empty())
             continue;
         const double width = input.width(name);
-        if (left + beforeName + width >
-            inner.right()) { // the first of a line never breaks: its name was fitted
+        if (left + beforeName + width > inner.right()) { // never for the first entry of a line
             left = inner.left;
             top += em * 1.25;
         }

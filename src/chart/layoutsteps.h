@@ -1,4 +1,4 @@
-// The steps of the layout, in their order. Each adds its part to the layout.
+// The steps of the layout, in order. Each adds its part to the layout.
 #pragma once
 
 #include "chart/layout.h"
@@ -15,16 +15,16 @@ struct LayoutInput {
     Text fitted(Text text, double room, TextRole role) const;
 };
 
-// Each places its part within `inner`, from `top` downwards, and returns where that part ends.
+// Each places its part inside `inner`, from `top` downwards, and returns the y at which it ends.
 double placeTitles(const LayoutInput& input, Layout& layout, const Rect& inner, double top);
 double placeLegend(const LayoutInput& input, Layout& layout, const Rect& inner, double top);
 
-// Places scale, plot, ticks, labels and year rules in the part of `inner` below `top`.
+// Sets the scale, and places the plot, ticks, labels and year rules in the part of `inner` below `top`.
 void placeAxes(const LayoutInput& input, Layout& layout, const Rect& inner, double top);
 
-// Whether every figure fits above or below its bar. Needs slotWidth.
+// Whether every figure fits above or below its bar. Requires layout.slotWidth.
 bool valuesFit(const LayoutInput& input, const Layout& layout);
-// Needs the plot and the scale.
+// Requires layout.plot and layout.scale.
 void placeBars(const LayoutInput& input, Layout& layout);
 
 } // namespace plotvue::chart

@@ -11,7 +11,8 @@ namespace plotvue::chart {
 
 namespace {
 
-// Eyes blind to some colours can tell these apart too; neighbours differ most at the beginning.
+// Colours that colour-blind users can distinguish, too. Neighbours contrast more at the beginning than at the
+// end.
 constexpr std::array<Colour, 8> palette{{{0x24, 0x58, 0xB0},
                                          {0xDB, 0x9A, 0x35},
                                          {0x1A, 0x9C, 0x8F},
@@ -61,7 +62,8 @@ void PlotData::findSeries()
     for (std::size_t i = 0; i < chart_.series.size(); ++i) {
         const int number = static_cast<int>(i);
         const bool projection = number == chart_.design.projection;
-        // Counted before anything is left out: hiding a series changes no other one's colour.
+        // Colours are counted before series are skipped, so that hiding a series does not change the colours
+        // of others.
         const std::size_t colour = projection ? colours - 1 : colours++;
         if (chart_.hidden.contains(number) || (projection && nothingIn(chart_.series[i])))
             continue;
@@ -154,7 +156,7 @@ Text PlotData::sentence(int slot) const
     Text text = drawable(label(slot)), separator = text.empty() ? Text() : Text(u": ");
     for (std::size_t s = 0; s < series_.size(); ++s) {
         const std::optional<double> figure = value(s, slot);
-        // Only the unfinished month has a projection.
+        // Only the month in progress has a projection.
         if (!figure || (series_[s].projection && *figure == 0))
             continue;
         text += separator;

@@ -1,5 +1,4 @@
-// The part of a chart's data that is plotted: its series and slots, what they are called and how they are
-// read out.
+// The part of a chart's data that is plotted: series and slots, their names and the text of their read-outs.
 #pragma once
 
 #include "chart/chart.h"
@@ -9,16 +8,16 @@
 
 namespace plotvue::chart {
 
-// Refers to the chart, which must outlive it. Slots and series count from 0. Series that are not plotted are
-// left out: hidden ones, a projection that is zero everywhere, and a series that has neither name nor figures
-// while another has a name (a group that the screen does not have).
+// Refers to the chart, which must outlive it. Slots and series are counted from 0. These series are left out:
+// hidden ones; a projection that is zero everywhere; and, if another series has a name, a series without name
+// and figures (a group that the screen does not have).
 class PlotData {
 public:
     struct Series {
-        std::size_t number = 0; // in the chart
+        std::size_t number = 0; // index in Chart::series
         TextSpan name;          // may be empty
         Colour colour;
-        bool ownColour = false; // the chart asks for it; else it is of the palette
+        bool ownColour = false; // set by the chart, not from the palette
         bool projection = false;
     };
 
@@ -27,21 +26,20 @@ public:
     const Chart& chart() const { return chart_; }
 
     const std::vector<Series>& series() const { return series_; }
-    // A chart without labels whose series have one point each compares its series: each gets a slot of its
-    // own, labelled with its name.
+    // Whether the chart compares its series: it has no labels, and its series have one point each. Then each
+    // series has a slot of its own, labelled with its name.
     bool components() const { return components_; }
     bool stacked() const { return stacked_; }
     bool legendTellsSomething() const;
 
-    int slotCount() const { return slotCount_; }   // drawn, the empty one included
+    int slotCount() const { return slotCount_; }   // including an empty slot at the end
     int pointCount() const { return pointCount_; } // without an empty slot at the end
-    TextSpan label(int slot) const;                // as it was handed over; empty when there is none
+    TextSpan label(int slot) const;                // unchanged; empty if there is none
 
-    // Absent where the series is too short; 0 for what is not a number; at most 1e300 either way, so that
-    // sums of them are finite.
+    // Absent if the series is too short, 0 for NaN, and clamped to -1e300 to 1e300, so that sums are finite.
     std::optional<double> value(std::size_t series, int slot) const;
     Text number(double value) const;
-    // "OCT99: Sales 512, Projected 388"; empty for a slot that is no point.
+    // The text of the read-out, "OCT99: Sales 512, Projected 388"; empty for a slot that is not a point.
     Text sentence(int slot) const;
 
 private:

@@ -1,4 +1,4 @@
-// The value axis: its ends, and the figures along it.
+// The value axis: its range and its ticks.
 #pragma once
 
 #include "chart/plotdata.h"
@@ -10,7 +10,7 @@ struct Range {
     bool operator==(const Range&) const = default;
 };
 
-// From the lowest end of a bar or stack to the highest.
+// The range from the lowest end of a bar or stack to the highest.
 Range reachOf(const PlotData& data);
 
 struct Scale {
@@ -20,9 +20,9 @@ struct Scale {
     bool operator==(const Scale&) const = default;
 };
 
-// An axis with steps of 1, 2, 2.5 or 5 times a power of ten that `decimals` can write exactly, and about
-// `maxSteps` of them at most. A wished end is kept, even where it has no tick, unless bars reach beyond it.
-// Where the wished maximum is not above the minimum, neither counts.
+// Chooses an axis with a step of 1, 2, 2.5 or 5 times a power of ten that `decimals` can write exactly, and
+// with about `maxSteps` steps at most. A requested end is kept, even without a tick, unless bars extend
+// beyond it. If the requested maximum is not above the minimum, both are ignored.
 struct ScaleWishes {
     std::optional<double> min, max;
     std::optional<int> decimals; // absent: as many as the steps need

@@ -5,12 +5,12 @@
 
 namespace plotvue {
 
-// "cmdPrint", "cmdRefresh" and "cmdExit".
+// The buttons "cmdPrint", "cmdRefresh" and "cmdExit".
 Button printButton();
 Button refreshButton();
 Button exitButton(TextSpan caption);
 
-// The frame of the group "optSales". The option with index 0 is chosen when the window opens.
+// The frame of the option group "optSales". Option 0 is chosen when the window opens.
 OptionFrame dataTypeFrame(std::vector<Option> options, TextSpan caption = u"Data Type");
 
 } // namespace plotvue

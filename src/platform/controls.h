@@ -1,4 +1,5 @@
-// The controls of a window: the one model that the system sets, a person uses and a platform shows.
+// The model of a window's controls. The application sets their values, the user operates them and a platform
+// displays them.
 #pragma once
 
 #include "platform/declaration.h"
@@ -7,7 +8,7 @@
 
 namespace plotvue {
 
-// A value that a platform shows.
+// The value of a control, and the callback that displays it.
 template <typename Value>
 class Shown {
 public:
@@ -23,7 +24,7 @@ public:
         changed();
     }
 
-    // Calls `change` with the value, and shows it once, however much was changed.
+    // Applies `change` to the value, then displays it once.
     template <typename Change>
     void change(const Change& change)
     {
@@ -31,28 +32,28 @@ public:
         changed();
     }
 
-    std::function<void()> changed = [] {}; // set by whoever shows the value
+    std::function<void()> changed = [] {}; // set by the widget that displays the value
 
 private:
     Value value_;
 };
 
-// An option group in one frame or several, with one option chosen in each. Options go by their index; the
-// functions throw std::out_of_range for one that the group does not have.
+// An option group in one or more frames. In each frame one option is chosen. The functions throw
+// std::out_of_range for an option or frame that the group does not have.
 struct OptionGroup {
     struct Entry {
         int index;
         Text caption;
         bool visible;
-        int frame; // counted from 0, from the top
+        int frame; // number of the frame, from 0 at the top
 
         bool operator==(const Entry&) const = default;
     };
-    std::vector<Entry> options; // from the top, frame after frame
-    std::vector<int> chosen;    // ascending, one a frame
+    std::vector<Entry> options; // from top to bottom, frame by frame
+    std::vector<int> chosen;    // indexes in ascending order, one per frame
 
     int chosenIn(int frame) const;
-    void choose(int index); // the frame's earlier choice is no longer chosen
+    void choose(int index); // deselects the other options of its frame
     void setCaption(int index, TextSpan caption) { option(index).caption = caption; }
     void setVisible(int index, bool visible) { option(index).visible = visible; }
 
@@ -62,32 +63,34 @@ private:
     Entry& option(int index);
 };
 
-// A grid of text. Rows and columns count from 0; row 0 holds the headings. The functions throw
-// std::out_of_range for a cell that is not in a row under the headings.
+// A table of text. Rows and columns are counted from 0; row 0 is the heading row, whose text is in `format`.
+// setCell and cell throw std::out_of_range for row 0 and for a cell that does not exist.
 struct Grid {
     Text format;                          // as GridBox::format
-    int columns = 0, rows = 1;            // the heading row included
-    std::vector<std::vector<Text>> cells; // the rows under the headings; "" where nothing was written
+    int columns = 0, rows = 1;            // including the heading row
+    std::vector<std::vector<Text>> cells; // the rows below the headings; "" where nothing was written
 
     void setFormat(TextSpan text);
-    void setRows(int count); // the heading row included; rows that go lose their text
+    void setRows(int count); // including the heading row; removed rows lose their text
     void setCell(int row, int column, TextSpan text);
     const Text& cell(int row, int column) const;
 
     bool operator==(const Grid&) const = default;
 };
 
-// What a control does when it is used: the index of an option, the row of a grid, 0 for a button.
+// Event handlers by control name. The argument is the index of an option, the row of a grid or 0 for a
+// button.
 using Handlers = std::map<Name, std::function<void(int)>>;
 
-// The functions throw std::out_of_range for a name that the window does not have.
+// Functions throw std::out_of_range for an option group, grid, chart or text that the window does not have.
+// press and clickRow ignore a control without a handler.
 class Controls {
 public:
-    // `close` runs when a person closes the window with its title bar.
+    // `close` runs when the user closes the window with its title bar.
     Controls(Declaration declaration, Handlers handlers, std::function<void()> close);
     Controls(const Controls&) = delete;
 
-    const Declaration declaration; // what the controls were at first
+    const Declaration declaration; // the initial state of the controls
 
     Shown<Text> caption;
     Shown<Text>& text(Name labelOrTextBox) { return texts_.at(labelOrTextBox); }
@@ -95,13 +98,13 @@ public:
     Shown<Grid>& grid(Name name) { return grids_.at(name); }
     Shown<Chart>& chart(Name name) { return charts_.at(name); }
 
-    // What a person does. A handler may unload the window, and with it these controls.
+    // User actions. A handler may unload the window and so destroy these controls.
     void press(Name button) { use(button, 0); }
     void choose(Name group, int index);
     void clickRow(Name grid, int row) { use(grid, row); }
     void close();
 
-    void disconnect(); // from now on nothing that a person does runs a handler
+    void disconnect(); // from now on, user actions run no handler
 
 private:
     void add(const Label& label) { texts_.try_emplace(label.name, Text(label.text)); }

@@ -1,5 +1,6 @@
-// A window as data: its controls, captions and arrangement, one nested value that any platform builds.
-// Names and captions must outlive the window (literals do).
+// A window described as data: its controls, captions and arrangement in one nested value, from which every
+// platform builds the window. Names and captions are not copied, so they must outlive the window (string
+// literals do).
 #pragma once
 
 #include "chart/chart.h"
@@ -16,14 +17,14 @@ using Name = std::string_view;
 struct Button {
     Name name;
     TextSpan caption;      // "&" marks the mnemonic
-    TextSpan shortcut{};   // "F5"; several are separated by ", "
-    TextSpan spokenName{}; // for a caption that does not say it; also the tooltip
+    TextSpan shortcut{};   // for example "F5"; several are separated by ", "
+    TextSpan spokenName{}; // accessible name, if the caption is not clear enough; also the tooltip
     enum class Picture { None, Arrow } picture = Picture::None;
 };
 
 struct Font {
-    TextSpan family{}; // where it is empty or the desktop lacks it, the desktop's own is used
-    double points = 0; // 0: the desktop's own size
+    TextSpan family{}; // if empty or not installed, the desktop's default family is used
+    double points = 0; // 0: the desktop's default size
     bool bold = false, italic = false;
     bool operator==(const Font&) const = default;
 };
@@ -34,12 +35,12 @@ struct Label {
     Font font{};
 };
 
-struct TextBox { // shows text, takes none
+struct TextBox { // read-only text
     Name name;
     TextSpan spokenName;
 };
 
-struct ListBox { // for display only
+struct ListBox { // read-only; no item can be selected
     Name name;
     TextSpan spokenName;
     std::vector<TextSpan> items;
@@ -51,30 +52,32 @@ struct Option {
     TextSpan caption;
 };
 
-// One frame of an option group. Frames with the same group are one control, with one option chosen in each.
+// One frame of an option group. Frames with the same `group` form one control; one option is chosen in each
+// frame.
 struct OptionFrame {
     Name name;
     TextSpan caption;    // empty: an untitled frame
-    TextSpan spokenName; // for a caption that does not say it
+    TextSpan spokenName; // accessible name, if the caption is empty
     Name group;
-    std::vector<Option> options; // from the top
-    int chosen;                  // index chosen when the window opens
+    std::vector<Option> options; // from top to bottom
+    int chosen;                  // index of the option that is chosen when the window opens
 };
 
 struct ChartBox {
     Name name;
-    Chart chart{}; // what it shows at first
+    Chart chart{}; // the initial content
 };
 
 struct GridBox {
     Name name;
     TextSpan spokenName;
-    TextSpan format; // headings separated by "|", each with blanks as wide as its column is to be; "<" or ">"
-                     // before a heading is not shown
-    std::vector<int> figures{}; // columns whose cells are figures, right-aligned
+    // Headings separated by "|"; the length of each, including blanks, sets the width of its column; a
+    // leading "<" or ">" is not displayed.
+    TextSpan format;
+    std::vector<int> figures{}; // columns of figures, which are right-aligned
 };
 
-struct PictureBox { // says gain or loss beside a grid
+struct PictureBox { // a symbol for gain or loss beside a grid
     Name name;
     TextSpan spokenName;
     enum class Shows { Gain, Loss } shows;
@@ -87,27 +90,27 @@ struct Panel { // a row or a column of items
     std::vector<Item> items;
 };
 
-struct Space {}; // takes the room that is left over
+struct Space {}; // takes up the remaining space
 
 struct Item {
     std::variant<Button, Label, TextBox, ListBox, OptionFrame, ChartBox, GridBox, PictureBox, Panel, Space>
         what;
-    int stretch = 0; // its share of the room that is left over; 0: none
+    int stretch = 0; // its share of the remaining space; 0: none
 };
 
 struct Declaration {
-    Name name; // "frmProduct"
+    Name name; // for example "frmProduct"
     TextSpan caption;
     Panel content;
-    // Of the client area when the window first opens, in device-independent pixels, where the desktop's
-    // letters have 10 points; larger in proportion where they are larger.
+    // The initial size of the client area in device-independent pixels, for a desktop font of 10 points. A
+    // larger font enlarges it in proportion.
     int width = 1000, height = 600;
 };
 
 Item row(std::vector<Item> items, int stretch = 0);
 Item column(std::vector<Item> items, int stretch = 0);
 
-// Calls `visit` with every control in the declaration, in their order.
+// Calls `visit` with each control of the panel and its inner panels, in order of declaration.
 template <typename Visitor>
 void forEachControl(const Panel& panel, Visitor&& visit)
 {

@@ -1,4 +1,4 @@
-// What happens to the windows, for tests to listen to.
+// Events for tests to observe: windows, message boxes, prints and the end of the process.
 #pragma once
 
 #include "capture/text.h"
@@ -11,14 +11,13 @@ namespace plotvue {
 struct Event {
     enum class Kind { Load, Show, Hide, Unload, Message, Print, Spin, Error, End } kind;
     Name window{};    // of Load, Show, Hide, Unload, Print
-    TextSpan title{}; // of Message; empty where the box has none
+    TextSpan title{}; // of Message; empty if the box has no title
     TextSpan text{};  // of Message and Error
 };
 
 class EventSource {
 public:
-    std::function<void(const Event&)> listener = [](const Event&) {
-    }; // hears them in the order in which they happen
+    std::function<void(const Event&)> listener = [](const Event&) {}; // called for each event, in order
 
     void tell(const Event& event) const { listener(event); }
 };

@@ -1,5 +1,5 @@
-// A window of the system: loaded when it is first shown, hidden when it is left, and unloaded by those that
-// begin anew each time.
+// A window of the application. It is loaded when it is first shown, and usually stays loaded while it is
+// hidden.
 #pragma once
 
 #include "platform/platform.h"
@@ -14,8 +14,8 @@ public:
 
     virtual Name name() const = 0;
 
-    // Shows the window; a window that is not loaded is loaded first. A window that hides itself while it
-    // loads stays hidden.
+    // Shows the window, and loads it first if necessary. A window that hides itself in Form_Load stays
+    // hidden.
     void show();
     void hide();
     void unload();
@@ -23,7 +23,7 @@ public:
     bool loaded() const { return window_ != nullptr; }
     bool visible() const { return visible_; }
 
-    // Throws std::out_of_range while the window is not loaded.
+    // Both throw std::out_of_range if the window is not loaded.
     Controls& controls() const;
     Window& window() const;
 
@@ -31,16 +31,16 @@ protected:
     virtual Declaration declare() const = 0;
     virtual Handlers handlers() = 0;
     virtual void Form_Load() = 0;
-    virtual void wayOut() = 0; // what the title bar's close does
+    virtual void wayOut() = 0; // handles the close button of the title bar
 
-    // Whether a window that was hidden is loaded again when it is next shown.
+    // Whether the window is loaded again when it is shown after it was hidden.
     virtual bool loadsAnew() const { return false; }
 
     // Hides this window and shows `home` in its place.
     void leaveFor(Form& home);
 
-    // Asks for a printer and prints the window as often as copies are wanted. A failure ends it silently, and
-    // so does a person who cancels.
+    // Asks for a printer and the number of copies, and prints each copy as a job of its own. If the user
+    // cancels or printing fails, it returns without a message.
     void printWindow();
 
     Platform& platform() const { return platform_; }
@@ -49,7 +49,7 @@ private:
     void load();
 
     Platform& platform_;
-    std::shared_ptr<Controls> controls_; // shared with the platform's window, whose widgets may outlive both
+    std::shared_ptr<Controls> controls_; // shared with window_, whose widgets may outlive this form
     std::unique_ptr<Window> window_;
     bool visible_ = false;
     bool hiddenWhileLoading_ = false;

@@ -1,4 +1,5 @@
-// What the system needs of a desktop. A platform is the real desktop, or the recording one of the tests.
+// What the application needs from a desktop. One implementation is the real desktop; another is in memory,
+// for tests.
 #pragma once
 
 #include "capture/failure.h"
@@ -10,14 +11,14 @@
 
 namespace plotvue {
 
-// Thrown by end(), so that the handler that ends the process runs no further.
+// Thrown by end() to leave the event handler that ends the process.
 struct EndOfProcess {};
 
 // A window on the desktop.
 class Window {
 public:
     virtual ~Window() = default;
-    virtual void show() = 0; // comes to the front when it is visible already
+    virtual void show() = 0; // brings a visible window to the front
     virtual void hide() = 0;
 };
 
@@ -25,38 +26,37 @@ class Platform : public EventSource {
 public:
     virtual ~Platform() = default;
 
-    // The clipboard's text; empty when it holds none.
+    // The clipboard's text; empty if it holds none.
     virtual Text clipboardText() = 0;
 
-    // Makes the window that shows these controls, hidden.
+    // Creates a hidden window that displays these controls.
     virtual std::unique_ptr<Window> build(std::shared_ptr<Controls> controls) = 0;
 
-    // Shows a box with an OK button and waits for it.
+    // Shows a message box with an OK button and waits until it is closed.
     void message(TextSpan title, TextSpan text);
 
-    // Shows the printer dialog, makes the choice the default printer and returns the number of copies.
-    // Throws Failure when the dialog is cancelled or fails.
+    // Shows the printer dialog, makes the chosen printer the default and returns the number of copies. Throws
+    // Failure if the dialog is cancelled or fails.
     virtual double choosePrinter(Window& window) = 0;
 
-    // Prints the window's client area as one job. Throws Failure when that fails.
+    // Prints the window's client area as one job. Throws Failure if that fails.
     void print(Window& window, Name name);
 
     [[noreturn]] void end() { throw EndOfProcess{}; }
 
-    // Runs the handler of an event. What it throws ends the process: EndOfProcess with status 0, EndlessRead
-    // with the platform's spin(), a Failure and every other exception with the error report. Afterwards no
-    // handler runs any more: assistive technology reaches the windows under the last box, too.
+    // Runs an event handler. An exception that it throws ends the process: EndOfProcess with status 0,
+    // EndlessRead through spin(), a Failure or any other exception with the error report. No further handler
+    // runs, because assistive technology can still operate the windows under the last message box.
     void run(const std::function<void()>& handler);
 
-    bool over() const { return over_; } // the process has ended or failed, or its reader never returns
+    bool over() const { return over_; } // true once an exception of a handler has ended the process
 
 protected:
     virtual void showMessage(TextSpan title, TextSpan text) = 0;
     virtual void printWindow(Window& window) = 0;
-    virtual void reportError(TextSpan sentence) = 0; // then the process ends with status 1
-    virtual void
-    spin(int lines) = 0;       // waits for ever; the copied text has that many lines that are not empty
-    virtual void finish() = 0; // the process ends with status 0
+    virtual void reportError(TextSpan sentence) = 0; // shows the error and ends the process with status 1
+    virtual void spin(int lines) = 0; // waits for ever; `lines`: non-empty lines of the copied text
+    virtual void finish() = 0;        // ends the process with status 0
 
 private:
     void fail(TextSpan sentence);

@@ -1,5 +1,5 @@
-// A window that charts the host screen on the clipboard. It reads the clipboard again for every drawing and
-// keeps nothing from one drawing to the next.
+// A window that charts the host screen on the clipboard. It reads the clipboard each time it draws and keeps
+// no data between drawings.
 #pragma once
 
 #include "platform/form.h"
@@ -8,7 +8,7 @@ namespace plotvue {
 
 class ScreenWindow : public Form {
 public:
-    // `home` is shown when the window is left.
+    // `home` is shown when the user exits this window.
     ScreenWindow(Platform& platform, Form& home) : Form(platform), home_(home) {}
 
 protected:
@@ -16,7 +16,7 @@ protected:
     void Form_Load() override { RefreshChart(); }
     void wayOut() override { cmdExit_Click(); }
 
-    // Draws the screen on the clipboard, or leaves when the clipboard holds another one.
+    // Charts the screen on the clipboard, or exits if the clipboard holds a different screen.
     virtual void RefreshChart() = 0;
 
     void cmdExit_Click() { leaveFor(home_); }
@@ -30,7 +30,7 @@ private:
     Form& home_;
 };
 
-// The declaration of such a window: `content` at the left, then a column with the option frames and the
+// Declares such a window: `content` on the left, and on the right a column with the option frames and the
 // buttons Print, Refresh and Exit.
 Declaration declareScreenWindow(Name name, TextSpan caption, std::vector<Item> content,
                                 std::vector<OptionFrame> frames);

@@ -6,7 +6,7 @@
 
 namespace plotvue {
 
-TEST(ChartAccessible, IsAChartCalledByItsTitles)
+TEST(ChartAccessible, IsAChartNamedByItsTitles)
 {
     ShownChart chart;
     QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&chart);
@@ -15,7 +15,7 @@ TEST(ChartAccessible, IsAChartCalledByItsTitles)
     EXPECT_EQ(told->text(QAccessible::Name), "Sales, Product: 4711");
 }
 
-TEST(ChartAccessible, HasAChildAPoint)
+TEST(ChartAccessible, HasAChildPerPoint)
 {
     ShownChart chart;
     QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&chart);
@@ -44,7 +44,7 @@ TEST(ChartAccessible, FocusFollowsTheCurrentPoint)
     EXPECT_FALSE(told->child(1)->state().focused);
 }
 
-TEST(ChartAccessible, NewContentIsReadAnew)
+TEST(ChartAccessible, ReflectsNewContent)
 {
     ShownChart chart;
     QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&chart);

@@ -85,13 +85,13 @@ TEST(ChartPainting, PrintsNeitherTheCurrentPointNorTheFocus)
     EXPECT_EQ(printed(chart, 3780), before);
 }
 
-TEST(ChartPainting, TypeHasTheSameSizeOnFinerPaper)
+TEST(ChartPainting, TextHasTheSameSizeAtAHigherResolution)
 {
     ShownChart chart;
     EXPECT_EQ(printed(chart, 3780), printed(chart, 4 * 3780));
 }
 
-TEST(ChartPainting, TheProjectionIsLighterThanWhatItStandsOn)
+TEST(ChartPainting, TheProjectionIsLighterThanTheBarBelow)
 {
     ShownChart chart;
     const QImage screen = chart.grab().toImage();
@@ -106,7 +106,7 @@ TEST(ChartPainting, TheProjectionIsLighterThanWhatItStandsOn)
     EXPECT_GT(light, 50);
 }
 
-// Two components as the profit analyses show them: the first green, the second red.
+// Two components as in the profit analyses: green for a gain, red for zero or a loss.
 struct Components : ShownChart {
     Components(double volume, double margin)
     {
@@ -120,7 +120,7 @@ struct Components : ShownChart {
         setChart(content);
     }
 
-    // How many pixels of the bar have just this colour.
+    // The number of pixels of the bar that have exactly this colour.
     int pixels(const QImage& image, int component, Colour colour) const
     {
         const QRect slot = pointRect(component) & image.rect();
@@ -135,7 +135,7 @@ struct Components : ShownChart {
     static constexpr Colour green{0, 255, 0}, red{255, 0, 0};
 };
 
-TEST(ChartPainting, ColoursThatWereAskedForAreDrawnExactly)
+TEST(ChartPainting, RequestedColoursAreDrawnExactly)
 {
     Components chart(400, -300);
     const QImage light = chart.grab().toImage(), paper = printed(chart, 3780);

@@ -1,4 +1,4 @@
-// A shown chart of three months, the newest of them projected, and an empty slot at the end.
+// A visible chart of three months with a projection for the newest, and an empty slot at the end.
 #pragma once
 
 #include "platform/desktop/chart/chartwidget.h"
@@ -29,7 +29,8 @@ struct ShownChart : ChartWidget {
         QApplication::processEvents();
     }
 
-    bool press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) // answers whether the chart took it
+    // Returns whether the chart accepted the key.
+    bool press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         QKeyEvent event(QEvent::KeyPress, key, modifiers);
         QApplication::sendEvent(this, &event);

@@ -10,26 +10,26 @@ TEST(ChartWidget, KeysMoveTheCurrentPoint)
     EXPECT_EQ(chart.currentPoint(), -1);
     EXPECT_TRUE(chart.press(Qt::Key_Right));
     EXPECT_EQ(chart.currentPoint(), 0);
-    EXPECT_TRUE(chart.press(Qt::Key_Left)) << "at the end of its way, but still the chart's";
+    EXPECT_TRUE(chart.press(Qt::Key_Left)) << "no point is left, but the chart still takes the key";
     EXPECT_EQ(chart.currentPoint(), 0);
     chart.press(Qt::Key_Right);
     EXPECT_EQ(chart.currentPoint(), 1);
     chart.press(Qt::Key_End);
-    EXPECT_EQ(chart.currentPoint(), 2) << "the empty slot is no point";
+    EXPECT_EQ(chart.currentPoint(), 2) << "the empty slot is not a point";
     chart.press(Qt::Key_Right);
     EXPECT_EQ(chart.currentPoint(), 2);
     chart.press(Qt::Key_Home);
     EXPECT_EQ(chart.currentPoint(), 0);
 }
 
-TEST(ChartWidget, LeftBeginsAtTheNewest)
+TEST(ChartWidget, LeftStartsAtTheNewestPoint)
 {
     ShownChart chart;
     chart.press(Qt::Key_Left);
     EXPECT_EQ(chart.currentPoint(), 2);
 }
 
-TEST(ChartWidget, EscapeHidesThenPropagates)
+TEST(ChartWidget, EscapeHidesTheReadOutThenPropagates)
 {
     ShownChart chart;
     chart.press(Qt::Key_Home);
@@ -49,7 +49,7 @@ TEST(ChartWidget, OtherKeysPropagate)
     EXPECT_FALSE(chart.press(Qt::Key_Home));
 }
 
-TEST(ChartWidget, HoverPicksTheWholeSlotAtOnce)
+TEST(ChartWidget, HoverAnywhereInASlotSelectsItsPoint)
 {
     ShownChart chart;
     const QRect second = chart.pointRect(1);
@@ -64,7 +64,7 @@ TEST(ChartWidget, HoverPicksTheWholeSlotAtOnce)
     EXPECT_EQ(chart.currentPoint(), -1);
 }
 
-TEST(ChartWidget, APointChosenByKeyStaysWhenTheMouseGoes)
+TEST(ChartWidget, APointChosenByKeyStaysWhenTheMouseLeaves)
 {
     ShownChart chart;
     chart.moveMouse(chart.pointRect(0).center());
@@ -74,7 +74,7 @@ TEST(ChartWidget, APointChosenByKeyStaysWhenTheMouseGoes)
     EXPECT_EQ(chart.currentPoint(), 1);
 }
 
-TEST(ChartWidget, TheReadOutGoesWithTheFocus)
+TEST(ChartWidget, TheReadOutIsHiddenWhenTheFocusLeaves)
 {
     ShownChart chart;
     chart.press(Qt::Key_Home);
@@ -86,7 +86,7 @@ TEST(ChartWidget, TheReadOutGoesWithTheFocus)
     EXPECT_EQ(chart.currentPoint(), -1);
 }
 
-TEST(ChartWidget, ForgetsAPointThatNewContentDoesNotHave)
+TEST(ChartWidget, HasNoCurrentPointIfNewContentLacksIt)
 {
     ShownChart chart;
     chart.press(Qt::Key_End);
@@ -99,7 +99,7 @@ TEST(ChartWidget, ForgetsAPointThatNewContentDoesNotHave)
     EXPECT_EQ(chart.currentPoint(), -1);
 }
 
-TEST(ChartWidget, LaysOutAnewWhenItsSizeOrFontChanges)
+TEST(ChartWidget, UpdatesItsLayoutWhenItsSizeOrFontChanges)
 {
     ShownChart chart;
     const QRect before = chart.pointRect(2);

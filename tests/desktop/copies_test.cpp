@@ -1,5 +1,5 @@
-// What terminals make of a screen when it is copied: the blanks at the ends of lines left out, or every cell
-// filled with them. Whatever the terminal does, the windows look the same.
+// When a screen is copied, terminals drop the blanks at the ends of lines or fill every line with blanks. The
+// windows look the same in both cases.
 #include "desktop/samples_fixture.h"
 #include "platform/desktop/chart/chartwidget.h"
 #include "platform/desktop/chart/qtext.h"
@@ -15,7 +15,7 @@ namespace {
 
 constexpr int columns = 80, maxRows = 100;
 
-enum class Blanks { LeftOut, Painted };
+enum class Blanks { Dropped, Added };
 
 QString copied(const QString& screen, Blanks blanks)
 {
@@ -23,7 +23,7 @@ QString copied(const QString& screen, Blanks blanks)
     for (QString& line : lines) {
         while (line.endsWith(u' '))
             line.chop(1);
-        if (blanks == Blanks::Painted)
+        if (blanks == Blanks::Added)
             line = line.leftJustified(columns);
     }
     return lines.join(u'\n');
@@ -31,7 +31,7 @@ QString copied(const QString& screen, Blanks blanks)
 
 class Copies : public test::SamplesTest, public testing::WithParamInterface<std::string> {
 protected:
-    // What a person sees in the windows that the capture opens, whatever is chosen in them, row after row.
+    // Everything that is visible in the windows of the capture, for every choice of options and every row.
     std::vector<std::string> tour(const QString& capture)
     {
         seen_.clear();
@@ -43,7 +43,7 @@ protected:
             emit grid->rowChosen(1);
             for (WindowWidget* other : windows())
                 if (other != &window)
-                    stepThrough(*other);
+                    lookAtEveryEntry(*other);
         }
         pressed(window, "Exit");
         EXPECT_FALSE(platform.over());
@@ -94,7 +94,7 @@ private:
         }
     }
 
-    void stepThrough(const WindowWidget& charts)
+    void lookAtEveryEntry(const WindowWidget& charts)
     {
         const std::size_t messages = platform.messages.size();
         for (int row = 0; platform.messages.size() == messages; ++row) { // until "End of list"
@@ -107,12 +107,12 @@ private:
     std::vector<std::string> seen_;
 };
 
-TEST_P(Copies, LookTheSameWhateverTheTerminalDoesWithBlanks)
+TEST_P(Copies, LookTheSameWithBlanksDroppedOrAdded)
 {
     const QString screen = sample(GetParam());
     const std::vector<std::string> intact = tour(screen);
     EXPECT_GT(intact.size(), 20U);
-    for (const Blanks blanks : {Blanks::LeftOut, Blanks::Painted}) {
+    for (const Blanks blanks : {Blanks::Dropped, Blanks::Added}) {
         const std::vector<std::string> other = tour(copied(screen, blanks));
         ASSERT_EQ(other.size(), intact.size());
         for (std::size_t i = 0; i < intact.size(); ++i)

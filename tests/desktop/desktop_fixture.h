@@ -1,4 +1,4 @@
-// The desktop platform with a person who acknowledges every box, and a window with every kind of control.
+// The desktop platform with message boxes that return at once, and a window with every kind of control.
 #pragma once
 
 #include "platform/desktop/desktopplatform.h"
@@ -69,7 +69,7 @@ inline Declaration everyControl()
 
 class DesktopTest : public testing::Test {
 protected:
-    // Notes "control index" for each handler that runs.
+    // Handlers that add "control index" to `ran`.
     Handlers noting(std::initializer_list<Name> controls)
     {
         Handlers handlers;

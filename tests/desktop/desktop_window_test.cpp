@@ -77,7 +77,7 @@ TEST_F(DesktopWindowTest, ShowsEachChangeOfItsControls)
     EXPECT_TRUE(find<QRadioButton>("D").isVisible());
     controls.choose("opt", 1);
     EXPECT_TRUE(find<QRadioButton>("24 Month").isChecked());
-    EXPECT_TRUE(find<QRadioButton>("A && B").isChecked()) << "in the other frame";
+    EXPECT_TRUE(find<QRadioButton>("A && B").isChecked()) << "the choice in the other frame";
 
     controls.grid("Grid1").change([](Grid& grid) {
         grid.setRows(3);
@@ -101,7 +101,7 @@ TEST_F(DesktopWindowTest, ShowsEachChangeOfItsControls)
     EXPECT_EQ(chart.chartLayout().bars.size(), 2U);
 }
 
-TEST_F(DesktopWindowTest, ShowsWhatItsControlsWereBeforeItWasSeen)
+TEST_F(DesktopWindowTest, ShowsChangesMadeBeforeItWasVisible)
 {
     every.controls->text("Label1").set(u"early");
     every.controls->options("opt").change([](OptionGroup& options) { options.setVisible(6, false); });
@@ -156,7 +156,7 @@ TEST_F(DesktopWindowTest, TabReachesAFrameWhoseChosenOptionIsHidden)
     EXPECT_EQ(QApplication::focusWidget(), &find<QRadioButton>("A && B"));
 }
 
-TEST_F(DesktopWindowTest, LinesOfATextStayLines)
+TEST_F(DesktopWindowTest, KeepsTheLinesOfALabel)
 {
     every.controls->text("Label1").set(u"one\rtwo\r\nthree\nfour\r");
     EXPECT_EQ(every.widget().findChild<QLabel*>()->text(), "one\ntwo\nthree\nfour");
@@ -164,7 +164,7 @@ TEST_F(DesktopWindowTest, LinesOfATextStayLines)
     EXPECT_EQ(every.widget().findChild<QLineEdit*>()->text(), "one two");
 }
 
-TEST_F(DesktopWindowTest, RowsAreNotCopiedOverTheScreenOnTheClipboard)
+TEST_F(DesktopWindowTest, CopyingRowsLeavesTheClipboardAlone)
 {
     QGuiApplication::clipboard()->setText("QXM31H");
     every.controls->grid("Grid1").change([](Grid& rows) {
@@ -182,7 +182,7 @@ TEST_F(DesktopWindowTest, RowsAreNotCopiedOverTheScreenOnTheClipboard)
     }
 }
 
-TEST_F(DesktopWindowTest, HeldEscapeClosesOneWindow)
+TEST_F(DesktopWindowTest, OnlyEscapeDoesNotRepeat)
 {
     Declaration closing = test::everyControl();
     closing.content.items.push_back({Button{.name = "cmdClose", .caption = u"Close", .shortcut = u"Esc"}});
@@ -192,7 +192,7 @@ TEST_F(DesktopWindowTest, HeldEscapeClosesOneWindow)
         EXPECT_EQ(shortcut->autoRepeat(), shortcut->key() != Qt::Key_Escape);
 }
 
-TEST_F(DesktopWindowTest, LettersAreOfTheFamilyAndSizeThatTheyAskForOrTheDesktopsOwn)
+TEST_F(DesktopWindowTest, FontsHaveTheDeclaredFamilyAndSizeOrTheDesktops)
 {
     const Font asked{.family = u"Arial", .points = 8.25, .bold = true, .italic = true};
     const auto letters =
@@ -213,7 +213,7 @@ TEST_F(DesktopWindowTest, LettersAreOfTheFamilyAndSizeThatTheyAskForOrTheDesktop
     EXPECT_EQ(window.findChildren<QLabel*>().last()->font(), window.font());
 }
 
-TEST_F(DesktopWindowTest, UntitledFrameHasAName)
+TEST_F(DesktopWindowTest, UntitledFrameHasAnAccessibleName)
 {
     const QList<QGroupBox*> frames = every.widget().findChildren<QGroupBox*>();
     ASSERT_EQ(frames.size(), 2);
@@ -221,7 +221,7 @@ TEST_F(DesktopWindowTest, UntitledFrameHasAName)
     EXPECT_EQ(frames[1]->accessibleName(), "Groups");
 }
 
-TEST_F(DesktopWindowTest, ShortcutsPressTheButtonAndAreTold)
+TEST_F(DesktopWindowTest, ShortcutsPressTheButtonAndAreInItsTooltip)
 {
     QPushButton& button = find<QPushButton>("&Go");
     EXPECT_TRUE(button.toolTip().startsWith("Go (F5")) << button.toolTip().toStdString();
@@ -235,7 +235,7 @@ TEST_F(DesktopWindowTest, ShortcutsPressTheButtonAndAreTold)
     EXPECT_THAT(ran, ElementsAre("cmdGo 0", "cmdGo 0"));
 }
 
-TEST_F(DesktopWindowTest, ArrowButtonIsCalledByItsName)
+TEST_F(DesktopWindowTest, ArrowButtonHasItsAccessibleName)
 {
     QPushButton& button = find<QPushButton>("");
     EXPECT_EQ(button.accessibleName(), "Back");
@@ -244,7 +244,7 @@ TEST_F(DesktopWindowTest, ArrowButtonIsCalledByItsName)
     EXPECT_THAT(ran, ElementsAre("cmdBack 0"));
 }
 
-TEST_F(DesktopWindowTest, EnterOnARowIsAClick)
+TEST_F(DesktopWindowTest, EnterOnARowCountsAsAClick)
 {
     every.controls->grid("Grid1").change([](Grid& grid) { grid.setRows(4); });
     auto& table = *every.widget().findChild<QTableView*>("Grid1");
@@ -253,7 +253,7 @@ TEST_F(DesktopWindowTest, EnterOnARowIsAClick)
     EXPECT_THAT(ran, ElementsAre("Grid1 3"));
 }
 
-TEST_F(DesktopWindowTest, TitleBarAsksTheWindow)
+TEST_F(DesktopWindowTest, TitleBarRunsTheCloseHandler)
 {
     onScreen();
     every.widget().close();
@@ -261,7 +261,7 @@ TEST_F(DesktopWindowTest, TitleBarAsksTheWindow)
     EXPECT_TRUE(every.widget().isVisible());
 }
 
-TEST_F(DesktopWindowTest, MayBeUnloadedByItsOwnButton)
+TEST_F(DesktopWindowTest, CanBeUnloadedByItsOwnButton)
 {
     every.controls = std::make_shared<Controls>(test::everyControl(),
                                                 Handlers{{"cmdGo", [this](int) { every = {}; }}}, [] {});
@@ -274,9 +274,9 @@ TEST_F(DesktopWindowTest, MayBeUnloadedByItsOwnButton)
 
 TEST_F(DesktopWindowTest, FitsASmallScreen)
 {
-    const QSize least = every.widget().minimumSizeHint();
-    EXPECT_LE(least.width(), 800);
-    EXPECT_LE(least.height(), 560);
+    const QSize minimum = every.widget().minimumSizeHint();
+    EXPECT_LE(minimum.width(), 800);
+    EXPECT_LE(minimum.height(), 560);
 }
 
 } // namespace

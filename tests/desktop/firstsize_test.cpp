@@ -1,4 +1,4 @@
-// In the size in which a window opens, no label and no title of its charts is left out or cut off.
+// In the initial size of a window, no label and no title of its charts is left out or elided.
 #include "desktop/samples_fixture.h"
 #include "platform/desktop/chart/chartwidget.h"
 #include "platform/desktop/chart/qtext.h"
@@ -21,20 +21,20 @@ protected:
     {
         const QScreen& screen = *QGuiApplication::primaryScreen();
         ASSERT_GE(screen.availableSize().width(), 1280)
-            << "a screen on which every window opens in its own size";
+            << "the test needs a screen on which every window opens in its full size";
         ASSERT_GE(screen.availableSize().height(), 720);
-        const double asked = qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1")).toDouble();
-        ASSERT_EQ(screen.devicePixelRatio(), asked);
+        const double requested = qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1")).toDouble();
+        ASSERT_EQ(screen.devicePixelRatio(), requested);
     }
 
-    void setLetters(double points)
+    void setFontSize(double points)
     {
         QFont font = usual_;
         font.setPointSizeF(points);
         QApplication::setFont(font);
     }
 
-    // The window that the capture opens, or the charts of its first row.
+    // The window that the capture opens; for a list without a chart, the chart window of its first row.
     WindowWidget* opened(const QString& capture)
     {
         QGuiApplication::clipboard()->setText(capture);
@@ -53,7 +53,7 @@ protected:
     static void expectEveryPointLabelled(const ChartWidget& chart, const chart::Layout& layout)
     {
         std::set<int> labelled;
-        std::map<double, double> ends; // of the labels so far, by the top of their line
+        std::map<double, double> ends; // right ends of the labels so far, by the top of their line
         for (const chart::SlotLabel& label : layout.labels) {
             const chart::Rect& box = label.name.box;
             EXPECT_FALSE(label.name.text.empty());
@@ -82,7 +82,7 @@ protected:
 
     static bool isWhole(TextSpan text) { return text.find(u'\u2026') == TextSpan::npos; }
 
-    // The same chart on paper of 300 dots an inch.
+    // The layout of the same chart on paper with 300 dots per inch.
     static chart::Layout onPaper(const ChartWidget& chart)
     {
         QImage paper(1, 1, QImage::Format_RGB32);
@@ -104,7 +104,7 @@ protected:
         }
     }
 
-    static void expectWholeWhateverIsChosen(const WindowWidget& window)
+    static void expectWholeForEveryChoice(const WindowWidget& window)
     {
         forEveryChoice(window, [&] { expectWhole(window); });
     }
@@ -113,61 +113,61 @@ private:
     QFont usual_ = QApplication::font();
 };
 
-TEST_P(FirstSize, EveryPointHasItsLabelWhateverIsChosen)
+TEST_P(FirstSize, EveryPointHasItsLabelForEveryChoice)
 {
     const WindowWidget* window = opened(sample(GetParam()));
     ASSERT_NE(window, nullptr);
-    expectWholeWhateverIsChosen(*window);
+    expectWholeForEveryChoice(*window);
 }
 
-TEST_P(FirstSize, InLettersOf11PointsToo)
+TEST_P(FirstSize, AlsoWithAFontOf11Points)
 {
-    setLetters(11);
+    setFontSize(11);
     const WindowWidget* window = opened(sample(GetParam()));
     ASSERT_NE(window, nullptr);
-    expectWholeWhateverIsChosen(*window);
+    expectWholeForEveryChoice(*window);
 }
 
-TEST_P(FirstSize, InLettersOf12PointsToo)
+TEST_P(FirstSize, AlsoWithAFontOf12Points)
 {
-    setLetters(12);
+    setFontSize(12);
     const WindowWidget* window = opened(sample(GetParam()));
     ASSERT_NE(window, nullptr);
-    expectWholeWhateverIsChosen(*window);
+    expectWholeForEveryChoice(*window);
 }
 
-TEST_P(FirstSize, OnAScreenOf960By540Too) // 1920 by 1080 at 200 %
+TEST_P(FirstSize, AlsoOnAScreenOf960By540) // 1920 by 1080 at 200 %
 {
     WindowWidget* window = opened(sample(GetParam()));
     ASSERT_NE(window, nullptr);
     window->resize(window->size().boundedTo({960, 540}));
     QCoreApplication::processEvents();
-    expectWholeWhateverIsChosen(*window);
+    expectWholeForEveryChoice(*window);
 }
 
 INSTANTIATE_TEST_SUITE_P(Samples, FirstSize, testing::ValuesIn(test::samples()),
                          [](const auto& sample) { return sample.param; });
 
-TEST_F(FirstSize, TwentyFourMonthsAreTwentyFiveLabels)
+TEST_F(FirstSize, TwentyFourMonthsHaveTwentyFiveLabels)
 {
     const WindowWidget* window = opened(sample("product"));
     app.window("frmProduct")->controls().choose("opt12", 1);
     EXPECT_EQ(labelled(*window), 25U);
 }
 
-TEST_F(FirstSize, FiveYearsAreSixtyLabels)
+TEST_F(FirstSize, FiveYearsHaveSixtyLabels)
 {
     const WindowWidget* window = opened(sample("glhistory"));
     app.window("frmGLarch")->controls().choose("opt12", 4);
     EXPECT_EQ(labelled(*window), 60U);
 }
 
-TEST_F(FirstSize, ARowsMonthsAreThirteenLabels)
+TEST_F(FirstSize, TheMonthsOfARowHaveThirteenLabels)
 {
     EXPECT_EQ(labelled(*opened(sample("profitrank"))), 13U);
 }
 
-TEST_F(FirstSize, ThirtyCharactersOfACustomersNameAreWhole)
+TEST_F(FirstSize, ACustomerNameOfThirtyCharactersIsNotElided)
 {
     QString capture = sample("monthtomonth");
     static const QRegularExpression name(QStringLiteral("(RANK:  1.{11}).{30}"));

@@ -1,17 +1,17 @@
-// Line ends as terminal programs put them on the clipboard.
+// The line ends that terminals put on the clipboard.
 #include "platform/desktop/clipboard.h"
 
 #include <gtest/gtest.h>
 
 namespace plotvue {
 
-TEST(LineEnds, ABareLineFeedBecomesThePair)
+TEST(LineEnds, ABareLineFeedBecomesCrLf)
 {
     EXPECT_EQ(mendLineEnds(u"a\nb\nc"), u"a\r\nb\r\nc");
     EXPECT_EQ(mendLineEnds(u"a\n"), u"a\r\n");
 }
 
-TEST(LineEnds, AnEmptyLineThatABareLineFeedEndsBecomesABlank)
+TEST(LineEnds, AnEmptyLineThatEndsInABareLineFeedBecomesABlank)
 {
     EXPECT_EQ(mendLineEnds(u"a\n\nb\n"), u"a\r\n \r\nb\r\n");
     EXPECT_EQ(mendLineEnds(u"a\n\n\n\nb"), u"a\r\n \r\n \r\n \r\nb");
@@ -19,26 +19,26 @@ TEST(LineEnds, AnEmptyLineThatABareLineFeedEndsBecomesABlank)
     EXPECT_EQ(mendLineEnds(u"\n"), u" \r\n");
 }
 
-TEST(LineEnds, PairsStayAsTheyAreAndSoDoTheirEmptyLines)
+TEST(LineEnds, CrLfAndItsEmptyLinesAreUnchanged)
 {
     for (const TextSpan text : {u"a\r\nb\r\n", u"\r\n", u"\r\na", u"a\r\n\r\n\r\nb\r\n"})
         EXPECT_EQ(mendLineEnds(text), text);
 }
 
-TEST(LineEnds, CarriageReturnsAloneStayAsTheyAre)
+TEST(LineEnds, BareCarriageReturnsAreUnchanged)
 {
     for (const TextSpan text : {u"a\rb\r", u"\r\r", u"a\r\r\nb"})
         EXPECT_EQ(mendLineEnds(text), text);
 }
 
-TEST(LineEnds, EachLineIsMendedByItsOwnEnd)
+TEST(LineEnds, EachLineIsMendedOnItsOwn)
 {
     EXPECT_EQ(mendLineEnds(u"a\r\n\nb\n\r\nc\r\n"), u"a\r\n \r\nb\r\n\r\nc\r\n");
     EXPECT_EQ(mendLineEnds(u"a\n\r\nb"), u"a\r\n\r\nb");
     EXPECT_EQ(mendLineEnds(u"a\r\nb\n\nc"), u"a\r\nb\r\n \r\nc");
 }
 
-TEST(LineEnds, LinesOfBlanksAndTextWithoutLineEndsStay)
+TEST(LineEnds, BlankLinesAndTextWithoutLineEndsAreUnchanged)
 {
     EXPECT_EQ(mendLineEnds(u""), u"");
     EXPECT_EQ(mendLineEnds(u"a"), u"a");

@@ -1,4 +1,4 @@
-// When windows really come to the screen, the clipboard's line ends, and paper.
+// When windows appear on the screen, how the clipboard is read, and printing.
 #include "app/application.h"
 #include "desktop/desktop_fixture.h"
 #include "platform/desktop/chart/chartwidget.h"
@@ -45,20 +45,20 @@ protected:
     Application app{platform};
 };
 
-TEST_F(PresenterTest, StartWithACaptureNeverMakesTheStartUpWindow)
+TEST_F(PresenterTest, StartWithACaptureNeverCreatesTheStartUpWindow)
 {
     copy(productScreen());
     app.start();
     const Form& product = *app.window("frmProduct");
     ASSERT_TRUE(product.visible());
-    EXPECT_FALSE(realised(product)) << "before the handlers are done";
+    EXPECT_FALSE(realised(product)) << "before the handlers have returned";
     platform.settle();
     EXPECT_TRUE(realised(product));
     EXPECT_TRUE(static_cast<DesktopWindow&>(product.window()).widget().isVisible());
     EXPECT_FALSE(static_cast<DesktopWindow&>(app.window("startup")->window()).hasWidget());
 }
 
-TEST_F(PresenterTest, StartUpWindowStandsBehindTheMessage)
+TEST_F(PresenterTest, StartUpWindowIsVisibleUnderTheMessage)
 {
     QGuiApplication::clipboard()->clear();
     app.start();
@@ -68,7 +68,7 @@ TEST_F(PresenterTest, StartUpWindowStandsBehindTheMessage)
     EXPECT_TRUE(static_cast<DesktopWindow&>(app.window("startup")->window()).widget().isVisible());
 }
 
-TEST_F(PresenterTest, EventLoopBringsTheWindowsAboutByItself)
+TEST_F(PresenterTest, EventLoopShowsAndHidesWindowsByItself)
 {
     const Built every = build();
     every.window->show();
@@ -83,7 +83,7 @@ TEST_F(PresenterTest, EventLoopBringsTheWindowsAboutByItself)
     EXPECT_FALSE(every.widget().isVisible());
 }
 
-TEST_F(PresenterTest, WindowThatComesIsPaintedOnce)
+TEST_F(PresenterTest, WindowIsPaintedOnceWhenItAppears)
 {
     struct Paintings : QObject {
         int count = 0;
@@ -102,19 +102,19 @@ TEST_F(PresenterTest, WindowThatComesIsPaintedOnce)
     EXPECT_EQ(paintings.count, 1);
 }
 
-TEST_F(PresenterTest, WindowComesBackWhereItWas)
+TEST_F(PresenterTest, WindowReappearsWhereItWas)
 {
     const Built every = shown();
     every.widget().move(120, 90);
-    const QPoint stood = every.widget().pos();
+    const QPoint position = every.widget().pos();
     every.window->hide();
     platform.settle();
     every.window->show();
     platform.settle();
-    EXPECT_EQ(every.widget().pos(), stood);
+    EXPECT_EQ(every.widget().pos(), position);
 }
 
-TEST_F(PresenterTest, MinimisedWindowComesBackWhenItIsShown)
+TEST_F(PresenterTest, MinimisedWindowIsRestoredWhenShown)
 {
     const Built every = build();
     for (const bool hidden : {false, true}) {
@@ -131,7 +131,7 @@ TEST_F(PresenterTest, MinimisedWindowComesBackWhenItIsShown)
     }
 }
 
-TEST_F(PresenterTest, WindowBuiltAnewStandsWhereTheLastOfItsNameDid)
+TEST_F(PresenterTest, RebuiltWindowAppearsWhereThePreviousOneWas)
 {
     Built every = shown();
     const QPoint place(173, 91);
@@ -143,14 +143,14 @@ TEST_F(PresenterTest, WindowBuiltAnewStandsWhereTheLastOfItsNameDid)
     EXPECT_EQ(every.widget().geometry().topLeft(), place);
 }
 
-TEST_F(PresenterTest, ClipboardTextPassesWholeButForLineEnds)
+TEST_F(PresenterTest, ClipboardTextIsUnchangedApartFromLineEnds)
 {
     const Text raw(u"a\nb\r\nc\rd\n\n\r\r\n\0e\xD800", 17);
     copy(raw);
     EXPECT_EQ(platform.clipboardText(), Text(u"a\r\nb\r\nc\rd\r\n \r\n\r\r\n\0e\xD800", 21));
 }
 
-TEST_F(PresenterTest, TheClipboardIsReadOnceAnEvent)
+TEST_F(PresenterTest, TheClipboardIsReadOncePerEvent)
 {
     copy(u"a");
     EXPECT_EQ(platform.clipboardText(), u"a");
@@ -160,7 +160,7 @@ TEST_F(PresenterTest, TheClipboardIsReadOnceAnEvent)
     EXPECT_EQ(platform.clipboardText(), u"b");
 }
 
-TEST_F(PresenterTest, PicturesOnTheClipboardAreNoText)
+TEST_F(PresenterTest, PicturesOnTheClipboardAreNotText)
 {
     QGuiApplication::clipboard()->setImage(QImage(2, 2, QImage::Format_RGB32));
     EXPECT_EQ(platform.clipboardText(), u"");
@@ -184,7 +184,7 @@ TEST_F(PresenterTest, PrintsAsVectorsOnWhite)
     EXPECT_EQ(window.palette(), before);
 }
 
-TEST_F(PresenterTest, PaperIsWhiteWhateverTheTheme)
+TEST_F(PresenterTest, PaperIsWhiteForEveryTheme)
 {
     const Built every = shown();
     WindowWidget& window = every.widget();
@@ -237,7 +237,7 @@ TEST_F(PresenterTest, PrintedRowsStayWithinTheirGrid)
     EXPECT_EQ(outside, 0);
 }
 
-// Where anything is drawn.
+// The smallest rectangle that holds everything drawn.
 QRect drawnIn(const QImage& paper)
 {
     QRect drawn;
@@ -248,11 +248,11 @@ QRect drawnIn(const QImage& paper)
     return drawn;
 }
 
-TEST_F(PresenterTest, WindowFillsEitherPaperEitherWayAndKeepsItsShape)
+TEST_F(PresenterTest, WindowFillsEveryPageAndKeepsItsAspectRatio)
 {
     const Built every = shown();
     WindowWidget& window = every.widget();
-    const QSize letter(816, 1056), a4(794, 1123); // at 96 dots an inch
+    const QSize letter(816, 1056), a4(794, 1123); // at 96 dots per inch
     for (const QSize page : {letter, letter.transposed(), a4, a4.transposed()}) {
         QImage paper(page + QSize(200, 200), QImage::Format_RGB32);
         paper.fill(Qt::white);

@@ -1,4 +1,4 @@
-// The windows that the samples open, in a directory of their own.
+// The windows that the samples open, in a temporary working directory.
 #pragma once
 
 #include "app/application.h"
@@ -42,7 +42,7 @@ protected:
 
     static void copySample(const std::string& name) { QGuiApplication::clipboard()->setText(sample(name)); }
 
-    // Those that are shown, laid out.
+    // The visible windows, laid out.
     std::vector<WindowWidget*> windows()
     {
         platform.settle();
@@ -54,7 +54,7 @@ protected:
         return shown;
     }
 
-    // Calls `look` with one option chosen in each frame of the window, in every way; from `frame` on.
+    // Calls `look` for every combination of chosen options in the window's frames, from number `frame` on.
     template <typename Look>
     static void forEveryChoice(const WindowWidget& window, const Look& look, qsizetype frame = 0)
     {

@@ -1,4 +1,5 @@
-// Every window fits a small screen, and at any size nothing overlaps, sticks out or is cut off.
+// Every window fits a small screen. At any size, no widget overlaps another, extends beyond its parent or is
+// cut off.
 #include "desktop/samples_fixture.h"
 #include "platform/desktop/grid.h"
 
@@ -16,7 +17,7 @@ namespace plotvue {
 
 namespace {
 
-constexpr QSize smallScreen{790, 560}; // 800 by 600, less the frame
+constexpr QSize smallScreen{790, 560}; // 800 by 600, without the frame
 constexpr QSize roomy{1000, 620};
 
 std::vector<QWidget*> visibleChildren(const QWidget& widget)
@@ -36,8 +37,8 @@ std::string described(const QWidget& widget)
     return words;
 }
 
-// What the widget needs to show all of its text.
-QSize needed(const QWidget& widget)
+// The minimum size that shows all text of the widget.
+QSize neededSize(const QWidget& widget)
 {
     if (const auto* label = qobject_cast<const QLabel*>(&widget); label && label->wordWrap())
         return {0, label->heightForWidth(label->width())};
@@ -47,45 +48,46 @@ QSize needed(const QWidget& widget)
     return isText ? widget.sizeHint() : QSize(0, 0);
 }
 
-void expectInOrder(const QWidget& widget)
+void expectFits(const QWidget& widget)
 {
     const std::vector<QWidget*> children = visibleChildren(widget);
     for (const QWidget* child : children) {
         SCOPED_TRACE(described(*child));
-        const QSize wanted = needed(*child);
+        const QSize wanted = neededSize(*child);
         EXPECT_GE(child->width(), wanted.width());
         EXPECT_GE(child->height(), wanted.height());
         EXPECT_TRUE(widget.rect().contains(child->geometry()));
         for (const QWidget* other : children)
             EXPECT_TRUE(other == child || !other->geometry().intersects(child->geometry()))
                 << "is overlapped by " << described(*other);
-        if (!qobject_cast<const QAbstractScrollArea*>(child)) // which lays its own out, partly out of sight
-            expectInOrder(*child);
+        // A scroll area arranges its children itself, some of them outside the viewport.
+        if (!qobject_cast<const QAbstractScrollArea*>(child))
+            expectFits(*child);
     }
 }
 
-void expectInOrder(QWidget& window, QSize size)
+void expectFits(QWidget& window, QSize size)
 {
     SCOPED_TRACE(std::to_string(size.width()) + " x " + std::to_string(size.height()));
     window.resize(size);
     QCoreApplication::processEvents();
     EXPECT_EQ(window.size(), size);
-    expectInOrder(window);
+    expectFits(window);
 }
 
 class SizesTest : public test::SamplesTest, public testing::WithParamInterface<std::string> {
 protected:
-    // Checks the windows that are shown; returns how many.
-    std::size_t expectAllInOrder(QSize screen = smallScreen)
+    // Checks the visible windows and returns their number.
+    std::size_t expectAllFit(QSize screen = smallScreen)
     {
         const std::vector<WindowWidget*> shown = windows();
         for (WindowWidget* window : shown) {
             SCOPED_TRACE(window->windowTitle().toStdString());
-            const QSize least = window->minimumSize();
-            EXPECT_LE(least.width(), screen.width());
-            EXPECT_LE(least.height(), screen.height());
-            for (const QSize size : {least, screen, roomy})
-                expectInOrder(*window, size);
+            const QSize minimum = window->minimumSize();
+            EXPECT_LE(minimum.width(), screen.width());
+            EXPECT_LE(minimum.height(), screen.height());
+            for (const QSize size : {minimum, screen, roomy})
+                expectFits(*window, size);
         }
         return shown.size();
     }
@@ -94,28 +96,28 @@ protected:
     {
         copySample(GetParam());
         app.start();
-        EXPECT_EQ(expectAllInOrder(screen), 1U);
+        EXPECT_EQ(expectAllFit(screen), 1U);
         EXPECT_FALSE(app.window("startup")->visible());
 
         auto* grid = windows().front()->findChild<GridTable*>();
         if (!grid || GetParam() == "categoriessalesmen")
             return;
         emit grid->rowChosen(1);
-        EXPECT_EQ(expectAllInOrder(screen), 2U) << "the list and its drill-down window";
+        EXPECT_EQ(expectAllFit(screen), 2U) << "the list and its drill-down window";
     }
 };
 
-// While it lives, all letters are larger by half.
-class LargeLetters {
+// All text is 1.5 times as large as long as this object exists.
+class LargeFont {
 public:
-    LargeLetters()
+    LargeFont()
     {
         QFont large = usual_;
         large.setPointSizeF(usual_.pointSizeF() * 1.5);
         QApplication::setFont(large);
     }
-    LargeLetters(const LargeLetters&) = delete;
-    ~LargeLetters() { QApplication::setFont(usual_); }
+    LargeFont(const LargeFont&) = delete;
+    ~LargeFont() { QApplication::setFont(usual_); }
 
 private:
     QFont usual_ = QApplication::font();
@@ -126,9 +128,9 @@ TEST_P(SizesTest, WindowsShowAllOfTheirTexts)
     openAll(smallScreen);
 }
 
-TEST_P(SizesTest, WindowsShowAllOfTheirTextsInLargeLetters)
+TEST_P(SizesTest, WindowsShowAllOfTheirTextsInALargeFont)
 {
-    const LargeLetters large;
+    const LargeFont large;
     openAll(roomy);
 }
 
@@ -139,15 +141,15 @@ TEST_F(SizesTest, StartUpWindowShowsAllOfItsTexts)
 {
     QGuiApplication::clipboard()->clear();
     app.start();
-    EXPECT_EQ(expectAllInOrder(), 1U);
+    EXPECT_EQ(expectAllFit(), 1U);
 }
 
-TEST_F(SizesTest, StartUpWindowShowsAllOfItsTextsInLargeLetters)
+TEST_F(SizesTest, StartUpWindowShowsAllOfItsTextsInALargeFont)
 {
-    const LargeLetters large;
+    const LargeFont large;
     QGuiApplication::clipboard()->clear();
     app.start();
-    EXPECT_EQ(expectAllInOrder(), 1U);
+    EXPECT_EQ(expectAllFit(), 1U);
 }
 
 } // namespace

@@ -1,9 +1,9 @@
 #!/usr/bin/python3 -B
-"""alike.py PROGRAM STORY: PROGRAM prints the same in memory and on the desktop, to the byte, and writes the same files.
+"""alike.py PROGRAM STORY: checks that PROGRAM has the same output and files in memory and on the desktop.
 
-STORY is a script, or a capture: that is gone through by tours (tour.py). What a script must print is in the file beside
-it that ends in `.expected`: it has been worked out by hand, one line for each printed line. An object there names only
-the members that matter, null is anything, and empty lines and lines that begin with # are left out.
+STORY is a script, or a capture, which is played with tours (tour.py). The expected output of a script is in the file
+beside it that ends in `.expected`, written by hand with one line for each printed line. An object there names only the
+members that matter, and null matches anything. Empty lines and lines that begin with # are ignored.
 """
 
 import difflib
@@ -17,18 +17,18 @@ from pathlib import Path
 from replay import ENVIRONMENT, parsed, working_directory
 from tour import tours
 
-PATIENCE = 150  # seconds; on a busy machine too
+PATIENCE = 150  # seconds, enough for a busy machine
 
 
 def files(place):
-    """The files that a session has left in its directory, by name."""
+    """The contents of the files in the directory of a session, by name."""
     return {path.name: path.read_bytes() for path in sorted(place.iterdir()) if path.is_file()}
 
 
 def played(command, script, place, env=None, patience=PATIENCE):
-    """Plays the script in a new directory; returns what was printed, and the files that were written."""
+    """Plays the script in a new directory; returns the output and the files that were written."""
     working_directory(place)
-    # Files instead of pipes: processes that Wine starts would keep a pipe open.
+    # Files instead of pipes, because processes that Wine starts would keep a pipe open.
     with tempfile.TemporaryFile() as printed, tempfile.TemporaryFile() as read:
         read.write(script.encode())
         read.seek(0)
@@ -39,7 +39,7 @@ def played(command, script, place, env=None, patience=PATIENCE):
 
 
 def check_alike(one, other):
-    """Ends the program with the differences, where what was printed or the files are not the same."""
+    """Exits with the differences if the output or the files differ."""
     if one[0] != other[0]:
         lines = [printed.decode("utf-8", "backslashreplace").splitlines() for printed in (one[0], other[0])]
         sys.exit("\n".join(difflib.unified_diff(*lines, "in memory", "elsewhere", n=0, lineterm="")))
@@ -50,7 +50,7 @@ def check_alike(one, other):
 
 
 def holds(found, expected):
-    """Whether what is expected is found: null is anything, and numbers with a point may differ in their last digits."""
+    """Whether `found` matches `expected`: null matches anything, and decimals may differ in their last digits."""
     if isinstance(expected, dict) and isinstance(found, dict):
         return all(name in found and holds(found[name], value) for name, value in expected.items())
     if isinstance(expected, list) and isinstance(found, list):

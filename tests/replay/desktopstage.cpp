@@ -9,7 +9,7 @@ namespace plotvue::replay {
 
 namespace {
 
-// The real widgets, with a person who answers every box at once.
+// The desktop platform with boxes and printer dialogs that are answered at once.
 class AnsweringDesktop : public DesktopPlatform {
 public:
     PrinterAnswer printer;
@@ -39,7 +39,7 @@ class DesktopStage : public Stage {
 public:
     DesktopStage(int& argc, char** argv)
     {
-        if (!QApplication::instance()) // one stage after the other may stand on the same
+        if (!QApplication::instance()) // several stages may follow each other with one application
             application_.emplace(argc, argv);
     }
 
@@ -59,7 +59,7 @@ public:
     {
         platform_.settle();
         QApplication::processEvents();
-        // Outside an event loop nothing else deletes the windows that have retired.
+        // Without a running event loop, retired windows are deleted only by this call.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 

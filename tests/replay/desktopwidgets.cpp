@@ -36,7 +36,7 @@ Widget& widgetOf(const Form& form, Name name)
     return *found;
 }
 
-// The buttons of an option group, as its options.
+// The radio buttons of an option group, in the order of its options.
 std::vector<QRadioButton*> buttonsOf(const Form& form, Name group)
 {
     std::vector<QRadioButton*> buttons;
@@ -50,7 +50,7 @@ std::vector<QRadioButton*> buttonsOf(const Form& form, Name group)
     return buttons;
 }
 
-// `value` where the widget shows what is to be shown of it.
+// `value` if the widget displays `toBeShown`, the form of `value` for display; otherwise the displayed text.
 Text seen(const Text& value, const QString& toBeShown, const QString& shownText)
 {
     return shownText == toBeShown ? value : toText(shownText);
@@ -122,7 +122,7 @@ void lookAt(Grid& grid, const Form& form, Name name)
         }
 }
 
-// A chart that is drawn otherwise than a new widget would draw it is seen as none.
+// Leaves the chart empty if the widget's drawing differs from that of a new widget with the same chart.
 void lookAt(Chart& chart, const Form& form, Name name)
 {
     const auto& widget = widgetOf<ChartWidget>(form, name);

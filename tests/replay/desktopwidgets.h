@@ -1,4 +1,4 @@
-// The real widgets of a form: what they show, and a person who uses them.
+// Reads and operates the widgets of a form.
 #pragma once
 
 #include "platform/form.h"
@@ -6,8 +6,8 @@
 
 namespace plotvue::replay {
 
-// What the widgets show. Where that is what is to be shown of a control's value, it is the value itself,
-// which may hold more: control characters are not drawn.
+// What the widgets display. If a widget displays the value of its control correctly, the value itself is
+// returned, because it may hold control characters that are not displayed.
 SeenWindow seenOnWidgets(const Form& form);
 
 void pressWidget(const Form& form, Name button);

@@ -1,4 +1,4 @@
-// Events and states as JSON, one object a line, keys in a fixed order.
+// Events and window states as JSON, one object per line, with keys in a fixed order.
 #pragma once
 
 #include "platform/events.h"

@@ -1,4 +1,4 @@
-// Plays a script from standard input and writes what happened to standard output.
+// Plays a script from standard input and writes events and window states to standard output.
 #include "replay/player.h"
 
 #include <iostream>

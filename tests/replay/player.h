@@ -1,4 +1,4 @@
-// Plays a script against the windows of one platform.
+// Plays a script in the windows of one platform.
 #pragma once
 
 #include "app/application.h"
@@ -15,17 +15,17 @@ struct PrinterAnswer {
     double copies = 1;
 };
 
-// A platform as a script handles it.
+// A platform that a script controls.
 class Stage {
 public:
     virtual ~Stage() = default;
     virtual Platform& platform() = 0;
     virtual void setClipboard(const Text& text) = 0; // empty: no text
     virtual void setPrinter(PrinterAnswer answer) = 0;
-    virtual void settle() {} // lets what was shown and hidden take effect
+    virtual void settle() {} // carries out pending show and hide requests
 
     virtual SeenWindow look(const Form& form) = 0;
-    // As a person does it; what is used is there.
+    // User actions. The control must exist.
     virtual void press(const Form& form, Name button) = 0;
     virtual void choose(const Form& form, Name group, int index) = 0;
     virtual void clickRow(const Form& form, Name grid, int row) = 0;
@@ -35,7 +35,7 @@ public:
 std::unique_ptr<Stage> recordingStage();
 std::unique_ptr<Stage> desktopStage(int& argc, char** argv);
 
-// A line that cannot be played.
+// Thrown for a script line that cannot be played.
 struct BadLine : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
@@ -44,7 +44,7 @@ class Player {
 public:
     Player(Stage& stage, std::ostream& out);
 
-    // Plays until the script or the process ends. Throws BadLine, its text holding the line's number.
+    // Plays until the script or the process ends. Throws BadLine with the line number in its text.
     void play(std::istream& script);
 
     Application& application() { return app_; }
@@ -57,7 +57,7 @@ private:
     Form& form(Name window);
     Form& loadedForm(Name window);
 
-    // Throws BadLine when the window shows no such control.
+    // Throws BadLine if the window has no such control.
     template <typename Value>
     Value control(Name window, Name name);
 

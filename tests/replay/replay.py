@@ -1,4 +1,4 @@
-"""The replay program as a process that plays one line after the other."""
+"""The replay program as a process that plays lines as they are sent to it."""
 
 import json
 import os
@@ -9,17 +9,17 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parents[2]
 SAMPLES = ROOT / "samples"
 CAPTURES = ROOT / "tests/replay/scripts/captures"
-# Qt's own warnings are off: what is printed on standard error is PlotVue's.
+# Without Qt's warnings, standard error holds only PlotVue's messages.
 ENVIRONMENT = {"QT_QPA_PLATFORM": "offscreen", "QT_LOGGING_RULES": "*.warning=false"}
 
 
 def parsed(line):
-    """The event or state of a printed line; half a surrogate pair is three bytes of its own."""
+    """The event or state of a printed line. An unpaired surrogate is encoded in three bytes."""
     return json.loads(line.decode("utf-8", "surrogatepass"))
 
 
 def working_directory(place):
-    """Makes a directory in which scripts find the samples and captures that they name."""
+    """Creates a directory with links to the samples and captures that scripts name."""
     place.mkdir()
     (place / "samples").symlink_to(SAMPLES)
     (place / "captures").symlink_to(CAPTURES)
@@ -27,7 +27,7 @@ def working_directory(place):
 
 
 class Replay:
-    """Keeps the script and what was printed; `over` is how the session ended, None while it lives."""
+    """Keeps the script and the output. `over` says how the session ended; it is None as long as the session runs."""
 
     def __init__(self, program, directory, platform="recording", around=()):
         self.script, self.printed, self.over = [], [], None
@@ -39,13 +39,13 @@ class Replay:
     def tell(self, *lines):
         """Plays the lines and returns the events and states that they printed."""
         dumped = lines[-1].startswith("dump ")
-        lines = lines if dumped else (*lines, "dump startup")  # its answer says that all is done
+        lines = lines if dumped else (*lines, "dump startup")  # the answer to it shows that all lines were played
         self.script += lines
         try:
             self.process.stdin.write("".join(line + "\n" for line in lines).encode())
             self.process.stdin.flush()
         except BrokenPipeError:
-            pass  # the session is over, as the answers will show
+            pass  # the session is over; the missing answers show it below
         awaited = sum(line.startswith("dump ") for line in lines)
         answers = []
         while awaited and (line := self.process.stdout.readline()):
@@ -59,12 +59,12 @@ class Replay:
         return answers if dumped else answers[:-1]
 
     def state(self, window):
-        """What the window shows; None when the session is over."""
+        """The state of the window; None if the session is over."""
         answers = self.tell(f"dump {window}")
         return None if self.over else answers[-1]
 
     def end(self):
-        """Ends the script; returns the exit status and what was printed on standard error."""
+        """Ends the script; returns the exit status and the text on standard error."""
         try:
             rest, _ = self.process.communicate(timeout=20)
         except subprocess.TimeoutExpired:

@@ -1,4 +1,4 @@
-// What is seen of a window: the value that each of its controls shows.
+// What a window displays: the value of each of its controls.
 #pragma once
 
 #include "platform/controls.h"
@@ -17,7 +17,7 @@ using Seen = std::variant<SeenText, SeenList, OptionGroup, Grid, Chart>;
 
 struct SeenWindow {
     Text caption;
-    std::map<std::string, Seen, std::less<>> controls; // pictures and frames are none
+    std::map<std::string, Seen, std::less<>> controls; // without pictures and frames
 };
 
 SeenWindow seenIn(Controls& controls);

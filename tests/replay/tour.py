@@ -1,7 +1,7 @@
 """A tour through the windows that a capture opens: every option, row, button and step, each followed by a dump.
 
-The tour plays on the platform in memory and writes its script on the way, because what there is to click depends on
-what is shown. A click that ends the session is left out of the next tour, until a tour comes to its end.
+The tour plays on the platform in memory and writes its script as it goes, because the available actions depend on what
+is displayed. If an action ends the session, the next tour skips it, until one tour is complete.
 """
 
 import itertools
@@ -12,18 +12,18 @@ ANOTHER_SCREEN = "captures/product-accents.txt"
 
 
 class Ended(Exception):
-    """The session is over: PlotVue has ended, or waits for ever."""
+    """The session is over: PlotVue has ended or waits for ever."""
 
 
 class Tour(Replay):
     def __init__(self, program, directory, left_out):
         super().__init__(program, directory)
         self.left_out = left_out
-        self.action = 0  # counts the actions, which are the same in every tour with one capture
-        self.visible = []  # windows, in the order in which they were shown
+        self.action = 0  # number of the action; the actions are the same in every tour of a capture
+        self.visible = []  # names of the visible windows, in the order in which they were shown
 
     def do(self, *lines):
-        """Plays the lines of one action; returns the state that the last of them dumped, None if there is none."""
+        """Plays the lines of one action; returns the state that the last one dumped, or None."""
         self.action += 1
         if self.action in self.left_out:
             return None
@@ -46,7 +46,7 @@ class Tour(Replay):
         return {name: control for name, control in found.items() if control["kind"] == kind}
 
     def choose_each(self, window):
-        """Chooses every visible option once; returns the frames, each as the options that exclude each other."""
+        """Chooses every visible option once; returns the options of each frame, which exclude each other."""
         frames = {}
         for name, control in self.controls(window, "options").items():
             for index in (option["index"] for option in control["options"] if option["visible"]):
@@ -57,7 +57,7 @@ class Tour(Replay):
         return list(frames.values())
 
     def choose_all(self, window):
-        """Chooses every combination of the options of all frames."""
+        """Chooses every combination of options in all frames."""
         frames = self.choose_each(window)
         before = ()
         for options in itertools.product(*frames) if len(frames) > 1 else ():
@@ -66,21 +66,21 @@ class Tour(Replay):
             before = options
 
     def press(self, window, *buttons):
-        """Presses each button that the window has, as long as it is visible."""
+        """Presses those of the buttons that the window has, as long as the window is visible."""
         present = self.controls(window, "button")
         for button in buttons:
             if button in present and window in self.visible:
                 self.do(f"click {window} {button}", f"dump {window}")
 
     def step(self, chart, button, count):
-        """Presses the button so often, or until the end of the list closes the window."""
+        """Presses the button `count` times, or until the end of the list closes the window."""
         for _ in range(count):
             if not self.do(f"click {chart} {button}", f"dump {chart}"):
                 break
 
     def use_rows(self, window, grid, rows):
         chart = window + "A"
-        ways_out = itertools.cycle((f"click {chart} cmdExit", f"close {chart}"))
+        exits = itertools.cycle((f"click {chart} cmdExit", f"close {chart}"))
         for row in range(1, rows):
             self.do(f"row {window} {grid} {row}")
             if chart not in self.visible:
@@ -97,12 +97,12 @@ class Tour(Replay):
                 self.choose_each(chart)
                 self.press(chart, "cmdNext", "cmdBack")
                 if chart in self.visible:
-                    self.do(next(ways_out))
+                    self.do(next(exits))
             else:
-                self.choose_each(chart)  # and the next row is clicked with these charts open
+                self.choose_each(chart)  # the next row is clicked while these charts are open
 
     def walk(self, capture):
-        """Goes from the start with the capture on the clipboard to Exit in the start-up window."""
+        """The whole tour, from the start with the capture on the clipboard to Exit in the start-up window."""
         self.do("printer accept 2", f"clipboard {capture}", "start", "dump startup")
         window = self.visible[-1]
         if window != "startup":
@@ -118,8 +118,8 @@ class Tour(Replay):
         self.do("click startup Command2")
 
     def leave_and_come_back(self, window):
-        for way_out in (f"click {window} cmdExit", f"close {window}"):
-            self.do(way_out, "click startup Command1", f"dump {window}")
+        for exit_action in (f"click {window} cmdExit", f"close {window}"):
+            self.do(exit_action, "click startup Command1", f"dump {window}")
         self.do(f"clipboard {ANOTHER_SCREEN}")
         self.press(window, "cmdRefresh")
         if window in self.visible:
@@ -127,7 +127,7 @@ class Tour(Replay):
 
 
 def tours(program, top, capture):
-    """The tours with the capture, each with its directory, a new one below `top`, and with its exit status and errors."""
+    """The tours of the capture. Yields each with its new directory below `top`, and its exit status and error text."""
     left_out = set()
     while True:
         directory = working_directory(top / f"tour{len(left_out)}")

@@ -90,7 +90,7 @@ Lines randomBytes(Random& random, const Lines& lines)
     return split(text);
 }
 
-// Other figures, which keep their column's right edge or shift what stands behind them.
+// Replaces fields. Some replacements keep the right edge of the column, others shift the rest of the line.
 Lines wrongFields(Random& random, const Lines& lines)
 {
     static const Lines odd{
@@ -127,7 +127,7 @@ Lines shortLines(Random& random, const Lines& lines)
     return others;
 }
 
-Lines anotherScreenBehind(Random& random, const Lines& lines)
+Lines anotherScreenAfter(Random& random, const Lines& lines)
 {
     Lines others = lines;
     const Lines more = split(random.from(wholeCaptures()).bytes);
@@ -142,7 +142,7 @@ Lines farDown(Random& random, const Lines& lines)
     return others;
 }
 
-// A real clipboard hands no bare line feeds over, and the one in memory mends none.
+// Mends bare line feeds, as the desktop platform does and the platform in memory does not.
 std::string withLineEndsMended(const std::string& text)
 {
     std::string mended;
@@ -176,10 +176,10 @@ const std::vector<Capture>& wholeCaptures()
 
 std::string damaged(Random& random, const std::string& capture)
 {
-    // Wrong fields reach deepest: they come twice as often.
+    // Wrong fields get further into the program, so they occur twice as often.
     static const std::vector<Lines (*)(Random&, const Lines&)> damages{
-        cut,         fewLines,    shuffled,   withoutSome,         doubled, blankLines, randomBytes,
-        wrongFields, wrongFields, shortLines, anotherScreenBehind, farDown};
+        cut,         fewLines,    shuffled,   withoutSome,        doubled, blankLines, randomBytes,
+        wrongFields, wrongFields, shortLines, anotherScreenAfter, farDown};
     Lines lines = split(capture);
     for (std::size_t left = random.from(std::vector<std::size_t>{1, 1, 1, 2, 3}); left > 0; --left) {
         lines = random.from(damages)(random, lines);

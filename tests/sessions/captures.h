@@ -1,5 +1,4 @@
-// What may be on the clipboard: the captures of samples/, whole and damaged. Bytes of UTF-8, lines ended by
-// CR LF.
+// The captures of samples/, whole and damaged, as UTF-8 with CR LF line ends.
 #pragma once
 
 #include "sessions/random.h"
@@ -12,7 +11,7 @@ struct Capture {
     std::string name, bytes;
 };
 
-const std::vector<Capture>& wholeCaptures(); // in the order of their names
+const std::vector<Capture>& wholeCaptures(); // sorted by name
 
 std::string damaged(Random& random, const std::string& capture);
 

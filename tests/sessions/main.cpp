@@ -1,5 +1,5 @@
-// Random sessions and the soak, in the working directory, which should be an empty one. See the scripts run
-// and soak.
+// Random sessions and the soak test. They use the working directory, which should be empty. The scripts run
+// and soak start this program.
 #include "sessions/process.h"
 #include "sessions/walk.h"
 
@@ -26,11 +26,11 @@ void prepare()
 
 std::unique_ptr<replay::Stage> desktopStage()
 {
-    int none = 0; // the application is there already
+    int none = 0; // the QApplication exists already
     return replay::desktopStage(none, nullptr);
 }
 
-// The script once more, on the real widgets: they must tell the same story to the byte.
+// Plays the script again on the desktop platform, which must print exactly the same.
 void playAgain(const std::string& printed)
 {
     fs::current_path("../desktop");
@@ -51,7 +51,7 @@ void playAgain(const std::string& printed)
     mustBeEqual("the platforms differ", printed, again.str());
 }
 
-// Returns how it ended.
+// Returns how the session ended.
 std::string session(std::uint32_t seed, std::uint32_t number, int steps, bool both)
 {
     stillAlive();
@@ -69,8 +69,8 @@ std::string session(std::uint32_t seed, std::uint32_t number, int steps, bool bo
     return walk.end();
 }
 
-// Sessions FIRST to one below LAST, every EVERYth on both platforms (0: none), up to the first that goes
-// wrong. Prints how many ended in which way.
+// Plays the sessions from `first` to `last` - 1, and each `every`th one on both platforms (0: none), until
+// one fails. Prints the number of sessions by their end.
 int sessions(std::uint32_t seed, std::uint32_t first, std::uint32_t last, std::uint32_t every, int steps)
 {
     std::map<std::string, int> ends;
@@ -88,9 +88,9 @@ int sessions(std::uint32_t seed, std::uint32_t first, std::uint32_t last, std::u
     return status;
 }
 
-// Many actions in one session on the real widgets. What counts is the growth from a fifth of the way on to
-// the end; before, all windows have been gone through.
-int soak(std::uint32_t seed, int actions, double mostMegabytes)
+// Plays many actions in one session on the desktop. The growth counts from the first fifth of the actions to
+// the end; by then every window has been open.
+int soak(std::uint32_t seed, int actions, double maxMegabytes)
 {
     constexpr int parts = 10;
     const auto stage = desktopStage();
@@ -118,7 +118,7 @@ int soak(std::uint32_t seed, int actions, double mostMegabytes)
     const double memory = tenths.back().megabytes - early.megabytes;
     const long descriptors = tenths.back().descriptors - early.descriptors;
     std::cout << "Memory grew by " << memory << " MB, descriptors by " << descriptors << ".\n";
-    return memory > mostMegabytes || descriptors > 0 ? EXIT_FAILURE : EXIT_SUCCESS;
+    return memory > maxMegabytes || descriptors > 0 ? EXIT_FAILURE : EXIT_SUCCESS;
 }
 
 std::uint32_t natural(const char* word)
@@ -142,8 +142,8 @@ int main(int argc, char** argv)
     }
     std::cout << std::fixed << std::setprecision(1);
     prepare();
-    // The toolkit's application comes with it, for all sessions: to set one up takes longer than a session.
-    const auto ground = plotvue::replay::desktopStage(argc, argv);
+    // Creates the QApplication once for all sessions, because that takes longer than a session.
+    const auto application = plotvue::replay::desktopStage(argc, argv);
     if (isSoak)
         return soak(natural(argv[2]), std::stoi(argv[3]), std::stod(argv[4]));
     return sessions(natural(argv[2]), natural(argv[3]), natural(argv[4]), natural(argv[5]),

@@ -1,11 +1,11 @@
-// What the sessions ask of the process that plays them.
+// Functions for the process that plays the sessions, one implementation per operating system.
 #pragma once
 
 #include <string>
 
 namespace plotvue::sessions {
 
-// Ends the process when it is not called again within some time.
+// Must be called at intervals: the process ends if it is not called for 100 seconds.
 void stillAlive();
 
 struct Held {
@@ -15,7 +15,7 @@ struct Held {
 
 Held held();
 
-// The text as the clipboard of this system can hold it.
+// The part of the text that this system's clipboard can hold.
 std::string asClipboardHolds(std::string text);
 
 } // namespace plotvue::sessions

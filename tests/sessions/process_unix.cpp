@@ -9,7 +9,7 @@ namespace plotvue::sessions {
 
 void stillAlive()
 {
-    constexpr unsigned patience = 100; // seconds; then the alarm ends the process
+    constexpr unsigned patience = 100; // seconds, after which the alarm signal ends the process
     alarm(patience);
 }
 

@@ -3,7 +3,7 @@
 #include <iostream>
 // clang-format off
 #include <windows.h>
-#include <psapi.h> // which needs the one before it
+#include <psapi.h> // requires windows.h
 // clang-format on
 
 namespace plotvue::sessions {
@@ -38,7 +38,7 @@ Held held()
 
 std::string asClipboardHolds(std::string text)
 {
-    return text.substr(0, text.find('\0')); // there it ends
+    return text.substr(0, text.find('\0')); // Windows ends the text at a null character
 }
 
 } // namespace plotvue::sessions

@@ -1,4 +1,4 @@
-// Chance that comes out the same for the same seed, wherever it is built.
+// Random numbers that are the same for the same seed on every system.
 #pragma once
 
 #include <cstdint>
@@ -15,7 +15,8 @@ public:
         engine_.seed(both);
     }
 
-    // From 0 to one below the limit. The library's distributions differ from one library to the next.
+    // From 0 to `limit` - 1. Does not use std::uniform_int_distribution, whose results differ between
+    // standard libraries.
     std::size_t below(std::size_t limit) { return engine_() % limit; }
     std::size_t between(std::size_t first, std::size_t last) { return first + below(last - first + 1); }
     bool inPercent(unsigned share) { return below(100) < share; }

@@ -1,4 +1,4 @@
-// What must hold, whatever is copied and clicked.
+// Rules that must hold for every capture and every action.
 #include "capture/utf8.h"
 #include "sessions/walk.h"
 #include "support/owneronly.h"
@@ -26,9 +26,9 @@ void mustBePlain(TextSpan sentence)
 
 void mustBeEqual(const std::string& what, const std::string& one, const std::string& other)
 {
-    constexpr std::size_t most = 2000;
+    constexpr std::size_t maxLength = 2000;
     if (one != other)
-        throw Wrong(what + ":\n  " + one.substr(0, most) + "\n  " + other.substr(0, most));
+        throw Wrong(what + ":\n  " + one.substr(0, maxLength) + "\n  " + other.substr(0, maxLength));
 }
 
 void takeFiles(const std::string& directory)
@@ -76,13 +76,13 @@ void Walk::backThenDownIsTheSame(const std::string& window, const std::string& c
     const std::string chart = window + "A";
     play(clickRow);
     if (over() || !holds(loadedNow_, chart))
-        return; // it was open already and shows what it showed
+        return; // the chart window was open already and has not changed
     const std::string before = dumped(chart);
     play("click " + chart + " cmdBack");
     if (over() || !isVisible(chart))
         return; // the end of the list
     if (dumped(chart) == before)
-        throw Wrong("Back stays where it was: " + before);
+        throw Wrong("Back does not change the record: " + before);
     play("click " + chart + " cmdNext");
     if (!over())
         mustBeEqual("Back, then Down", before, dumped(chart));
@@ -92,7 +92,7 @@ void Walk::finish()
 {
     if (over())
         return;
-    std::map<std::string, const Form*> windows; // in the order of their names
+    std::map<std::string, const Form*> windows; // sorted by name
     for (const Form* window : player_.application().windows())
         windows.emplace(window->name(), window);
     for (const auto& [name, window] : windows) {

@@ -55,7 +55,7 @@ void Walk::heard(const Event& event)
 
 void Walk::play(const std::string& line)
 {
-    script_ << line << std::endl; // a crash is to find all of it
+    script_ << line << std::endl; // flushed, so that the script is complete after a crash
     loadedNow_.clear();
     shownNow_.clear();
     std::istringstream one(line);
@@ -140,7 +140,7 @@ void Walk::use(const std::string& window)
         return random_.inPercent(50) ? twiceRefreshedIsTheSame(window) : shownAgainIsTheSame(window);
     std::vector<Offer> all = offers(window);
     all.push_back({"close " + window});
-    // Left alone, the charts would step through the files of whichever list is opened next.
+    // Otherwise the chart window would step through the files of the next list.
     if (manner_.careful && isVisible(window + "A"))
         std::erase_if(all, [](const Offer& offer) { return !offer.front().starts_with("row"); });
     if (window == "startup") {

@@ -1,5 +1,5 @@
-// A random walk through the windows: only what a person could do at that moment, and the rules that hold on
-// the way.
+// A random walk through the windows. It takes only actions that are possible for the user, and checks rules
+// as it goes.
 #pragma once
 
 #include "replay/player.h"
@@ -11,38 +11,40 @@
 
 namespace plotvue::sessions {
 
-// Something that must hold does not.
+// A rule does not hold.
 struct Wrong : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-void mustBePlain(TextSpan sentence); // of an error report, and none about a mistake of the program's own
+// The sentence of an error report, which must not report an error in the program.
+void mustBePlain(TextSpan sentence);
 void mustBeEqual(const std::string& what, const std::string& one, const std::string& other);
 
-// The directory holds the small files at most, for their owner only; they are taken away.
+// Checks that the directory holds no files except the small files, readable only by their owner, and
+// deletes them.
 void takeFiles(const std::string& directory);
 
 class Walk {
 public:
     struct Manner {
-        bool careful = false;   // nothing is copied or clicked that could end the session
-        bool talkative = false; // every window that is used is dumped before
+        bool careful = false;   // takes no action that could end the session
+        bool talkative = false; // dumps each window before it uses it
     };
 
-    // Plays on the stage and writes the script down, line by line. Captures go to ../captures.
+    // Plays on the stage and writes each line to the script. Captures are saved in ../captures.
     Walk(replay::Stage& stage, const Random& random, std::ostream& script, Manner manner);
 
     void start();
-    void tour();   // once through all windows and their options, from the start-up window back to it
-    void step();   // one thing that a person could do, or a rule that is looked at
-    void finish(); // the windows are loaded and visible as the events told
+    void tour();   // visits all windows and options; starts and ends at the start-up window
+    void step();   // one possible action, or a check of a rule
+    void finish(); // checks that the loaded and visible windows match the events
 
     bool over() const { return stage_.platform().over(); }
-    std::string end() const { return end_; } // the last event's kind; "still alive"
-    std::string takePrinted();               // since it was last taken
+    std::string end() const { return end_; } // how the session ended, or "still alive"
+    std::string takePrinted();               // the output since the last call
 
 private:
-    using Offer = std::vector<std::string>; // the lines that one control offers
+    using Offer = std::vector<std::string>; // the possible script lines of one control
 
     void heard(const Event& event);
     void play(const std::string& line);
@@ -63,14 +65,15 @@ private:
     Manner manner_;
     std::ostringstream out_;
     replay::Player player_;
-    std::set<std::string> lists_, charts_;   // windows that a ranked or another screen opens; a row of a list
-                                             // opens the window with the name of the list and an A
-    std::set<std::string> loaded_, visible_; // by the events
-    std::vector<std::string> loadedNow_, shownNow_; // by the line played last
+    // lists_ holds the windows of the ranked analyses, charts_ those of all other screens. A row of a list
+    // opens the window whose name is that of the list with an A.
+    std::set<std::string> lists_, charts_;
+    std::set<std::string> loaded_, visible_;        // according to the events
+    std::vector<std::string> loadedNow_, shownNow_; // during the last played line
     std::string end_ = "still alive";
-    std::optional<Text> error_; // what the error report says
+    std::optional<Text> error_; // text of the error report
     int copied_ = 0;
-    bool whole_ = true; // everything copied so far
+    bool whole_ = true; // no damaged capture was copied so far
 };
 
 } // namespace plotvue::sessions

@@ -17,7 +17,7 @@ Chart twoSlots(std::vector<std::vector<double>> series)
 
 } // namespace
 
-TEST(ChartBars, StackNegativePartsDownwards)
+TEST(ChartBars, StackNegativeFiguresDownwards)
 {
     const Chart chart = twoSlots({{10, -10}, {30, -20}});
     const Layout layout = laidOut(chart, {}, {448, 260});
@@ -32,7 +32,7 @@ TEST(ChartBars, StackNegativePartsDownwards)
     EXPECT_EQ(layout.labels[0].name.box.top, 239) << "room for figures below the bars";
 }
 
-TEST(ChartBars, OfAGroupStandSideBySide)
+TEST(ChartBars, OfAGroupAreSideBySide)
 {
     Chart chart = twoSlots({{10, 20}, {30, 40}});
     const Layout layout = laidOut(chart, {ChartDesign::Bars::Grouped}, plot400x200);
@@ -50,7 +50,7 @@ TEST(ChartBars, OfAGroupStandSideBySide)
               "1/0 276,24 107x200 up end\n");
 }
 
-TEST(ChartBars, StandApartInGroupsWhenWiderThanSeven)
+TEST(ChartBars, HaveAGapInGroupsIfWiderThanSeven)
 {
     const Chart chart = twoSlots({{10, 20}, {30, 40}});
     for (const auto& [slotWidth, gap] : {std::pair(18, 0), std::pair(20, 1)}) { // 82 %: 7 each, 8 each
@@ -60,7 +60,7 @@ TEST(ChartBars, StandApartInGroupsWhenWiderThanSeven)
     }
 }
 
-TEST(ChartBars, OfUpToThreeSlotsMayBeWider)
+TEST(ChartBars, AreWiderInChartsOfUpToThreeSlots)
 {
     Chart chart = fourBars();
     EXPECT_EQ(laidOut(chart, {}, {42 + 4 * 200, 251}).bars[0].box.width, 6 * 12);
@@ -69,7 +69,7 @@ TEST(ChartBars, OfUpToThreeSlotsMayBeWider)
     EXPECT_EQ(laidOut(chart, {}, {42 + 3 * 200, 251}).bars[0].box.width, 9 * 12);
 }
 
-TEST(ChartBars, OfZeroInAGroupHaveTheirFigureAboveTheLine)
+TEST(ChartBars, OfZeroInAGroupHaveTheirFigureAboveTheZeroLine)
 {
     const Chart chart = twoSlots({{0, 20}, {30, 40}});
     const Layout layout = laidOut(chart, {ChartDesign::Bars::Grouped}, plot400x200);
@@ -85,7 +85,7 @@ TEST(ChartBars, OfLossesHangFromTheTop)
     EXPECT_EQ(layout.bars[0].box.top, layout.plot.top);
 }
 
-TEST(ChartBars, OfTheNewestMonthCarryTheProjection)
+TEST(ChartBars, OfTheNewestMonthHaveTheProjectionOnTop)
 {
     Chart chart = fourBars();
     chart.labels.back() = u"";
@@ -100,7 +100,7 @@ TEST(ChartBars, OfTheNewestMonthCarryTheProjection)
                                       "40 @ 274,10.5 12x12\n");
 }
 
-TEST(ChartBars, HaveFiguresOnlyWhereAllFit)
+TEST(ChartBars, HaveFiguresOnlyIfAllFit)
 {
     Chart chart = fourBars();
     chart.series = {{10, 20, 30, 123456789}};
@@ -109,7 +109,7 @@ TEST(ChartBars, HaveFiguresOnlyWhereAllFit)
     EXPECT_TRUE(laidOut(chart, {}, {left + 4 * 69 + 12, 251}).values.empty());
 }
 
-TEST(ChartBars, OfComponentsHaveTheirLegendBelow)
+TEST(ChartBars, OfComponentsHaveTheirNamesBelow)
 {
     Chart chart;
     chart.decimals = 0;
@@ -125,7 +125,7 @@ TEST(ChartBars, OfComponentsHaveTheirLegendBelow)
     EXPECT_TRUE(layout.legend.empty());
 }
 
-TEST(ChartBars, OfAComponentThatIsZeroAreFlat)
+TEST(ChartBars, OfAComponentOfZeroAreFlat)
 {
     Chart chart;
     chart.decimals = 0;
@@ -141,7 +141,7 @@ TEST(ChartBars, OfAComponentThatIsZeroAreFlat)
     EXPECT_GT(layout.bars[0].box.width, 20);
     EXPECT_EQ(layout.bars[1].box.top, layout.zero);
 
-    chart.labels = {u"A"}; // two series at one point, no components
+    chart.labels = {u"A"}; // a labelled slot with two series, which are not components
     EXPECT_EQ(laidOut(chart, {}, {448, 260}).bars.size(), 1U);
 }
 

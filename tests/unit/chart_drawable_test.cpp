@@ -4,23 +4,23 @@
 
 namespace plotvue::chart {
 
-TEST(ChartDrawable, LeavesControlCharactersOut)
+TEST(ChartDrawable, RemovesControlCharacters)
 {
     EXPECT_EQ(drawable(u" OC\tT99\r\n"), u"OCT99");
     EXPECT_EQ(drawable(u"a\u0085\u2028b"), u"ab");
-    EXPECT_EQ(drawable(u"a\u007Fb\u00A0c"), u"ab\u00A0c") << "a blank that must not break is none of them";
+    EXPECT_EQ(drawable(u"a\u007Fb\u00A0c"), u"ab\u00A0c") << "a no-break space is not a control character";
     EXPECT_TRUE(drawable(u"\r").empty());
     EXPECT_TRUE(isBlank(u" \r"));
     EXPECT_FALSE(isBlank(u" x"));
     EXPECT_EQ(drawable(Text(100000, u'x')).size(), 500U);
 }
 
-TEST(ChartDrawable, CutsNoPairInTwo)
+TEST(ChartDrawable, DoesNotSplitSurrogatePairs)
 {
     const auto width = [](TextSpan text) { return 6.0 * static_cast<double>(text.size()); };
     EXPECT_EQ(drawable(Text(499, u'x') + u"\U0001F600"), Text(499, u'x'));
     EXPECT_EQ(drawable(Text(498, u'x') + u"\U0001F600!"), Text(498, u'x') + u"\U0001F600");
-    // With the first and the last of the halves that there are.
+    // Includes the first and the last code point that needs a surrogate pair.
     for (const TextSpan pair : {u"\U00010000", u"\U0001F600", u"\U0010FFFF"}) {
         const Text text = u"a" + Text(pair) + u"bcd";
         EXPECT_EQ(elided(text, 18, width), u"a\u2026");
@@ -28,7 +28,7 @@ TEST(ChartDrawable, CutsNoPairInTwo)
     }
 }
 
-TEST(ChartDrawable, ElidesToTheRoom)
+TEST(ChartDrawable, ElidesToTheWidth)
 {
     const auto width = [](TextSpan text) { return 6.0 * static_cast<double>(text.size()); };
     EXPECT_EQ(elided(u"Long title", 60, width), u"Long title");

@@ -1,5 +1,5 @@
-// A chart in a type of which every line is 12 high and every character 6 wide, in tiny type 5, in medium and
-// large titles 7 and 8.
+// Layouts with fixed text metrics: every line is 12 high, and every character is 6 wide, or 5 in
+// TextRole::Tiny, 7 in MediumTitle and 8 in LargeTitle.
 #pragma once
 
 #include "chart/layout.h"
@@ -37,7 +37,8 @@ inline Chart fourBars()
     return chart;
 }
 
-inline constexpr Size plot400x200{442, 251}; // with ticks of two digits and nothing above
+// Paper for a plot of 400 x 200, with ticks of two digits and no titles.
+inline constexpr Size plot400x200{442, 251};
 
 inline std::string narrow(TextSpan text)
 {

@@ -28,9 +28,9 @@ std::string slotsLabelled(const Layout& layout)
 
 } // namespace
 
-TEST(ChartLabels, AreSetInTinyTypeOrTwoLinesBeforeOneIsLeftOut)
+TEST(ChartLabels, AreMadeSmallerOrBrokenBeforeTheyAreThinned)
 {
-    // 30 wide, in tiny type 25; the name of the month alone 18 and 15.
+    // A label is 30 wide, or 25 in TextRole::Tiny; the name of its month is 18 or 15 wide.
     const Chart chart = bars(std::vector<Text>(12, u"OCT98"));
     struct Expected {
         int slotWidth;
@@ -54,7 +54,7 @@ TEST(ChartLabels, AreSetInTinyTypeOrTwoLinesBeforeOneIsLeftOut)
     const Layout broken = laidOut(chart, {}, {42.0 + 12 * 22, 251});
     EXPECT_EQ(describe(broken.labels[0].name), "OCT @ 32,218 18x12");
     EXPECT_EQ(describe(broken.labels[1].name), "98 @ 35,230 12x12");
-    EXPECT_EQ(broken.plot.bottom(), 212) << "a line higher than over one line";
+    EXPECT_EQ(broken.plot.bottom(), 212) << "one line higher than with labels of one line";
 }
 
 TEST(ChartLabels, AreThinnedToEverySecondThirdFourthSixthTwelfth)
@@ -75,14 +75,14 @@ TEST(ChartLabels, AreThinnedToEverySecondThirdFourthSixthTwelfth)
     EXPECT_FALSE(laidOut(chart, {}, {242, 251}).slanted);
 }
 
-TEST(ChartLabels, WithAYearEachAreThinnedBeyondAYear)
+TEST(ChartLabels, WithAYearEachMayHaveStepsOfMoreThanAYear)
 {
     const Chart chart = bars(std::vector<Text>(25, u"OCT98"));
     EXPECT_EQ(slotsLabelled(laidOut(chart, {}, {42 + 25 * 3, 251})), "0 12 24");
     EXPECT_EQ(slotsLabelled(laidOut(chart, {}, {42 + 25 * 2, 251})), "0 24");
 }
 
-// From a November to a December two years later.
+// From November to the December two years later.
 std::vector<Text> twoYears()
 {
     std::vector<Text> labels{u"NOV", u"DEC"};
@@ -93,7 +93,7 @@ std::vector<Text> twoYears()
     return labels;
 }
 
-TEST(ChartLabels, KeepEveryJanuaryAndRuleTheYears)
+TEST(ChartLabels, KeepEveryJanuaryAndHaveLinesBetweenTheYears)
 {
     const Layout layout = laidOut(bars(twoYears()), {}, {42 + 26 * 6, 251});
     EXPECT_EQ(describeLabels(layout), "2 J99\n6 FEB weak\n10 FEB weak\n14 J00\n18 FEB weak\n22 FEB weak\n");
@@ -101,7 +101,7 @@ TEST(ChartLabels, KeepEveryJanuaryAndRuleTheYears)
     EXPECT_EQ(slotsLabelled(laidOut(bars(twoYears()), {}, {42 + 26 * 1, 251})), "2 14");
 }
 
-TEST(ChartLabels, BesideJanuariesAreSetAsInitialsBeforeOneIsLeftOut)
+TEST(ChartLabels, BetweenJanuariesBecomeInitialsBeforeTheyAreThinned)
 {
     std::string initials = "0 N weak\n1 D weak\n";
     for (const auto& [january, year] : {std::pair(2, "99"), std::pair(14, "00")}) {
@@ -109,7 +109,7 @@ TEST(ChartLabels, BesideJanuariesAreSetAsInitialsBeforeOneIsLeftOut)
         for (int month = january + 1; month < january + 12; ++month)
             initials += std::to_string(month) + " F weak\n";
     }
-    // An initial is 6 wide, in tiny type 5, and 1.2 are between two.
+    // An initial is 6 wide, or 5 in TextRole::Tiny; the minimum gap is 1.2.
     for (const auto& [slotWidth, role] : {std::pair(8, TextRole::Small), std::pair(7, TextRole::Tiny)}) {
         const Layout layout = laidOut(bars(twoYears()), {}, {42.0 + 26 * slotWidth, 251});
         EXPECT_EQ(describeLabels(layout), initials) << slotWidth;
@@ -117,28 +117,28 @@ TEST(ChartLabels, BesideJanuariesAreSetAsInitialsBeforeOneIsLeftOut)
         EXPECT_EQ(layout.yearRules.size(), 2U);
     }
     const Layout layout = laidOut(bars(twoYears()), {}, {42 + 26 * 9, 251});
-    EXPECT_EQ(layout.plot.bottom(), 212) << "a line higher than over one line";
+    EXPECT_EQ(layout.plot.bottom(), 212) << "one line higher than with labels of one line";
     EXPECT_EQ(describe(layout.labels[2].name), "J @ 49.5,218 6x12");
     EXPECT_EQ(describe(layout.labels[3].name), "99 @ 46.5,230 12x12");
 }
 
-TEST(ChartLabels, WithAYearEachAreNoCalendarThoughOneLacksIts)
+TEST(ChartLabels, WithAYearInAllButOneAreNotOfWholeYears)
 {
     std::vector<Text> labels(12, u"O98");
     labels[3] = u"XXX";
     const Layout layout = laidOut(bars(labels), {}, {42 + 12 * 12, 251});
     EXPECT_TRUE(layout.yearRules.empty());
-    EXPECT_EQ(layout.labels.size(), 6U) << "two figures are as wide as the slot: every second";
+    EXPECT_EQ(layout.labels.size(), 6U) << "two digits are as wide as a slot: every second label";
 }
 
-TEST(ChartLabels, RuleNoYearBeforeTheFirstMonth)
+TEST(ChartLabels, HaveNoLineBeforeTheFirstMonth)
 {
     const Layout layout = laidOut(bars({u"J98", u"FEB", u"MAR"}), {}, {442, 251});
     EXPECT_EQ(describeLabels(layout), "0 J98\n1 FEB weak\n2 MAR weak\n");
     EXPECT_TRUE(layout.yearRules.empty());
 }
 
-TEST(ChartLabels, KeepTheJanuaryThatTheyBeginWith)
+TEST(ChartLabels, KeepAJanuaryInTheFirstSlot)
 {
     std::vector<Text> labels{u"J98"};
     labels.insert(labels.end(), 11, u"FEB");
@@ -151,14 +151,14 @@ TEST(ChartLabels, KeepTheJanuaryThatTheyBeginWith)
     EXPECT_EQ(slotsLabelled(laidOut(bars(labels), {}, {42 + 25 * 1, 251})), "0 12 24");
 }
 
-TEST(ChartLabels, RuleNoYearsWhereEveryLabelHasItsYear)
+TEST(ChartLabels, HaveNoLinesBetweenYearsIfEveryLabelHasAYear)
 {
     EXPECT_TRUE(laidOut(bars({u"D98", u"J99", u""}), {}, {442, 251}).yearRules.empty());
     const ChartDesign names{ChartDesign::Bars::Stacked, ChartDesign::Labels::Names};
     EXPECT_TRUE(laidOut(bars({u"SMITH", u"UNIT 7"}), names, {442, 251}).yearRules.empty());
 }
 
-TEST(ChartLabels, OfNamesAreSlantedNotThinned)
+TEST(ChartLabels, OfNamesAreSlantedInsteadOfThinned)
 {
     const ChartDesign names{ChartDesign::Bars::Stacked, ChartDesign::Labels::Names};
     const Chart chart = bars({u"ABCDEFGHIJKLMNOP", u"B", u"C", u"D"}); // 96 wide
@@ -171,11 +171,11 @@ TEST(ChartLabels, OfNamesAreSlantedNotThinned)
     EXPECT_EQ(layout.labels[0].name.box.top, layout.plot.bottom() + 6);
 }
 
-TEST(ChartLabels, SlantedAreThinnedBeforeTheyOverlap)
+TEST(ChartLabels, IfSlantedAreThinnedBeforeTheyOverlap)
 {
     const ChartDesign names{ChartDesign::Bars::Stacked, ChartDesign::Labels::Names};
     const Chart chart = bars(std::vector<Text>(6, u"ABCDEFGHIJKL"));
-    // Three quarters of a line, 9, lie between slanted labels whose slots are 12.7 apart.
+    // Slanted labels need a distance of 9, three quarters of a line, which slots 12.7 wide provide.
     const std::pair<int, const char*> expected[] = {
         {13, "0 1 2 3 4 5"}, {12, "0 2 4"}, {7, "0 2 4"}, {6, "0 3"}};
     for (const auto& [slotWidth, labels] : expected) {
@@ -185,21 +185,22 @@ TEST(ChartLabels, SlantedAreThinnedBeforeTheyOverlap)
     }
 }
 
-TEST(ChartLabels, SlantedHaveTheRoomBelowThatTheLongestNeeds)
+TEST(ChartLabels, IfSlantedHaveTheHeightOfTheLongest)
 {
     const ChartDesign names{ChartDesign::Bars::Stacked, ChartDesign::Labels::Names};
-    const Size paper{42 + 4 * 50, 251}; // 242 down to the edge
-    // 60 wide, so 42.4 deep, half a line for the height of the type and half a line above.
+    const Size paper{42 + 4 * 50, 251}; // of which 242 lie above the bottom margin
+    // The label is 60 wide, so it is 42.4 high; add half a line for the height of its text and half a line
+    // above.
     EXPECT_EQ(laidOut(bars({u"ABCDEFGHIJ", u"B", u"C", u"D"}), names, paper).plot.bottom(), 188);
-    // Never deeper than 22 % of the paper, 55.2.
+    // The maximum height is 22 % of the paper, 55.2.
     EXPECT_EQ(laidOut(bars({u"ABCDEFGHIJKLMNOP", u"B", u"C", u"D"}), names, paper).plot.bottom(), 175);
 }
 
-TEST(ChartLabels, SlantedStopBeforeTheLeftEdge)
+TEST(ChartLabels, IfSlantedEndBeforeTheLeftEdge)
 {
     const ChartDesign names{ChartDesign::Bars::Stacked, ChartDesign::Labels::Names};
     const Layout layout = laidOut(bars(std::vector<Text>(23, u"ABCDEFGHIJKL")), names, {42 + 23 * 20, 251});
-    // Its end stands at 43, so 40 / sin 45 degrees are left of it: nine characters.
+    // It ends at x = 43, so it may be 40 / sin 45 degrees long: nine characters.
     EXPECT_EQ(describeLabels(layout).substr(0, 12), "0 ABCDEFGH~\n");
     EXPECT_EQ(narrow(layout.labels[22].name.text), "ABCDEFGHIJKL");
 }

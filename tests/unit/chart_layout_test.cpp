@@ -6,7 +6,7 @@
 
 namespace plotvue::chart {
 
-TEST(ChartLayout, StandsToThePixel)
+TEST(ChartLayout, IsExactToThePixel)
 {
     const Layout layout = laidOut(fourBars(), {}, plot400x200);
     EXPECT_EQ(describe(layout.plot), "30,24 400x200");
@@ -38,7 +38,7 @@ TEST(ChartLayout, SnapsToDevicePixelsOnTheScreenOnly)
         for (const Bar& bar : laidOut(chart, {}, {451, 263}, scale).bars)
             for (const double edge : {bar.box.left, bar.box.right(), bar.box.top, bar.box.bottom()})
                 EXPECT_NEAR(edge * scale, std::round(edge * scale), 1e-9) << scale;
-    // Bars take 70 % of a slot: 71.575, less what is no whole device pixel.
+    // A bar is 70 % of a slot wide, 71.575, rounded down to whole device pixels.
     EXPECT_EQ(laidOut(chart, {}, {451, 263}, 1).bars[0].box.width, 71);
     EXPECT_EQ(laidOut(chart, {}, {451, 263}, 2).bars[0].box.width, 71.5);
     EXPECT_EQ(describe(laidOut(fourBars(), {}, plot400x200, 2).plot), "30,24 400x200");
@@ -51,7 +51,7 @@ TEST(ChartLayout, SnapsToDevicePixelsOnTheScreenOnly)
 
 TEST(ChartLayout, AStepIsAtLeastThreeAndAHalfLinesHigh)
 {
-    // Below the heading there are 16 lines, two of them for the labels: room for four steps.
+    // The heading leaves 16 lines, and the labels take two of them: room for four steps.
     EXPECT_EQ(laidOut(fourBars(), {}, {442, 225}).ticks.size(), 5U);
     EXPECT_EQ(laidOut(fourBars(), {}, {442, 224}).ticks.size(), 3U);
 }
@@ -60,7 +60,7 @@ TEST(ChartLayout, TheAxisTakesAtMostHalfOfTheWidth)
 {
     Chart chart = fourBars();
     chart.series = {{10, 20, 30, 123456789}};
-    // The axis has 38 of 76, and half a line parts it from the bars.
+    // The axis takes 38 of 76; half a line separates it from the bars.
     EXPECT_EQ(describe(laidOut(chart, {}, {100, 251}).plot), "56,24 32x200");
 }
 
@@ -78,7 +78,7 @@ TEST(ChartLayout, LeavesAGapForTheEmptySlotAtTheEnd)
     EXPECT_EQ(layout.slotAt(330, 100), -1);
 }
 
-TEST(ChartLayout, TheWholeSlotIsTheTarget)
+TEST(ChartLayout, FindsAPointAnywhereInItsSlot)
 {
     const Layout layout = laidOut(fourBars(), {}, plot400x200);
     EXPECT_EQ(layout.slotAt(29, 100), -1);
@@ -92,7 +92,7 @@ TEST(ChartLayout, TheWholeSlotIsTheTarget)
     EXPECT_EQ(layout.slotAt(200, 251), -1);
 }
 
-TEST(ChartLayout, KeepsAForcedAxisAsFarAsEveryBarIsWhole)
+TEST(ChartLayout, KeepsAForcedAxisEndUnlessItCutsABar)
 {
     Chart chart = fourBars();
     chart.axisMax = 80;
@@ -107,11 +107,11 @@ TEST(ChartLayout, KeepsAForcedAxisAsFarAsEveryBarIsWhole)
     }
 }
 
-TEST(ChartLayout, ACreditHidesNoOtherPartOfItsStack)
+TEST(ChartLayout, ANegativeFigureHidesNoOtherPartOfItsStack)
 {
     Chart chart = fourBars();
     chart.series = {{10600, 0, 0, 0}, {-6000, 0, 0, 0}};
-    chart.axisMax = 4600; // what is owed in all
+    chart.axisMax = 4600; // the total owed
     const Layout layout = laidOut(chart, {}, plot400x200);
     EXPECT_GE(layout.scale.max, 10600);
     EXPECT_LE(layout.scale.min, -6000);
@@ -120,7 +120,7 @@ TEST(ChartLayout, ACreditHidesNoOtherPartOfItsStack)
     EXPECT_EQ(layout.bars[1].box.bottom(), layout.snapped(layout.y(-6000)));
 }
 
-TEST(ChartLayout, WithoutDataThereAreOnlyTitles)
+TEST(ChartLayout, HasOnlyTitlesWithoutData)
 {
     Chart chart;
     chart.titles = {{2, u"No figures"}};
@@ -131,7 +131,7 @@ TEST(ChartLayout, WithoutDataThereAreOnlyTitles)
     EXPECT_TRUE(laidOut({}, {}, plot400x200).titles.empty());
 }
 
-TEST(ChartLayout, StaysFiniteOnAnyPaperWithAnyFigures)
+TEST(ChartLayout, IsFiniteOnAnyPaperWithAnyFigures)
 {
     Chart chart = fourBars();
     const double infinity = std::numeric_limits<double>::infinity();

@@ -22,7 +22,7 @@ Chart newestMonthProjected()
 
 } // namespace
 
-TEST(ChartPlotData, ReadAPointOut)
+TEST(ChartPlotData, ReadsAPointOut)
 {
     const Chart chart = newestMonthProjected();
     const PlotData data(chart);
@@ -32,7 +32,7 @@ TEST(ChartPlotData, ReadAPointOut)
     EXPECT_TRUE(data.sentence(-1).empty());
 }
 
-TEST(ChartPlotData, TheEmptySlotAtTheEndIsNoPoint)
+TEST(ChartPlotData, AnEmptySlotAtTheEndIsNotAPoint)
 {
     Chart chart = newestMonthProjected();
     EXPECT_EQ(PlotData(chart).slotCount(), 3);
@@ -54,13 +54,13 @@ TEST(ChartPlotData, TheSmallestChartWithAnEmptySlotAtTheEndHasOnePoint)
     chart.labels = {u"OCT99", u""};
     EXPECT_EQ(PlotData(chart).pointCount(), 1);
     chart.labels = {};
-    EXPECT_EQ(PlotData(chart).pointCount(), 2) << "without labels none is missing";
+    EXPECT_EQ(PlotData(chart).pointCount(), 2) << "without labels no slot is left out";
     chart.series = {{0}};
     chart.labels = {u""};
-    EXPECT_EQ(PlotData(chart).pointCount(), 1) << "an only slot is no end";
+    EXPECT_EQ(PlotData(chart).pointCount(), 1) << "a single slot is never left out";
 }
 
-TEST(ChartPlotData, ASlotBehindTheLastLabelHasNone)
+TEST(ChartPlotData, ASlotAfterTheLastLabelHasNoLabel)
 {
     Chart chart;
     chart.series = {{1, 2}};
@@ -71,7 +71,7 @@ TEST(ChartPlotData, ASlotBehindTheLastLabelHasNone)
     EXPECT_EQ(narrow(PlotData(chart).sentence(1)), "2");
 }
 
-TEST(ChartPlotData, AProjectionOfNothingIsAbsent)
+TEST(ChartPlotData, AProjectionOfZerosIsLeftOut)
 {
     Chart chart = newestMonthProjected();
     EXPECT_TRUE(PlotData(chart).legendTellsSomething());
@@ -81,7 +81,7 @@ TEST(ChartPlotData, AProjectionOfNothingIsAbsent)
     EXPECT_FALSE(data.legendTellsSomething());
 }
 
-TEST(ChartPlotData, AHiddenSeriesIsAbsentAndTakesNoColourAway)
+TEST(ChartPlotData, AHiddenSeriesIsLeftOutAndKeepsItsColour)
 {
     Chart chart;
     chart.series = {{1}, {2}, {3}};
@@ -95,7 +95,7 @@ TEST(ChartPlotData, AHiddenSeriesIsAbsentAndTakesNoColourAway)
     EXPECT_EQ(reachOf(data), (Range{0, 4}));
 }
 
-TEST(ChartPlotData, AProjectionHasTheColourOfWhatItProjects)
+TEST(ChartPlotData, AProjectionHasTheColourOfTheProjectedSeries)
 {
     Chart chart = newestMonthProjected();
     chart.series.push_back({5, 5, 0});
@@ -110,11 +110,11 @@ TEST(ChartPlotData, AProjectionHasTheColourOfWhatItProjects)
     chart.colours[1] = {4, 5, 6};
     const PlotData coloured(chart);
     EXPECT_EQ(coloured.series()[1].colour, (Colour{4, 5, 6}));
-    EXPECT_FALSE(coloured.series()[2].ownColour) << "it projects nothing";
+    EXPECT_FALSE(coloured.series()[2].ownColour) << "it is not a projection";
     EXPECT_EQ(coloured.series()[2].colour, (Colour{0xDB, 0x9A, 0x35}));
 }
 
-TEST(ChartPlotData, ANameIsTheLegendThenTheDesignsThenTheFirstTitle)
+TEST(ChartPlotData, ANameIsTheLegendElseTheDesignsElseTheFirstTitle)
 {
     Chart chart;
     chart.titles = {{1, u"Paid/Lost"}};
@@ -128,7 +128,7 @@ TEST(ChartPlotData, ANameIsTheLegendThenTheDesignsThenTheFirstTitle)
     EXPECT_EQ(data.series()[2].name, u"Paid/Lost");
 }
 
-TEST(ChartPlotData, TheLegendTellsSomethingFromTwoNamesOn)
+TEST(ChartPlotData, HasALegendFromTwoNamesOn)
 {
     Chart chart;
     chart.series = {{1, 2}, {3, 4}};
@@ -142,7 +142,7 @@ TEST(ChartPlotData, TheLegendTellsSomethingFromTwoNamesOn)
     EXPECT_FALSE(PlotData(chart).legendTellsSomething());
 }
 
-TEST(ChartPlotData, AGroupThatTheScreenDoesNotHaveIsLeftOut)
+TEST(ChartPlotData, ASeriesWithoutNameAndFiguresIsLeftOut)
 {
     Chart chart;
     chart.series = {{1, 2}, {3, 4}, {0, 0}};
@@ -171,7 +171,7 @@ TEST(ChartPlotData, SeriesOfOnePointWithoutLabelsAreComponents)
     EXPECT_FALSE(PlotData(chart).components());
 }
 
-TEST(ChartPlotData, ASeriesAloneHasNoneToBeComparedWith)
+TEST(ChartPlotData, ASingleSeriesIsNotAComponent)
 {
     Chart chart;
     chart.series = {{4.25}, {-2.5}};
@@ -183,7 +183,7 @@ TEST(ChartPlotData, ASeriesAloneHasNoneToBeComparedWith)
     EXPECT_EQ(narrow(data.sentence(0)), "Volume 4.25");
 }
 
-TEST(ChartPlotData, AComponentThatTheScreenDoesNotHaveTakesNoSlot)
+TEST(ChartPlotData, AComponentWithoutNameAndFiguresHasNoSlot)
 {
     Chart chart;
     chart.series = {{4}, {0}, {3}};
@@ -194,7 +194,7 @@ TEST(ChartPlotData, AComponentThatTheScreenDoesNotHaveTakesNoSlot)
     EXPECT_TRUE(data.label(2).empty());
 }
 
-TEST(ChartPlotData, WhatIsNoNumberIsBroughtIntoWhatCanBeAddedUp)
+TEST(ChartPlotData, NonFiniteFiguresBecomeFinite)
 {
     const double infinity = std::numeric_limits<double>::infinity();
     Chart chart;
@@ -207,7 +207,7 @@ TEST(ChartPlotData, WhatIsNoNumberIsBroughtIntoWhatCanBeAddedUp)
     EXPECT_FALSE(data.value(1, 2));
 }
 
-TEST(ChartPlotData, JoinTheTitles)
+TEST(ChartPlotData, JoinsTheTitles)
 {
     Chart chart = newestMonthProjected();
     EXPECT_EQ(narrow(titlesInOneLine(chart)), "Sales, Product: 4711");

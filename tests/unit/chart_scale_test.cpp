@@ -28,7 +28,7 @@ Scale own(double low, double high, std::optional<int> decimals, int steps = 5)
 
 } // namespace
 
-TEST(ChartScale, TakesTheFirstStepThatIsWideEnough)
+TEST(ChartScale, TakesTheFirstStepThatIsLargeEnough)
 {
     EXPECT_EQ(ticks(own(0, 5, 0)), "0 1 2 3 4 5");
     EXPECT_EQ(ticks(own(0, 9, 0)), "0 2 4 6 8 10");
@@ -37,17 +37,17 @@ TEST(ChartScale, TakesTheFirstStepThatIsWideEnough)
     EXPECT_EQ(ticks(own(0, 390, 0)), "0 100 200 300 400");
 }
 
-TEST(ChartScale, StepsAreWhatTheDecimalsCanWrite)
+TEST(ChartScale, HasOnlyStepsThatTheDecimalsCanWrite)
 {
     EXPECT_EQ(ticks(own(0, 12, 0)), "0 5 10 15");
     EXPECT_EQ(ticks(own(0, 12, 1)), "0.0 2.5 5.0 7.5 10.0 12.5");
     EXPECT_EQ(ticks(own(0, 0.4, 0)), "0 1");
     EXPECT_EQ(ticks(own(0, 1.2, 1)), "0.0 0.5 1.0 1.5");
     EXPECT_EQ(ticks(own(0, 1.2, 2)), "0.00 0.25 0.50 0.75 1.00 1.25");
-    EXPECT_EQ(own(0, 5e6, 5).ticks.size(), 6U) << "however many of the smallest steps a step holds";
+    EXPECT_EQ(own(0, 5e6, 5).ticks.size(), 6U) << "a step may be many times the smallest one";
 }
 
-TEST(ChartScale, WithoutDecimalsGivenShowsAsManyAsTheStepsNeed)
+TEST(ChartScale, HasTheDecimalsThatItsStepsNeedIfNoneAreGiven)
 {
     EXPECT_EQ(ticks(own(0, 12, {})), "0.0 2.5 5.0 7.5 10.0 12.5");
     EXPECT_EQ(ticks(own(0, 1.2, {})), "0.00 0.25 0.50 0.75 1.00 1.25");
@@ -55,14 +55,14 @@ TEST(ChartScale, WithoutDecimalsGivenShowsAsManyAsTheStepsNeed)
     EXPECT_EQ(ticks(own(0, 450000, {})), "0 100,000 200,000 300,000 400,000 500,000");
 }
 
-TEST(ChartScale, ReachesBelowZero)
+TEST(ChartScale, ExtendsBelowZero)
 {
     EXPECT_EQ(ticks(own(-30, 40, 0, 4)), "-40 -20 0 20 40");
     EXPECT_EQ(ticks(own(-7, 0, 0)), "-8 -6 -4 -2 0");
     EXPECT_FALSE(std::signbit(own(-7, 0, 0).ticks.back()));
 }
 
-TEST(ChartScale, ReachesAsFarAsStacksOrTheLongestOfABunchEachWay)
+TEST(ChartScale, ExtendsToTheEndsOfStacksOrOfTheLongestBarsOfAGroup)
 {
     Chart chart;
     chart.series = {{-5, 3}, {10, -7}, {0, 0}, {4, -2}};
@@ -72,7 +72,7 @@ TEST(ChartScale, ReachesAsFarAsStacksOrTheLongestOfABunchEachWay)
     EXPECT_EQ(reachOf(PlotData(chart)), (Range{-7, 10}));
 }
 
-TEST(ChartScale, WithoutAnyFigureEndsAtOne)
+TEST(ChartScale, EndsAtOneWithoutFigures)
 {
     EXPECT_EQ(ticks(own(0, 0, {})), "0 1");
     EXPECT_EQ(ticks(own(0, 0, 2)), "0.00 1.00");
@@ -89,7 +89,7 @@ TEST(ChartScale, KeepsGivenEnds)
     EXPECT_EQ(scaleFor({0, 1e9}, {{}, 1e9 + 5, 0, 5}).max, 1e9 + 5);
 }
 
-TEST(ChartScale, AnEndThatWouldHideABarIsNotKept)
+TEST(ChartScale, IgnoresAnEndThatWouldCutABar)
 {
     EXPECT_EQ(ticks(scaleFor({-6000, 10600}, {{}, 4600, 0, 5})), "-10,000 -5,000 0 5,000 10,000 15,000");
     const Scale high = scaleFor({0, 21}, {0, 20, 0, 5});
@@ -97,11 +97,11 @@ TEST(ChartScale, AnEndThatWouldHideABarIsNotKept)
     EXPECT_EQ(high.max, 25);
     const Scale low = scaleFor({-6, 20}, {-5, 40, 0, 5});
     EXPECT_EQ(low.min, -10);
-    EXPECT_EQ(low.max, 40) << "the other end stays";
-    EXPECT_EQ(scaleFor({0, 20}, {5, {}, 0, 5}).min, 0) << "where every bar begins";
+    EXPECT_EQ(low.max, 40) << "the other end is kept";
+    EXPECT_EQ(scaleFor({0, 20}, {5, {}, 0, 5}).min, 0) << "every bar begins at 0";
 }
 
-TEST(ChartScale, AMaximumNotAboveTheMinimumLeavesTheAxisToItself)
+TEST(ChartScale, IgnoresBothEndsIfTheMaximumIsNotAboveTheMinimum)
 {
     EXPECT_EQ(ticks(scaleFor({0, 20}, {{}, 0, 0, 4})), "0 5 10 15 20");
     EXPECT_EQ(ticks(scaleFor({0, 20}, {8, 8, 0, 4})), "0 5 10 15 20");
@@ -111,7 +111,7 @@ TEST(ChartScale, AMaximumNotAboveTheMinimumLeavesTheAxisToItself)
     EXPECT_EQ(allNegative.min, -20);
 }
 
-TEST(ChartScale, AnEndThatIsNotFiniteIsNone)
+TEST(ChartScale, IgnoresAnEndThatIsNotFinite)
 {
     const double infinity = std::numeric_limits<double>::infinity();
     EXPECT_EQ(ticks(scaleFor({0, 20}, {{}, infinity, 0, 4})), "0 5 10 15 20");
@@ -119,7 +119,7 @@ TEST(ChartScale, AnEndThatIsNotFiniteIsNone)
     EXPECT_EQ(ticks(scaleFor({0, 20}, {std::nan(""), {}, 0, 4})), "0 5 10 15 20");
 }
 
-TEST(ChartScale, SurvivesWhatNoScreenShows)
+TEST(ChartScale, SurvivesExtremeFigures)
 {
     const double infinity = std::numeric_limits<double>::infinity();
     for (const Range reach :
@@ -158,7 +158,7 @@ TEST(ChartFigureText, CountsTheDecimalsNeeded)
     EXPECT_EQ(decimalsNeeded(1.0 / 3, 2), 2);
 }
 
-TEST(ChartFigureText, WritesNoDecimalsOfWhatRoundingLeftOver)
+TEST(ChartFigureText, NeedsNoDecimalsForRoundingErrors)
 {
     const double nothing = 0.3 - 0.1 - 0.2, large = 1500000000 * 1.1;
     ASSERT_NE(nothing, 0);

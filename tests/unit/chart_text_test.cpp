@@ -34,7 +34,7 @@ std::string describeLegend(const Layout& layout)
 
 } // namespace
 
-TEST(ChartTitles, StandBelowEachOther)
+TEST(ChartTitles, AreBelowEachOther)
 {
     Chart chart;
     chart.titles = {{1, u"Sales"}, {2, u"Product: 4711\r"}, {3, u"WH: 1"}, {4, u"nowhere"}};
@@ -47,17 +47,17 @@ TEST(ChartTitles, StandBelowEachOther)
     EXPECT_EQ(layout.titles[2].role, TextRole::Body);
 }
 
-TEST(ChartTitles, LeaveNoGapWhenAbsent)
+TEST(ChartTitles, LeaveNoGapIfAbsent)
 {
     Chart chart;
     chart.titles = {{1, u""}, {3, u"WH: 1"}};
     EXPECT_EQ(describeTitles(laidOut(chart, {}, {224, 200})), "WH: 1 @ 12,9 200x12\n");
 }
 
-TEST(ChartTitles, TheMainOneIsSetSmallerBeforeItIsElided)
+TEST(ChartTitles, AMainTitleBecomesSmallerBeforeItIsElided)
 {
     Chart chart;
-    chart.titles = {{2, u"Product: 4711"}}; // 104, 91 or 78 wide, between margins of 12
+    chart.titles = {{2, u"Product: 4711"}}; // 104, 91 or 78 wide, depending on its size; the margins are 12
     const std::tuple<double, TextRole, const char*> expected[] = {
         {128, TextRole::LargeTitle, "Product: 4711"},  {127, TextRole::MediumTitle, "Product: 4711"},
         {115, TextRole::MediumTitle, "Product: 4711"}, {114, TextRole::BodyTitle, "Product: 4711"},
@@ -73,7 +73,7 @@ TEST(ChartTitles, TheMainOneIsSetSmallerBeforeItIsElided)
     EXPECT_EQ(layout.titles.at(1).role, TextRole::Body);
 }
 
-TEST(ChartTitles, KeepTheirHeightWhateverTheirSize)
+TEST(ChartTitles, KeepTheirHeightAtEverySize)
 {
     struct HighTitles : SixByTwelve {
         double height(TextRole role) const override { return role == TextRole::LargeTitle ? 20 : 12; }
@@ -87,14 +87,14 @@ TEST(ChartTitles, KeepTheirHeightWhateverTheirSize)
     }
 }
 
-TEST(ChartTitles, AreElidedNeverWrapped)
+TEST(ChartTitles, AreElidedInsteadOfWrapped)
 {
     Chart chart;
     chart.titles = {{2, u"Product: 4711"}};
     EXPECT_EQ(describeTitles(laidOut(chart, {}, {84, 200})), "Product:~ @ 12,9 60x12 main\n");
 }
 
-TEST(ChartLegend, StandsBelowTheTitles)
+TEST(ChartLegend, IsBelowTheTitles)
 {
     const Layout layout = laidOut(salesAndProjection(), projecting, {442, 251});
     EXPECT_EQ(describeLegend(layout), "12,30 9x9 Sales @ 27,28.5 30x12\n"
@@ -102,7 +102,7 @@ TEST(ChartLegend, StandsBelowTheTitles)
     EXPECT_EQ(layout.plot.top, 56);
 }
 
-TEST(ChartLegend, WrapsByWidth)
+TEST(ChartLegend, WrapsAtTheRightMargin)
 {
     const double wide = 72 + 15 + 54 + 12;
     EXPECT_EQ(laidOut(salesAndProjection(), projecting, {wide, 251}).legend[1].name.box.top, 28.5);
@@ -112,15 +112,15 @@ TEST(ChartLegend, WrapsByWidth)
     EXPECT_EQ(layout.plot.top, 71);
 }
 
-TEST(ChartLegend, ANameIsElidedToTheLine)
+TEST(ChartLegend, ANameIsElidedToTheWidthOfALine)
 {
-    // 60 wide: beside the swatch 45 are left, seven characters.
+    // A line is 60 wide; 45 are left beside the swatch, enough for seven characters.
     EXPECT_EQ(describeLegend(laidOut(salesAndProjection(), projecting, {84, 251})),
               "12,30 9x9 Sales @ 27,28.5 30x12\n"
               "12,45 9x9 Projec~ @ 27,43.5 42x12\n");
 }
 
-TEST(ChartLegend, IsAbsentWhereItTellsNothing)
+TEST(ChartLegend, IsLeftOutIfItSaysNothing)
 {
     Chart chart = salesAndProjection();
     chart.series[1] = {0, 0};

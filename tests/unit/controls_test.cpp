@@ -53,7 +53,7 @@ protected:
     Controls controls;
 };
 
-TEST_F(ControlsTest, ShowWhatWasDeclared)
+TEST_F(ControlsTest, HaveTheDeclaredValues)
 {
     EXPECT_EQ(*controls.caption, u"All");
     EXPECT_EQ(*controls.text("lblA"), u"label");
@@ -64,7 +64,7 @@ TEST_F(ControlsTest, ShowWhatWasDeclared)
     EXPECT_EQ(controls.grid("GridA")->rows, 1);
 }
 
-TEST_F(ControlsTest, HaveOneChosenOptionAFrame)
+TEST_F(ControlsTest, HaveOneChosenOptionPerFrame)
 {
     const Shown<OptionGroup>& optA = controls.options("optA");
     EXPECT_THAT(optA->chosen, ElementsAre(0, 3));
@@ -77,7 +77,7 @@ TEST_F(ControlsTest, HaveOneChosenOptionAFrame)
     EXPECT_THROW(optA->chosenIn(2), std::out_of_range);
 }
 
-TEST_F(ControlsTest, KeepOptionsInTheirPlaces)
+TEST_F(ControlsTest, KeepTheOrderOfTheOptions)
 {
     controls.options("optA").change([](OptionGroup& optA) {
         optA.setVisible(2, false);
@@ -88,7 +88,7 @@ TEST_F(ControlsTest, KeepOptionsInTheirPlaces)
                   {1, u"new", true, 0}, {0, u"A", true, 0}, {2, u"C", false, 1}, {3, u"D", true, 1}}));
 }
 
-TEST_F(ControlsTest, TellTheHandlerWhatWasUsed)
+TEST_F(ControlsTest, PassOptionIndexAndRowToTheHandler)
 {
     controls.press("cmdA");
     controls.choose("optA", 2);
@@ -99,7 +99,7 @@ TEST_F(ControlsTest, TellTheHandlerWhatWasUsed)
                                   std::pair("GridA", 4), std::pair("close", 0)));
 }
 
-TEST_F(ControlsTest, AreNoLongerHeardOnceTheyAreDisconnected)
+TEST_F(ControlsTest, RunNoHandlerOnceDisconnected)
 {
     controls.disconnect();
     controls.press("cmdA");
@@ -107,7 +107,7 @@ TEST_F(ControlsTest, AreNoLongerHeardOnceTheyAreDisconnected)
     EXPECT_THAT(used, IsEmpty());
 }
 
-TEST_F(ControlsTest, HoldAGridOfTextUnderItsHeadings)
+TEST_F(ControlsTest, HoldAGridOfTextBelowItsHeadings)
 {
     Grid grid = *controls.grid("GridA");
     grid.setRows(3);
@@ -126,7 +126,7 @@ TEST_F(ControlsTest, HoldAGridOfTextUnderItsHeadings)
     EXPECT_THROW(grid.setCell(0, 0, u"heading"), std::out_of_range);
 }
 
-TEST_F(ControlsTest, RefuseWhatWasNotDeclared)
+TEST_F(ControlsTest, ThrowForNamesThatWereNotDeclared)
 {
     EXPECT_THROW(controls.chart("ChartB"), std::out_of_range);
     EXPECT_THROW(controls.grid("GridB"), std::out_of_range);
@@ -137,7 +137,7 @@ TEST_F(ControlsTest, RefuseWhatWasNotDeclared)
                  std::out_of_range);
 }
 
-TEST_F(ControlsTest, AreShownOnceHoweverMuchAChangeChanges)
+TEST_F(ControlsTest, AreDisplayedOncePerChange)
 {
     int shown = 0;
     controls.chart("ChartA").changed = [&] { ++shown; };
@@ -169,7 +169,7 @@ TEST(Charts, NewDataReplacesTheOld)
     EXPECT_THAT(chart.labels, IsEmpty());
 }
 
-TEST(Charts, NothingIsSetUntilItIsSet)
+TEST(Charts, NothingIsSetAtFirst)
 {
     const Chart chart;
     EXPECT_TRUE(chart.titles.empty());
@@ -179,7 +179,7 @@ TEST(Charts, NothingIsSetUntilItIsSet)
     EXPECT_THAT(chart.series, IsEmpty());
 }
 
-TEST(Charts, TitlesStayByPosition)
+TEST(Charts, TitlesAreKeptByPosition)
 {
     Chart chart;
     chart.SetTitle(1, u"Sales");

@@ -1,4 +1,4 @@
-// What a window says beside its captions: the names that assistive technology speaks, and the keys.
+// The accessible names and the shortcuts of each window.
 #include "app/application.h"
 #include "platform/recording/recording.h"
 #include "window_fixture.h"
@@ -6,7 +6,7 @@
 namespace plotvue::test {
 namespace {
 
-using Said = std::vector<std::pair<Name, TextSpan>>; // of the controls that say it, as they stand
+using Said = std::vector<std::pair<Name, TextSpan>>; // by control, in order of declaration
 
 class Declarations : public testing::Test {
 protected:
@@ -44,7 +44,7 @@ protected:
         return design;
     }
 
-    // Columns whose cells stand at the right.
+    // The columns with right-aligned cells.
     std::vector<int> figures(Name window)
     {
         std::vector<int> columns;
@@ -65,7 +65,7 @@ protected:
         return said;
     }
 
-    Session directory; // the files of the ranked windows go there
+    Session directory; // working directory for the files of the ranked windows
     RecordingPlatform platform;
     Application app{platform};
 };
@@ -90,7 +90,7 @@ TEST_F(Declarations, OfTheSecondSeries)
     open("product");
     EXPECT_EQ(chart("frmProduct").projection, 1);
     EXPECT_EQ(chart("frmProduct").legends, (std::map<int, TextSpan>{{1, u"Projected"}}));
-    open("latecharge"); // what was lost, not what is to come
+    open("latecharge"); // the second series is what was lost, not a projection
     EXPECT_EQ(chart("frmLateCharge").projection, -1);
     EXPECT_EQ(chart("frmLateCharge").legends, (std::map<int, TextSpan>{{0, u"Paid"}, {1, u"Lost"}}));
     open("glhistory");

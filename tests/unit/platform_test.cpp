@@ -11,7 +11,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// A window with a button that does what the test wants.
+// A window whose button runs the test's code.
 class AnyForm : public Form {
 public:
     explicit AnyForm(Platform& platform) : Form(platform) {}
@@ -81,7 +81,7 @@ TEST_F(Windows, AreNotLoadedAgainWhenTheyAreShownAgain)
     EXPECT_THAT(kinds, ElementsAre(Load, Show, Hide, Show));
 }
 
-TEST_F(Windows, SayNothingWhenTheyAlreadyAreWhatTheyShallBe)
+TEST_F(Windows, SendNoEventIfNothingChanges)
 {
     window.hide();
     EXPECT_THAT(kinds, IsEmpty());
@@ -103,7 +103,7 @@ TEST_F(Windows, ThatHideThemselvesWhileTheyLoadStayHidden)
     EXPECT_TRUE(window.visible());
 }
 
-TEST_F(Windows, AreLoadedAfreshAfterTheyWereUnloaded)
+TEST_F(Windows, AreLoadedAgainAfterTheyWereUnloaded)
 {
     window.show();
     window.unload();
@@ -128,7 +128,7 @@ TEST_F(Windows, MayUnloadThemselvesInAHandler)
     EXPECT_FALSE(platform.over());
 }
 
-TEST_F(Windows, CloseByTheirWayOut)
+TEST_F(Windows, RunTheirExitHandlerWhenClosed)
 {
     window.show();
     window.controls().close();
@@ -159,7 +159,7 @@ TEST_F(Windows, ReportARunTimeErrorWithItsSentence)
     EXPECT_TRUE(platform.over());
 }
 
-TEST_F(Windows, ReportAMistakeOfTheProgramAndEnd)
+TEST_F(Windows, ReportAProgramErrorAndEnd)
 {
     window.onClick = [] { throw std::out_of_range("no such control"); };
     window.show();
@@ -169,7 +169,7 @@ TEST_F(Windows, ReportAMistakeOfTheProgramAndEnd)
     EXPECT_TRUE(platform.over());
 }
 
-TEST_F(Windows, ReportThatMemoryIsShort)
+TEST_F(Windows, ReportALackOfMemory)
 {
     window.onClick = [] { throw std::bad_alloc(); };
     window.show();
@@ -178,7 +178,7 @@ TEST_F(Windows, ReportThatMemoryIsShort)
     EXPECT_TRUE(platform.over());
 }
 
-TEST_F(Windows, SpinWhereAReaderNeverReturns)
+TEST_F(Windows, SpinIfAReaderNeverReturns)
 {
     window.onClick = [] { throw EndlessRead{}; };
     window.show();
@@ -187,7 +187,7 @@ TEST_F(Windows, SpinWhereAReaderNeverReturns)
     EXPECT_TRUE(platform.over());
 }
 
-TEST_F(Windows, RunNothingOnceItIsOver)
+TEST_F(Windows, RunNoHandlerAfterTheEnd)
 {
     const std::function<void()> endings[] = {[] { throw EndOfProcess{}; }, [] { throw EndlessRead{}; },
                                              [] { throw Failure{u"It does not fit."}; }};
@@ -204,7 +204,7 @@ TEST_F(Windows, RunNothingOnceItIsOver)
     }
 }
 
-TEST_F(Windows, ALoadThatFailsShowsNothing)
+TEST_F(Windows, AreNotShownIfTheirLoadFails)
 {
     window.onLoad = [] { throw Failure{u"It does not fit."}; };
     platform.run([this] { window.show(); });
@@ -212,7 +212,7 @@ TEST_F(Windows, ALoadThatFailsShowsNothing)
     EXPECT_FALSE(window.visible());
 }
 
-TEST_F(Windows, PrintOnceACopy)
+TEST_F(Windows, PrintOncePerCopy)
 {
     window.show();
     kinds.clear();
@@ -221,7 +221,7 @@ TEST_F(Windows, PrintOnceACopy)
     EXPECT_THAT(kinds, ElementsAre(Print, Print));
 }
 
-TEST_F(Windows, AMessageIsToldWithItsTitle)
+TEST_F(Windows, SendAnEventWithTheTitleOfAMessage)
 {
     Text title;
     platform.listener = [&](const Event& event) { title = event.title; };

@@ -1,4 +1,4 @@
-// What every screen of the list must have.
+// What every supported screen must have.
 #include "app/recognition.h"
 #include "app/screens.h"
 #include "capture/utf8.h"
@@ -34,7 +34,7 @@ std::string nameOf(const Screen& screen)
     return toUtf8(screen.marker);
 }
 
-TEST(Screens, HaveASampleEach)
+TEST(Screens, HaveOneSampleEach)
 {
     auto found = samplesOfScreens();
     for (const Screen& screen : screens)
@@ -53,7 +53,7 @@ TEST(Screens, AreOpenedByTheirSamples)
         }
 }
 
-TEST(Screens, LookForTheirMarkersThemselves)
+TEST(Screens, RequireTheirOwnMarkers)
 {
     for (const Screen& screen : screens) {
         const auto* monthly = std::get_if<const MonthlyScreen*>(&screen.window);
@@ -61,7 +61,7 @@ TEST(Screens, LookForTheirMarkersThemselves)
     }
 }
 
-// Of the unit tests, apart from the table in startup_test.cpp.
+// All words of the unit tests, without startup_test.cpp, which lists every screen.
 std::set<std::string> wordsInTests()
 {
     std::set<std::string> words;

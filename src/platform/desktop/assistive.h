@@ -1,9 +1,9 @@
-// What assistive technology is told about windows and pictures, which the toolkit takes for mere containers.
+// The accessible roles of windows and pictures, which the toolkit would report as plain containers.
 #pragma once
 
 namespace plotvue {
 
-// Installs it for the whole process; costs nothing until assistive technology is in use.
+// Installs the accessibility factory for the process. It has no cost until assistive technology is used.
 void offerWindowsToAssistiveTechnology();
 
 } // namespace plotvue

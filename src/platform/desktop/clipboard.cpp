@@ -31,7 +31,7 @@ Text mendLineEnds(TextSpan text)
 {
     Text result;
     result.reserve(text.size() + text.size() / 40);
-    char16_t before = u'\n'; // the text begins a line
+    char16_t before = u'\n'; // the text starts on a new line
     for (const char16_t character : text) {
         if (character == u'\n' && before == u'\n')
             result += u' ';

@@ -1,21 +1,21 @@
-// The clipboard's text as the host's terminal meant it.
+// Reads the clipboard and repairs what terminals change when they copy a screen.
 #pragma once
 
 #include "capture/text.h"
 
 namespace plotvue {
 
-// Empty when the clipboard holds no text, or when its owner does not answer in time (seconds; see the
-// system's file).
+// The clipboard's text after mendLineEnds. Empty if the clipboard holds no text or cannot be read within a
+// few seconds.
 Text readClipboard();
 
-// True where only the window with the focus is told what the clipboard holds.
+// True if the display server gives the clipboard's content only to the focused window.
 bool clipboardNeedsFocus();
-// Waits until one of our windows has the focus, but one second at most.
+// Waits until a window of this process has the focus, but at most one second.
 void waitForFocus();
 
-// `text` with CR LF in place of each bare line feed. An empty line that such a line feed ends becomes a
-// blank: many terminals leave out a line's trailing blanks, and the readers skip empty lines.
+// Replaces each bare line feed with CR LF. An empty line that ends in a bare line feed becomes one blank:
+// many terminals drop trailing blanks when they copy, and the code that reads screens skips empty lines.
 Text mendLineEnds(TextSpan text);
 
 } // namespace plotvue

@@ -10,7 +10,7 @@ namespace plotvue {
 Text readClipboard()
 {
     const QMimeData* held = QGuiApplication::clipboard()->mimeData();
-    // One question: an owner that hangs costs the toolkit's time limit for each.
+    // Ask for one format only: if the clipboard's owner hangs, each request waits for the toolkit's timeout.
     if (!held || !held->hasFormat(QStringLiteral("text/plain")))
         return {};
     return mendLineEnds(toText(held->text()));

@@ -10,8 +10,8 @@ namespace plotvue {
 
 namespace {
 
-// Another program may have it open for a moment: the terminal that copies, or one that collects what is
-// copied.
+// Retries, because another program may have the clipboard open for a moment: the terminal that copies or a
+// clipboard manager.
 bool opened()
 {
     const QDeadlineTimer patience(std::chrono::seconds(1));
@@ -25,7 +25,7 @@ bool opened()
 
 } // namespace
 
-// The system's own text: the toolkit turns line ends of CR CR LF into CR LF.
+// Uses the Windows API because the toolkit turns the line end CR CR LF into CR LF.
 Text readClipboard()
 {
     if (!opened())

@@ -8,7 +8,8 @@ namespace plotvue {
 
 namespace {
 
-// The library brings some twenty others along; it is loaded when somebody prints, not at every start.
+// CUPS depends on some twenty other libraries. It is loaded on the first print so that it does not slow down
+// every start.
 template <typename Function>
 Function* cupsFunction(const char* name)
 {

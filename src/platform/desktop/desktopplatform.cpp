@@ -23,12 +23,13 @@ namespace plotvue {
 
 namespace {
 
-constexpr int longestLine = 120; // in average characters
+constexpr int maxLineWidth = 120; // in average characters
 
 QtMessageHandler usualMessages = nullptr;
 bool displayIsMissing = false;
 
-// The toolkit's messages while it looks for a display; it ends a process that finds none by an abort.
+// Handles the toolkit's messages during the connection to the display. Without a display the toolkit would
+// abort; this handler prints a sentence and ends the process instead.
 void noteMissingDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     if (type == QtFatalMsg) {
@@ -37,7 +38,7 @@ void noteMissingDisplay(QtMsgType type, const QMessageLogContext& context, const
                           : u"no window can be shown: " + toText(message.section(u'\n', 0, 0).trimmed()));
         endProcess(EXIT_FAILURE);
     }
-    // The plug-ins for X11 and for Wayland say so before that.
+    // The X11 and Wayland plug-ins report a missing display before the fatal message.
     const bool missing = message.contains(QLatin1String("could not connect to display")) ||
                          message.contains(QLatin1String("Failed to create wl_display"));
     displayIsMissing = displayIsMissing || missing;
@@ -56,7 +57,7 @@ QWidget* windowInFront()
     return nullptr;
 }
 
-// A box is centred on its window: that must have found its place before.
+// A message box is centred on its window, so the window manager must have placed the window before.
 void waitUntilPlaced(const QWidget& window)
 {
     QDeadlineTimer patience(std::chrono::milliseconds(300));
@@ -76,12 +77,12 @@ void showBox(QMessageBox::Icon icon, TextSpan title, TextSpan text, const QStrin
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(title.empty() ? QStringLiteral("PlotVue") : toQString(title));
     box.setText(shown(text));
-    // A text in lines keeps them as far as they reach: by itself the box breaks at 500 pixels.
+    // Widen the box for a text with line breaks. By default it wraps lines at 500 pixels.
     auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
     if (label && box.text().contains(u'\n'))
         label->setMinimumWidth(
-            qMin(label->sizeHint().width(), longestLine * label->fontMetrics().averageCharWidth()));
-    // A standard button would have the desktop's icon theme loaded for its picture.
+            qMin(label->sizeHint().width(), maxLineWidth * label->fontMetrics().averageCharWidth()));
+    // A standard button would load the desktop's icon theme for its icon.
     box.setDefaultButton(box.addButton(button, QMessageBox::AcceptRole));
     box.exec();
 }
@@ -90,7 +91,7 @@ void showBox(QMessageBox::Icon icon, TextSpan title, TextSpan text, const QStrin
 
 std::unique_ptr<QApplication> makeApplication(int& argc, char** argv)
 {
-    static FontsAhead fonts; // begins at once, while there is nothing to do but wait for the display
+    static FontsAhead fonts; // loads fonts while the process waits for the display
     usualMessages = qInstallMessageHandler(noteMissingDisplay);
     auto application = std::make_unique<QApplication>(argc, argv);
     qInstallMessageHandler(usualMessages);
@@ -100,9 +101,10 @@ std::unique_ptr<QApplication> makeApplication(int& argc, char** argv)
 
 DesktopPlatform::DesktopPlatform()
 {
-    // The windows come and go by turns; only the application says when it is over.
+    // At times all windows are hidden, so the toolkit must not quit then; the application decides when to
+    // end.
     QApplication::setQuitOnLastWindowClosed(false);
-    // By this name a Wayland desktop finds the installed entry, and in it the icon.
+    // A Wayland desktop uses this name to find the installed desktop entry and its icon.
     QApplication::setDesktopFileName(QStringLiteral("io.github.plotvue.PlotVue"));
     offerWindowsToAssistiveTechnology();
 }
@@ -160,8 +162,8 @@ void DesktopPlatform::spin(int lines)
 {
     sayToTerminal(u"the copied screen has fewer than 20 lines; PlotVue waits for the rest.");
     presenter_.settle();
-    // As a desktop tells of a program that does not answer: the windows under the box stay painted, and
-    // nothing that a person does to them is heard any more.
+    // Resembles the "not responding" box of a desktop: the windows under it are still painted but ignore all
+    // input.
     const QString text =
         QStringLiteral(
             "PlotVue is waiting for the rest of the copied screen.\n"

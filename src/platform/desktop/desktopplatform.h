@@ -1,5 +1,5 @@
-// The real desktop. A QApplication must exist and outlive it. A test that plays the person at the screen
-// overrides the boxes, the printer dialog and the ways in which the process ends.
+// The platform of real desktops. A QApplication must exist and outlive it. Tests override the message boxes,
+// the printer dialog and the functions that end the process.
 #pragma once
 
 #include "platform/desktop/presenter.h"
@@ -13,8 +13,8 @@ class QApplication;
 
 namespace plotvue {
 
-// The application, connected to its display. Where no window can be shown, a sentence says so on standard
-// error and the process ends with status 1.
+// Creates the application and connects it to the display. If no window can be shown, it prints a sentence to
+// standard error and ends the process with status 1.
 std::unique_ptr<QApplication> makeApplication(int& argc, char** argv);
 
 class DesktopPlatform : public Platform {
@@ -26,7 +26,7 @@ public:
     std::unique_ptr<Window> build(std::shared_ptr<Controls> controls) override;
     double choosePrinter(Window& window) override;
 
-    // Shows and hides the windows now; otherwise that happens when control is back with the event loop.
+    // Shows and hides windows now instead of on return to the event loop.
     void settle() { presenter_.settle(); }
 
 protected:
@@ -37,8 +37,8 @@ protected:
     void finish() override;
 
 private:
-    // Within one event the start-up window asks for the clipboard, and so does the window that it shows; the
-    // clipboard's owner is asked once.
+    // The clipboard's text if the current event has read it already. The start-up window and the window that
+    // it opens both read the clipboard, but its owner is asked only once.
     std::optional<Text> readInThisEvent_;
     Presenter presenter_;
     Printing printing_;

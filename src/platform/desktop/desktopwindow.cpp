@@ -21,7 +21,7 @@ DesktopWindow::~DesktopWindow()
     if (!widget_)
         return;
     if (widget_->isVisible())
-        keepPlace();
+        savePosition();
     widget_->retire();
 }
 
@@ -43,32 +43,33 @@ void DesktopWindow::settle()
     if (wanted_ && raise_ && widget().isMinimized())
         widget().setWindowState(widget().windowState() & ~Qt::WindowMinimized);
     if (wanted_ && !seen) {
-        takePlace();
+        restorePosition();
         widget().show();
-        // Each widget asks to be painted; said before the display asks for the whole, both are one painting.
+        // Deliver the widgets' update requests now. They are then merged with the first expose event, and the
+        // window is painted once.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater);
     } else if (wanted_ && raise_) {
         widget_->raise();
         widget_->activateWindow();
     } else if (!wanted_ && seen) {
-        keepPlace();
+        savePosition();
         widget_->hide();
     }
     raise_ = false;
 }
 
-void DesktopWindow::keepPlace()
+void DesktopWindow::savePosition()
 {
     presenter_.places[controls_->declaration.name] = widget_->geometry().topLeft();
 }
 
-void DesktopWindow::takePlace()
+void DesktopWindow::restorePosition()
 {
     const auto place = presenter_.places.find(controls_->declaration.name);
     if (place == presenter_.places.end() || widget().windowState() != Qt::WindowNoState)
         return;
-    // Said to the native window if there is one: a widget that is there already would not pass it on, and
-    // the window manager would find a place of its own.
+    // If the native window exists, move it directly: the widget does not pass on its position, and the window
+    // manager would choose another.
     if (QWindow* native = widget().windowHandle())
         native->setPosition(place->second);
     else

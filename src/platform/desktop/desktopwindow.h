@@ -1,4 +1,4 @@
-// A window on the desktop. Its widgets are made when it is first seen.
+// A window on the desktop. Its widgets are created when it is first displayed.
 #pragma once
 
 #include "platform/desktop/windowwidget.h"
@@ -14,22 +14,22 @@ public:
     ~DesktopWindow() override;
     DesktopWindow(const DesktopWindow&) = delete;
 
-    // Say what is wanted; it happens when the presenter settles.
+    // Record the request, which settle() carries out.
     void show() override;
     void hide() override;
     bool wanted() const { return wanted_; }
     void settle();
 
-    WindowWidget& widget(); // made now, if it was not yet
+    WindowWidget& widget(); // creates the widgets if necessary
     bool hasWidget() const { return widget_ != nullptr; }
 
 private:
-    void keepPlace();
-    void takePlace();
+    void savePosition();
+    void restorePosition();
 
     Presenter& presenter_;
     std::shared_ptr<Controls> controls_;
-    WindowWidget* widget_ = nullptr; // deletes itself once it is retired
+    WindowWidget* widget_ = nullptr; // deletes itself after retire()
     bool wanted_ = false, raise_ = false;
 };
 

@@ -1,5 +1,5 @@
-// Finds the fonts on threads of its own, while the program connects to the display, which takes about as
-// long. The program first needs them when it builds a window.
+// Loads the fonts in background threads while the process connects to the display, which takes about as long.
+// Fonts are first needed when a window is built.
 #pragma once
 
 #include <future>
@@ -8,9 +8,9 @@ namespace plotvue {
 
 class FontsAhead {
 public:
-    FontsAhead(); // reads the configuration; no QApplication need exist
+    FontsAhead(); // starts to read the font configuration; needs no QApplication
 
-    // The toolkit's own list, made from it; a QApplication must exist.
+    // Starts to build the toolkit's font list from the configuration. A QApplication must exist.
     void list();
 
 private:

@@ -7,13 +7,13 @@
 
 namespace plotvue {
 
-// Where no thread can be had, nothing is done ahead.
+// If no thread can be started, std::async defers the call, and the toolkit loads the fonts itself.
 FontsAhead::FontsAhead() : configured_(std::async(FcInit)) {}
 
 void FontsAhead::list()
 {
     listed_ = std::async([this] {
-        configured_.wait(); // begun a second time before it is done, it would be done twice
+        configured_.wait(); // otherwise the toolkit would read the configuration a second time
         QFontDatabase::families();
     });
 }

@@ -2,7 +2,7 @@
 
 namespace plotvue {
 
-// The system has its fonts at hand.
+// Windows keeps its fonts loaded, so there is nothing to prepare.
 FontsAhead::FontsAhead() = default;
 
 void FontsAhead::list() {}

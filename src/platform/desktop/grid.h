@@ -1,4 +1,4 @@
-// A grid of text: headings from a format string, rows that can be chosen.
+// The table widget of a grid: headings from a format string, and rows that the user can choose.
 #pragma once
 
 #include "platform/controls.h"
@@ -14,7 +14,7 @@ class GridModel : public QAbstractTableModel {
 public:
     GridModel(const GridBox& declared, Shown<Grid>& grid, QObject* parent);
 
-    // A heading with the blanks that pad it to the width that its column is to have.
+    // A heading including its blanks, which define the width of its column.
     QString heading(int column) const;
     bool holdsFigures(int column) const;
 
@@ -38,7 +38,7 @@ public:
     QSize minimumSizeHint() const override;
 
 signals:
-    void rowChosen(int row); // clicked, or Enter on it; 1 is the first under the headings
+    void rowChosen(int row); // on a click or Enter; the first row below the headings is 1
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -53,8 +53,8 @@ private:
     void fitColumns();
 
     GridModel* model_;
-    bool fitted_ = false;       // while the sections are being fitted
-    bool widthsChosen_ = false; // by a person, who has dragged a border
+    bool fitting_ = false;      // true while fitColumns() sets the column widths
+    bool widthsChosen_ = false; // the user has dragged a column border
 };
 
 } // namespace plotvue

@@ -45,7 +45,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return text();
-    case Qt::ToolTipRole: // of what hardly fits its column
+    case Qt::ToolTipRole: // for a text that may not fit its column
         return text().size() > heading(index.column()).size() ? text() : QString();
     case Qt::TextAlignmentRole:
         return int(Qt::AlignVCenter | (holdsFigures(index.column()) ? Qt::AlignRight : Qt::AlignLeft));

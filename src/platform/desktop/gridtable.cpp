@@ -12,14 +12,14 @@ namespace plotvue {
 
 namespace {
 
-constexpr int cellMargin = 8, rowPadding = 7, rowsAtFirst = 10, rowsAtLeast = 3;
+constexpr int cellMargin = 8, rowPadding = 7, preferredRows = 10, minRows = 3;
 
-// The desktop's style with more air between the columns: figures would run into the text beside them.
+// The desktop's style with wider cell margins, so that figures do not touch the text in the next column.
 class RoomyStyle : public QProxyStyle {
 public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
     {
-        // Of a cell; the style adds one.
+        // The horizontal margin of a cell; the style adds one pixel.
         return metric == PM_FocusFrameHMargin ? cellMargin - 1
                                               : QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -29,12 +29,13 @@ public:
         const auto* heading = qstyleoption_cast<const QStyleOptionHeader*>(option);
         if (element != CE_Header || !heading)
             return QProxyStyle::drawControl(element, option, painter, widget);
-        // In its parts: the whole would clip to itself in place of what is in sight, which shows in print.
+        // Draw the section and the label separately. CE_Header replaces the painter's clip region, and a
+        // printed heading would extend beyond the visible part of the table.
         painter->save();
         painter->setClipRect(heading->rect, Qt::IntersectClip);
         QProxyStyle::drawControl(CE_HeaderSection, option, painter, widget);
         QStyleOptionHeader label = *heading;
-        label.version = QStyleOptionHeader::Version; // not a later one, of which this is no copy
+        label.version = QStyleOptionHeader::Version; // the copy holds only the fields of this version
         const int more = cellMargin - pixelMetric(PM_HeaderMargin, option, widget);
         label.rect = subElementRect(SE_HeaderLabel, option, widget).adjusted(more, 0, -more, 0);
         QProxyStyle::drawControl(CE_HeaderLabel, &label, painter, widget);
@@ -71,7 +72,7 @@ GridTable::GridTable(const GridBox& declared, Shown<Grid>& grid, QWidget* parent
             [this](const QModelIndex& at) { emit rowChosen(at.row() + 1); });
     connect(model_, &GridModel::modelReset, this, &GridTable::fitColumns);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
-        if (!fitted_)
+        if (!fitting_)
             widthsChosen_ = true;
     });
     fitRows();
@@ -99,7 +100,7 @@ void GridTable::fitRows()
     horizontalHeader()->setFixedHeight(height + 2);
 }
 
-// What the viewport has to spare goes to the columns of text, in proportion to their widths.
+// Distributes the spare width of the viewport among the text columns in proportion to their widths.
 void GridTable::fitColumns()
 {
     if (widthsChosen_)
@@ -108,7 +109,7 @@ void GridTable::fitColumns()
     for (int column = 0; column < model_->columnCount(); ++column)
         texts += model_->holdsFigures(column) ? 0 : wantedWidth(column);
     const int spare = qMax(0, viewport()->width() - wantedWidth());
-    fitted_ = true;
+    fitting_ = true;
     int left = spare, textsLeft = texts;
     for (int column = 0; column < model_->columnCount(); ++column) {
         int width = wantedWidth(column);
@@ -120,19 +121,19 @@ void GridTable::fitColumns()
         }
         setColumnWidth(column, width);
     }
-    fitted_ = false;
+    fitting_ = false;
 }
 
 QSize GridTable::sizeHint() const
 {
     const int edges = 2 * frameWidth();
     return {wantedWidth() + edges + verticalScrollBar()->sizeHint().width(),
-            horizontalHeader()->height() + rowsAtFirst * verticalHeader()->defaultSectionSize() + edges};
+            horizontalHeader()->height() + preferredRows * verticalHeader()->defaultSectionSize() + edges};
 }
 
 QSize GridTable::minimumSizeHint() const
 {
-    const int rows = horizontalHeader()->height() + rowsAtLeast * verticalHeader()->defaultSectionSize();
+    const int rows = horizontalHeader()->height() + minRows * verticalHeader()->defaultSectionSize();
     return {qMin(sizeHint().width(), 240), rows + 2 * frameWidth()};
 }
 
@@ -142,7 +143,7 @@ void GridTable::keyPressEvent(QKeyEvent* event)
     if (enter && currentIndex().isValid())
         emit rowChosen(currentIndex().row() + 1);
     else if (event->matches(QKeySequence::Copy))
-        event->ignore(); // the clipboard holds the screen that the rows are from
+        event->ignore(); // so that the captured screen stays on the clipboard
     else
         QTableView::keyPressEvent(event);
 }
@@ -150,7 +151,7 @@ void GridTable::keyPressEvent(QKeyEvent* event)
 void GridTable::focusInEvent(QFocusEvent* event)
 {
     QTableView::focusInEvent(event);
-    // The row that Enter would take is to be seen.
+    // Select the row that Enter would choose, so that the user can see it.
     const bool clicked = event->reason() == Qt::MouseFocusReason;
     if (!clicked && !selectionModel()->hasSelection() && model_->rowCount() > 0)
         selectRow(qMax(0, currentIndex().row()));

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int maxCaption = 28; // in average characters
 
-// A caption from a capture may be a whole screen line: it is shown as far as the side column reaches.
+// Elides a caption to the width of the side column. A caption from a capture may be as long as a screen line.
 void showCaption(QRadioButton& button, TextSpan caption)
 {
     const QString whole = shownOnOneLine(caption);
@@ -42,7 +42,8 @@ QGroupBox* OptionButtons::addFrame(const OptionFrame& declared, QWidget* parent)
     for (const Option& option : declared.options) {
         auto* button = new OptionButton(frame);
         layout->addWidget(button);
-        // Tab is to come to the one chosen. Later on the toolkit sees to that; at first it takes the topmost.
+        // Not a tab stop yet: show() makes one option of each frame the tab stop. Otherwise the first Tab
+        // would reach the topmost option instead of the chosen one.
         button->setFocusPolicy(Qt::ClickFocus);
         connect(button, &QRadioButton::clicked, this,
                 [this, index = option.index] { controls_.choose(group_, index); });
@@ -56,8 +57,8 @@ QGroupBox* OptionButtons::addFrame(const OptionFrame& declared, QWidget* parent)
 void OptionButtons::show()
 {
     const OptionGroup& group = *controls_.options(group_);
-    std::map<int, OptionButton*>
-        entries; // by frame: the option chosen, or, while that is hidden, the first that is not
+    // The tab stop of each frame: its chosen option, or the first visible one if that is hidden.
+    std::map<int, OptionButton*> tabStops;
     for (std::size_t i = 0; i < buttons_.size(); ++i) {
         const OptionGroup::Entry& option = group.options[i];
         OptionButton& button = *buttons_[i];
@@ -68,11 +69,11 @@ void OptionButtons::show()
         const bool hidden = button.isHidden() && button.testAttribute(Qt::WA_WState_ExplicitShowHide);
         if (hidden == option.visible)
             button.setVisible(option.visible);
-        if (option.visible && (chosen || !entries.contains(option.frame)))
-            entries[option.frame] = &button;
+        if (option.visible && (chosen || !tabStops.contains(option.frame)))
+            tabStops[option.frame] = &button;
     }
-    for (const auto& [frame, entry] : entries)
-        entry->setFocusPolicy(Qt::StrongFocus);
+    for (const auto& [frame, button] : tabStops)
+        button->setFocusPolicy(Qt::StrongFocus);
 }
 
 } // namespace plotvue

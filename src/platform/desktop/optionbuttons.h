@@ -1,4 +1,4 @@
-// An option group as radio buttons, in one frame or several.
+// Displays an option group as radio buttons in one or more frames.
 #pragma once
 
 #include "platform/desktop/smallwidgets.h"
@@ -11,7 +11,7 @@ class OptionButtons : public QObject {
 public:
     OptionButtons(Controls& controls, Name group, QObject* parent);
 
-    // Makes the next frame of the group, with its buttons.
+    // Creates the next frame of the group and its buttons.
     QGroupBox* addFrame(const OptionFrame& declared, QWidget* parent);
 
 private:

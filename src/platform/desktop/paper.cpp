@@ -19,24 +19,24 @@ QPalette lightPalette()
     return paper;
 }
 
-// A window in light colours for as long as this lives.
+// Gives the window light colours as long as this object exists.
 class LightColours {
 public:
     explicit LightColours(QWidget& window) : window_(window) { window.setPalette(lightPalette()); }
     LightColours(const LightColours&) = delete;
-    ~LightColours() { window_.setPalette({}); } // the desktop's again
+    ~LightColours() { window_.setPalette({}); } // restores the desktop's colours
 
 private:
     QWidget& window_;
 };
 
-// The detour keeps it vectors: right on a printer the toolkit draws widgets as bitmaps.
+// Records the widget as vectors. Without this step, the toolkit would draw widgets on a printer as bitmaps.
 QPicture pictureOf(QWidget& widget)
 {
     QPicture picture;
     QPainter painter(&picture);
     if (qobject_cast<QAbstractScrollArea*>(widget.parentWidget()))
-        painter.setClipRect(widget.rect()); // of what is scrolled only a part is in sight
+        painter.setClipRect(widget.rect()); // only a part of scrolled content is visible
     widget.render(&painter, {}, {}, {});
     return picture;
 }

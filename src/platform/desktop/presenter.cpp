@@ -15,7 +15,7 @@ void Presenter::settleLater()
 void Presenter::settle()
 {
     pending_ = false;
-    // Windows are shown before others are hidden, so that the desktop is never seen between them.
+    // Show windows before hiding others, so that the desktop does not appear in between.
     for (DesktopWindow* window : windows_)
         if (window->wanted())
             window->settle();

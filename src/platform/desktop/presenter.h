@@ -1,5 +1,5 @@
-// Shows and hides the windows on the screen when the handlers of an event are done: a window that is shown
-// and hidden again within one event is never seen.
+// Shows and hides windows after the handlers of an event have run, so that a window that is shown and hidden
+// within one event never appears.
 #pragma once
 
 #include "platform/declaration.h"
@@ -18,13 +18,13 @@ class Presenter : public QObject {
     Q_OBJECT
 
 public:
-    // Where windows were last seen. A window comes back to its place, even if it was built anew.
+    // The last position of each window, at which it reappears even if it was built again.
     std::map<Name, QPoint> places;
 
     void enter(DesktopWindow& window) { windows_.push_back(&window); }
     void leave(DesktopWindow& window) { std::erase(windows_, &window); }
 
-    void settleLater(); // when control is back with the event loop
+    void settleLater(); // on return to the event loop
     void settle();
 
 private:

@@ -24,7 +24,7 @@ double Printing::choose(QWidget& window)
                                                                   : QPageLayout::Portrait);
     if (!ask(*printer_, window))
         throw Failure{u"The printer dialog was cancelled."};
-    // Each copy is a job of its own: the driver is not to multiply it.
+    // The application prints each copy as a job of its own, so the driver must print one.
     const double copies = printer_->copyCount();
     printer_->setCopyCount(1);
     if (printer_->outputFileName().isEmpty())

@@ -1,4 +1,4 @@
-// The printer dialog, and a window's client area on paper.
+// The printer dialog, and printing of a window's client area.
 #pragma once
 
 #include <QString>
@@ -17,27 +17,27 @@ public:
     Printing();
     virtual ~Printing();
 
-    // Returns the number of copies; the printer chosen becomes the default printer and is kept for the next
-    // time. Throws Failure when the dialog is cancelled.
+    // Shows the printer dialog and returns the number of copies. The chosen printer becomes the default
+    // printer and is preselected the next time. Throws Failure if the dialog is cancelled.
     double choose(QWidget& window);
 
-    // One job. Throws Failure when it cannot be made.
+    // Prints the client area as one job. Throws Failure if that fails.
     void print(QWidget& window);
 
 protected:
-    // Shows the dialog, which changes the printer; false when it is cancelled.
+    // Shows the dialog, which sets up `printer`; returns false if it is cancelled.
     virtual bool ask(QPrinter& printer, QWidget& window);
 
 private:
-    std::unique_ptr<QPrinter> printer_; // made when somebody first prints: looking for printers takes time
+    std::unique_ptr<QPrinter> printer_; // created on the first print, because finding the printers takes time
 };
 
 // Draws the client area as vectors on white paper, as large as `page` allows. The painter's device must have
 // the window's resolution, so that one unit of the painter is one pixel of the window.
 void drawOnPaper(QWidget& window, QPainter& painter, const QRectF& page);
 
-// The system's default printer for this user. Does nothing on a Unix where printing does not go through CUPS:
-// other print systems have no such notion of their own.
+// Makes the printer the default for this user. On Unix it does nothing without CUPS, because other print
+// systems have no default printer per user.
 void makeDefaultPrinter(const QString& name);
 
 } // namespace plotvue

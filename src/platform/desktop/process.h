@@ -1,19 +1,19 @@
-// The process: its working directory, its messages to the terminal and its end. Every operating system has
-// its own way.
+// The process: its working directory, its messages to the terminal and its end. Each operating system has its
+// own implementation.
 #pragma once
 
 #include "capture/text.h"
 
 namespace plotvue {
 
-// To be called before any window is made. A PlotVue that was started from the menu works in a private folder
-// of its own, which is removed when it ends; folders left by a crash are removed at the next start.
+// Call this before any window is created. A PlotVue that was started from the menu works in a private folder,
+// which is removed when it ends; folders left by a crash are removed at the next start.
 void enterWorkingDirectory();
 
 // Writes the sentence to the terminal in which the program was started, if there is one.
 void sayToTerminal(TextSpan sentence);
 
-// Ends the process at once: taking the toolkit down in good order would only keep the person waiting.
+// Ends the process at once, because an orderly shutdown of the toolkit would take noticeable time.
 [[noreturn]] void endProcess(int status);
 
 } // namespace plotvue

@@ -8,7 +8,7 @@ namespace plotvue {
 
 void enterWorkingDirectory()
 {
-    // The menu starts a script, which sees to the folder.
+    // The menu entry starts a script that creates the folder.
 }
 
 void sayToTerminal(TextSpan sentence)

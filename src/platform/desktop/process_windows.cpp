@@ -10,29 +10,28 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A folder of one start. Its mark is a file beside it that nobody else can open as long as the process lives;
-// the system deletes it with the process, however that ends. Whoever holds the mark may do what he likes with
-// the folder.
+// The private folder of one process. A lock file beside it is open exclusively until the process ends; then
+// Windows deletes the file. Only the process that holds the lock may use or remove the folder.
 struct Folder {
     fs::path path;
-    HANDLE mark = INVALID_HANDLE_VALUE;
+    HANDLE lock = INVALID_HANDLE_VALUE;
 
     bool take()
     {
-        mark = CreateFileW((path.wstring() + L".mark").c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+        lock = CreateFileW((path.wstring() + L".mark").c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
                            FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
-        return mark != INVALID_HANDLE_VALUE;
+        return lock != INVALID_HANDLE_VALUE;
     }
 
     void sweep()
     {
         std::error_code ignored;
         fs::remove_all(path, ignored);
-        CloseHandle(mark);
+        CloseHandle(lock);
     }
 };
 
-Folder own; // without a path: the process works where it was started
+Folder own; // if the path is empty, the process works where it was started
 
 fs::path programFolder()
 {
@@ -43,7 +42,8 @@ fs::path programFolder()
     return fs::path(name.c_str()).parent_path();
 }
 
-// The installed program's folder is no place to work in: who starts there comes from the menu.
+// Takes a start in the installation folder for one from the menu. The menu entry uses that folder, and nobody
+// else has a reason to.
 bool startedFromMenu()
 {
     std::error_code none;
@@ -67,11 +67,11 @@ void enterWorkingDirectory()
     if (!local || !startedFromMenu())
         return;
     const fs::path all = fs::path(local) / "PlotVue";
-    constexpr int most = 1000;
+    constexpr int maxFolders = 1000;
     std::error_code error;
     fs::create_directories(all, error);
     sweepFolders(all);
-    for (int number = 1; number <= most && own.path.empty(); ++number) {
+    for (int number = 1; number <= maxFolders && own.path.empty(); ++number) {
         Folder folder{all / std::to_wstring(number)};
         if (!folder.take())
             continue;
@@ -86,7 +86,7 @@ void enterWorkingDirectory()
 
 void sayToTerminal(TextSpan)
 {
-    // A program with windows has no standard error there: the box alone tells.
+    // On Windows a program with windows has no standard error; the message box is enough.
 }
 
 void endProcess(int status)
@@ -94,9 +94,9 @@ void endProcess(int status)
     if (!own.path.empty()) {
         std::error_code ignored;
         const fs::path all = own.path.parent_path();
-        fs::current_path(all.parent_path(), ignored); // no system removes the folder that a process works in
+        fs::current_path(all.parent_path(), ignored); // Windows cannot remove a working directory
         own.sweep();
-        fs::remove(all, ignored); // unless another start works there
+        fs::remove(all, ignored); // fails if another process works there
     }
     std::_Exit(status);
 }

@@ -1,16 +1,16 @@
-// Text as a widget shows it. Captures are handed on as they are; only here control characters are left out.
+// Converts text for display in widgets. Control characters from captures are kept everywhere else and removed
+// only here.
 #pragma once
 
 #include "platform/desktop/chart/qtext.h"
 
 namespace plotvue {
 
-// `text` without control characters. Line ends of any kind (CR LF, CR, LF) break the line; none stays at the
-// end.
+// `text` without control characters and trailing line ends. Every line end (CR LF, CR, LF) becomes LF.
 QString shown(TextSpan text);
-// The same on one line: its line ends are blanks.
+// The same on one line, with blanks in place of line ends.
 QString shownOnOneLine(TextSpan text);
-// "&" as itself where a widget would take it for a mnemonic.
+// Escapes "&", which a widget would take for the mark of a mnemonic.
 QString withoutMnemonic(QString text);
 
 } // namespace plotvue

@@ -48,7 +48,7 @@ void OptionButton::nextCheckState()
 void OptionButton::checkStateSet()
 {
     QRadioButton::checkStateSet();
-    // Later: the option chosen before is still checked.
+    // Queued, because the previously chosen option is still checked now.
     if (!clicking_ && isVisible() && isChecked())
         QMetaObject::invokeMethod(
             this, [this] { emit clicked(true); }, Qt::QueuedConnection);

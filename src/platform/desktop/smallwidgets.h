@@ -1,4 +1,4 @@
-// The small widgets that the toolkit lacks.
+// Small widgets that the toolkit does not provide.
 #pragma once
 
 #include "platform/controls.h"
@@ -10,7 +10,7 @@
 
 namespace plotvue {
 
-// Shows text that can be selected and copied but not changed, without the frame of an input field.
+// Read-only text that can be selected and copied, without the frame of an input field.
 class TextLine : public QLineEdit {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ public:
     TextLine(const TextBox& declared, Shown<Text>& text, QWidget* parent);
 };
 
-// A list to read. Ctrl+C on it copies nothing, so that the clipboard keeps the captured screen.
+// A read-only list. Ctrl+C does nothing, so that the captured screen stays on the clipboard.
 class TextList : public QListWidget {
     Q_OBJECT
 
@@ -29,13 +29,13 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 };
 
-// An option that also counts as clicked when assistive technology toggles it.
+// A radio button that also emits clicked() when assistive technology toggles it.
 class OptionButton : public QRadioButton {
     Q_OBJECT
 
 public:
     using QRadioButton::QRadioButton;
-    void showChecked(bool checked); // does not count as clicked
+    void showChecked(bool checked); // does not emit clicked()
 
 protected:
     void nextCheckState() override;
@@ -45,7 +45,7 @@ private:
     bool clicking_ = false;
 };
 
-// An arrow to the left in place of a caption.
+// A button with an arrow to the left instead of a caption.
 class ArrowButton : public QPushButton {
     Q_OBJECT
 

@@ -20,8 +20,8 @@ namespace {
 
 constexpr int margin = 12, gap = 8, columnGap = 14, listRowPadding = 5;
 constexpr int sideColumn = 24;        // width in average characters
-constexpr double headlinePoints = 20; // from here on a label is a name, not a sentence
-constexpr double declaredPoints = 10; // of the letters for which windows are declared
+constexpr double headlinePoints = 20; // labels of this size or larger are headlines, which do not wrap
+constexpr double declaredPoints = 10; // the font size for which window sizes are declared
 
 class Builder {
 public:
@@ -97,7 +97,7 @@ QList<QKeySequence> shortcuts(TextSpan text)
     return keys;
 }
 
-// "Refresh (F5)"
+// The tooltip of a button, for example "Refresh (F5)".
 QString tip(const Button& declared, const QList<QKeySequence>& keys)
 {
     QString name = toQString(declared.spokenName.empty() ? declared.caption : declared.spokenName);
@@ -112,14 +112,14 @@ QWidget* Builder::make(const Button& declared)
     const bool arrow = declared.picture == Button::Picture::Arrow;
     auto* button = arrow ? new ArrowButton(&window_) : new QPushButton(&window_);
     button->setText(toQString(declared.caption));
-    button->setAutoDefault(true); // Enter presses it, not only the space bar
+    button->setAutoDefault(true); // Enter presses it, as the space bar does
     if (!declared.spokenName.empty())
         button->setAccessibleName(toQString(declared.spokenName));
     const QList<QKeySequence> keys = shortcuts(declared.shortcut);
     button->setToolTip(tip(declared, keys));
     for (const QKeySequence& key : keys) {
         auto* shortcut = new QShortcut(key, &window_);
-        shortcut->setAutoRepeat(key != Qt::Key_Escape); // held down, it closes one window and not all of them
+        shortcut->setAutoRepeat(key != Qt::Key_Escape); // a held Esc closes only one window
         QObject::connect(shortcut, &QShortcut::activated, button, [button] { button->click(); });
     }
     QObject::connect(button, &QPushButton::clicked, &window_,
@@ -200,7 +200,7 @@ QWidget* Builder::make(const GridBox& declared)
     return grid;
 }
 
-// What a person works with first: the chart or the grid, or else a button.
+// The widget with the initial focus: the chart, else the grid, else the first button.
 QWidget* firstInUse(const WindowWidget& window)
 {
     if (auto* chart = window.findChild<ChartWidget*>())
@@ -221,7 +221,7 @@ void buildWidgets(WindowWidget& window)
     QBoxLayout* layout = Builder(window).arrange(declaration.content);
     layout->setContentsMargins(margin, margin, margin, margin);
     window.setLayout(layout);
-    // The layout by itself has a sentence shrink to less than its lines.
+    // The layout alone would let a wrapped label shrink below the height of its lines.
     if (layout->hasHeightForWidth())
         window.setMinimumHeight(layout->totalMinimumHeightForWidth(layout->totalMinimumSize().width()));
     const double larger = qMax(1., window.fontInfo().pointSizeF() / declaredPoints);

@@ -1,5 +1,5 @@
-// Makes a window's widgets from its declaration. From then on each shows its control. Its object name is the
-// control's name.
+// Creates a window's widgets from its declaration. Each widget displays its control from then on, and its
+// object name is the control's name.
 #pragma once
 
 #include "platform/desktop/windowwidget.h"

@@ -1,4 +1,5 @@
-// The top-level widget of a window. It lives on until the end of the event in which its window is destroyed.
+// The top-level widget of a window. It is deleted after the event in which its window is destroyed, because
+// that may happen in a handler of one of its own buttons.
 #pragma once
 
 #include "platform/controls.h"
@@ -17,14 +18,14 @@ public:
 
     Controls& controls() const { return *controls_; }
 
-    // Takes it from the screen at once and deletes it when the event is over.
+    // Hides the widget at once and deletes it after the current event.
     void retire();
 
 protected:
-    void closeEvent(QCloseEvent* event) override; // never closes by itself
+    void closeEvent(QCloseEvent* event) override; // leaves the decision to the window's handler
 
 private:
-    std::shared_ptr<Controls> controls_; // the widgets inside refer to them as long as they live
+    std::shared_ptr<Controls> controls_; // shared, because the child widgets refer to them
 };
 
 } // namespace plotvue

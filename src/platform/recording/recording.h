@@ -1,4 +1,4 @@
-// The platform in memory: it shows nothing, and a test sets what it answers.
+// A platform in memory, for tests: it displays nothing, and the test sets its answers.
 #pragma once
 
 #include "platform/platform.h"
@@ -7,16 +7,16 @@ namespace plotvue {
 
 class RecordingPlatform : public Platform {
 public:
-    Text clipboard; // empty: holds no text
+    Text clipboard; // empty: no text
 
-    // How the printer dialog is answered; cancelled at the start.
+    // The answer to the printer dialog; by default it is cancelled.
     struct Printer {
         enum class Answer {
             Cancel,
             Accept,
             Fail
-        } answer = Answer::Cancel; // Fail: one copy, which cannot be printed
-        double copies = 1;         // accepted
+        } answer = Answer::Cancel; // Fail: accepts one copy, which cannot be printed
+        double copies = 1;         // for Accept
     } printer;
 
     Text clipboardText() override { return clipboard; }
@@ -24,7 +24,7 @@ public:
     double choosePrinter(Window& window) override;
 
 protected:
-    void showMessage(TextSpan, TextSpan) override {} // acknowledged at once
+    void showMessage(TextSpan, TextSpan) override {} // returns at once
     void reportError(TextSpan) override {}
     void spin(int) override {}
     void finish() override {}

@@ -10,8 +10,8 @@ namespace {
 
 constexpr double radius = 2, minRoundedWidth = 8, hatchDistance = 5;
 
-// Only the end as a path: paths are slow in proportion to what they fill. It overlaps the rest by one, lest a
-// printer leave a seam.
+// Draws only the rounded end as a path, because filling a large path is slow. The path overlaps the rectangle
+// by one unit so that no seam is printed.
 void fillRounded(QPainter& painter, const QRectF& box, BarEnd end, const QColor& colour)
 {
     const double r = qMin(radius, qMin(box.width() / 4, box.height() / 2));
@@ -32,7 +32,7 @@ void fillRounded(QPainter& painter, const QRectF& box, BarEnd end, const QColor&
     painter.fillPath(path, colour);
 }
 
-// Cut off at the box by hand: clipping makes printed pages large and slow.
+// Computes lines that end at the box, because clipping makes printed pages large and slow.
 QList<QLineF> hatching(const QRectF& box)
 {
     QList<QLineF> lines;

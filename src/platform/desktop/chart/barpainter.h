@@ -1,4 +1,4 @@
-// One bar, or the swatch that stands for it.
+// Paints a bar, or its swatch in a legend.
 #pragma once
 
 #include "platform/desktop/chart/chartcolours.h"
@@ -14,7 +14,7 @@ enum class BarEnd { Square, RoundTop, RoundBottom };
 struct BarLook {
     BarColours colours;
     QColor paper;
-    bool projection = false; // a light tint, hatched, with a dashed outline
+    bool projection = false; // painted as a light tint with hatching and a dashed outline
 };
 
 void paintBar(QPainter& painter, const QRectF& box, const BarLook& look, BarEnd end);

@@ -107,7 +107,7 @@ public:
 private:
     ChartWidget* chart() const { return qobject_cast<ChartWidget*>(object()); }
 
-    mutable std::map<int, QAccessible::Id> points_; // those that were asked for
+    mutable std::map<int, QAccessible::Id> points_; // those that were requested so far
 };
 
 QAccessibleInterface* makeAccessible(const QString&, QObject* object)

@@ -1,14 +1,14 @@
-// What assistive technology is told about a chart: its titles as name, and a child for each point, whose name
-// is its read-out.
+// Accessibility of a chart. Its name is its titles; each point is a child whose name is the text of its
+// read-out.
 #pragma once
 
 namespace plotvue {
 
 class ChartWidget;
 
-// Installs it for the whole process; costs nothing until assistive technology is in use.
+// Installs the accessibility factory for the process. It has no cost until assistive technology is used.
 void offerChartsToAssistiveTechnology();
-void announceContent(ChartWidget& chart); // tells that the names of the chart and its points may have changed
+void announceContent(ChartWidget& chart); // the names of the chart and its points may have changed
 void announceCurrentPoint(ChartWidget& chart);
 
 } // namespace plotvue

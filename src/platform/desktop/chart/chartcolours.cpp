@@ -8,14 +8,14 @@ namespace {
 
 constexpr double enoughContrast = 3;
 
-// sRGB's transfer function, IEC 61966-2-1.
+// The transfer function of sRGB, IEC 61966-2-1.
 double linear(double channel)
 {
     return channel <= .04045 ? channel / 12.92 : std::pow((channel + .055) / 1.055, 2.4);
 }
 
 // Relative luminance and contrast ratio (1 to 21) as the Web Content Accessibility Guidelines 2.1 define
-// them; they ask for 3 of graphics.
+// them. They require a ratio of at least 3 for graphics.
 double luminance(const QColor& colour)
 {
     return .2126 * linear(colour.redF()) + .7152 * linear(colour.greenF()) + .0722 * linear(colour.blueF());
@@ -55,12 +55,12 @@ ChartInks::ChartInks(const QPalette& palette)
 BarColours barColours(const chart::PlotData::Series& series, const ChartInks& inks)
 {
     const QColor asked(series.colour.red, series.colour.green, series.colour.blue);
-    if (series.ownColour) // exactly as asked; an edge sets it off
+    if (series.ownColour) // exactly as requested, with an outline for contrast
         return {asked, mixed(asked, Qt::black, .35)};
     if (contrast(asked, inks.paper) >= enoughContrast)
         return {asked, {}};
-    // On dark paper the deep colours are lightened; on light paper the light ones keep their hue and get an
-    // edge.
+    // On a dark background, dark colours are lightened. On a light one, light colours are kept and get an
+    // outline.
     if (luminance(inks.paper) < luminance(inks.ink))
         return {readable(asked, inks.paper, inks.ink), {}};
     return {asked, mixed(asked, inks.ink, .25)};

@@ -12,14 +12,14 @@ QColor mixed(const QColor& from, const QColor& to, double share); // share 0: `f
 
 struct ChartInks {
     explicit ChartInks(const QPalette& palette);
-    QColor paper, ink, soft, grid, axis, band; // band: of the current point's slot
+    QColor paper, ink, soft, grid, axis, band; // band: the highlighted slot of the current point
 };
 
 struct BarColours {
     QColor fill;
-    QColor outline; // invalid where the fill needs none to be seen on the paper
+    QColor outline; // invalid if the fill has enough contrast to the paper
 };
-// Readable on the paper of `inks`, light or dark.
+// Colours with enough contrast to the light or dark paper of `inks`.
 BarColours barColours(const chart::PlotData::Series& series, const ChartInks& inks);
 
 QPalette whitePaper();

@@ -8,7 +8,7 @@ namespace plotvue {
 
 namespace {
 
-// As parts of the window's own size.
+// Relative to the size of the window's font.
 constexpr double smallSize = .92, mediumTitleSize = 1.25, largeTitleSize = 1.5;
 constexpr double minPoints = 7.5; // smaller type is hard to read
 
@@ -23,7 +23,7 @@ QFont resized(const QFont& base, double factor, QFont::Weight weight = QFont::No
     return font;
 }
 
-// A size in pixels means pixels of every device.
+// A font whose size is set in pixels keeps that number of pixels on every device.
 double unitsPerPoint(const QFont& base, int baseDpi, const QPaintDevice& device)
 {
     return base.pointSizeF() > 0 ? double(baseDpi) / qMax(1, device.logicalDpiY()) : 1;
@@ -34,7 +34,7 @@ double pointsOf(const QFont& base, int baseDpi)
     return base.pointSizeF() > 0 ? base.pointSizeF() : base.pixelSize() * 72. / qMax(1, baseDpi);
 }
 
-// By role.
+// Indexed by TextRole.
 std::array<QFont, chart::textRoles> fontsFor(const QFont& base, int baseDpi, double factor)
 {
     const double tinySize = minPoints / pointsOf(base, baseDpi);

@@ -1,4 +1,4 @@
-// The fonts of a chart, all derived from the window's font, and how much room text takes in them.
+// The fonts of a chart, derived from the window's font, and the size of text in them.
 #pragma once
 
 #include "chart/layout.h"
@@ -12,7 +12,7 @@ namespace plotvue {
 
 class ChartFonts : public chart::Metrics {
 public:
-    // Fonts that are as large on `device` as `base` is at `baseDpi`.
+    // Fonts that take as many units on `device` as `base` takes pixels at `baseDpi`.
     ChartFonts(const QFont& base, int baseDpi, const QPaintDevice& device);
 
     const QFont& font(chart::TextRole role) const { return fonts_[static_cast<std::size_t>(role)]; }
@@ -20,7 +20,7 @@ public:
     double height(chart::TextRole role) const override;
 
 private:
-    std::array<QFont, chart::textRoles> fonts_; // by role
+    std::array<QFont, chart::textRoles> fonts_; // indexed by TextRole
     std::array<QFontMetricsF, chart::textRoles> metrics_;
 };
 

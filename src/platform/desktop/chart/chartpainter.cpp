@@ -106,7 +106,7 @@ void ChartPainter::paintBars()
         const QRectF box = toQRectF(bar.box);
         const BarEnd far = bar.up ? BarEnd::RoundTop : BarEnd::RoundBottom;
         paintBar(painter_, box, looks_[bar.series], bar.end ? far : BarEnd::Square);
-        if (!bar.end && box.height() > 3) { // keeps the parts of a stack apart
+        if (!bar.end && box.height() > 3) { // separates the bars of a stack
             const double y = bar.up ? box.top() : box.bottom() - layout_.hairline;
             paintRule({box.left(), y, box.width(), layout_.hairline}, inks_.paper);
         }
@@ -117,7 +117,7 @@ void ChartPainter::paintBars()
 
 void ChartPainter::paintValues(int current)
 {
-    for (const chart::SlotValue& value : layout_.values) { // no grid line runs through a figure
+    for (const chart::SlotValue& value : layout_.values) { // hide the grid lines under the figure
         painter_.fillRect(toQRectF(value.figure.box).adjusted(-2, 1, 2, -1),
                           value.slot == current ? inks_.band : inks_.paper);
     }

@@ -1,4 +1,4 @@
-// Draws a chart that has been laid out.
+// Paints a chart from its layout.
 #pragma once
 
 #include "chart/layout.h"
@@ -13,14 +13,15 @@ namespace plotvue {
 
 QRectF toQRectF(const chart::Rect& box);
 
-// How a line of text is aligned in its box.
+// Text flags for a line of text in its box.
 inline constexpr int oneLine = Qt::TextSingleLine | Qt::TextDontClip | Qt::AlignVCenter;
 
-// `layout` is that of `data`; `current` the point that is marked, -1: none. Covers the whole paper.
+// `layout` must be the layout of `data`. `current` is the point to highlight; -1: none. Paints the whole area
+// of the layout.
 void paintChart(QPainter& painter, const chart::PlotData& data, const chart::Layout& layout,
                 const QPalette& palette, const ChartFonts& fonts, int current);
 
-// The card that reads a point out, beside its slot.
+// Paints the read-out of the current point: a card beside its slot.
 void paintReadout(QPainter& painter, const chart::PlotData& data, const chart::Layout& layout,
                   const QPalette& palette, const ChartFonts& fonts, int current);
 

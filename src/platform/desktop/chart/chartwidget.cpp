@@ -31,7 +31,7 @@ void ChartWidget::setChart(const Chart& chart)
     update();
     if (announcing_)
         return;
-    announcing_ = true; // once for all that one redraw changes
+    announcing_ = true; // one announcement for all changes of a redraw
     QMetaObject::invokeMethod(
         this,
         [this] {
@@ -120,13 +120,13 @@ void ChartWidget::mouseMoveEvent(QMouseEvent* event)
 
 void ChartWidget::leaveEvent(QEvent*)
 {
-    // A point chosen by key stays when the pointer, at rest since, is taken away.
+    // A point that was chosen by key stays current when the mouse leaves.
     if (hovering_)
         setCurrentPoint(-1);
     hovering_ = false;
 }
 
-// Absent for a key that is none of the chart's.
+// The point that the key moves to; absent if the chart does not use the key.
 std::optional<int> ChartWidget::pointForKey(const QKeyEvent& event) const
 {
     const int last = points() - 1;
@@ -150,7 +150,7 @@ std::optional<int> ChartWidget::pointForKey(const QKeyEvent& event) const
 
 bool ChartWidget::event(QEvent* event)
 {
-    // A shown read-out has the first word on keys that are shortcuts of the window: Esc hides it first.
+    // The chart's keys take precedence over the window's shortcuts: Esc first hides the read-out.
     if (event->type() == QEvent::ShortcutOverride && pointForKey(static_cast<QKeyEvent&>(*event))) {
         event->accept();
         return true;

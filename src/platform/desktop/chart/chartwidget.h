@@ -1,4 +1,4 @@
-// A chart in a window, with one current point that mouse, keys and assistive technology share.
+// The widget of a chart. Mouse, keyboard and assistive technology share one current point.
 #pragma once
 
 #include "platform/desktop/chart/chartfonts.h"
@@ -19,16 +19,16 @@ public:
     const Chart& chart() const { return chart_; }
     const chart::PlotData& plotData() const { return *data_; }
 
-    int points() const { return data_->pointCount(); } // an empty slot at the end is none
+    int points() const { return data_->pointCount(); } // without an empty slot at the end
     int currentPoint() const { return current_; }      // -1: none
-    void setCurrentPoint(int point);                   // -1 or what is no point: none
+    void setCurrentPoint(int point);                   // -1 or a number that is no point: none
     int pointAt(QPoint position) const;                // -1: none
     QRect pointRect(int point) const;                  // its whole slot, in widget coordinates
 
-    const chart::Layout& chartLayout() const; // where everything is at the widget's size
+    const chart::Layout& chartLayout() const; // for the current size of the widget
 
-    // Draws the chart as on paper: vectors on white, whatever the desktop's colours are, without a current
-    // point. It covers the widget's size from the painter's origin on, in the painter's units.
+    // Paints the chart for printing: as vectors on white, without a current point. It covers the widget's
+    // size in units of the painter, from its origin.
     void paint(QPainter& painter) const;
 
     QSize minimumSizeHint() const override { return {280, 220}; }
@@ -49,13 +49,13 @@ private:
     std::optional<int> pointForKey(const QKeyEvent& event) const;
 
     Chart chart_;
-    std::optional<chart::PlotData> data_; // of the chart
+    std::optional<chart::PlotData> data_; // refers to chart_
     int current_ = -1;
     bool hovering_ = false;
-    bool byKey_ = false; // the focus came by key or a key was used: a frame shows it
+    bool byKey_ = false; // whether to draw the focus frame: the focus came by key, or a key was used
     bool announcing_ = false;
 
-    // Kept until the size, the chart, the font or the device changes.
+    // Cached until the size, the chart, the font or the device pixel ratio changes.
     mutable std::optional<ChartFonts> fonts_;
     mutable std::optional<chart::Layout> layout_;
     mutable QSize layoutSize_;

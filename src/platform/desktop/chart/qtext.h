@@ -1,4 +1,4 @@
-// Text between the system and the toolkit.
+// Conversion between the application's text and the toolkit's.
 #pragma once
 
 #include "capture/text.h"

@@ -16,7 +16,7 @@ constexpr double rowHeight = 1.25, besideSlot = 8, fromEdge = 4;
 struct Row {
     Text name;
     QString figure;
-    int series = -1; // of the data; -1: the total
+    int series = -1; // index of the series; -1: the total
 };
 
 std::vector<Row> rowsOf(const chart::PlotData& data, int slot)
@@ -45,7 +45,7 @@ public:
     {
         bold_ = fonts.font(TextRole::Small);
         bold_.setWeight(QFont::DemiBold);
-        // A bold figure is a little wider than the plain one that is measured.
+        // Widths are measured in the normal weight; `boldness` adds what bold figures need.
         const auto width = [&](TextSpan text) { return fonts.width(text, TextRole::Small); };
         const double maxWidth = layout.paper.width * .5;
         const auto fitted = [&](const Text& text) { return toQString(chart::elided(text, maxWidth, width)); };
