@@ -1,6 +1,6 @@
 // When a screen is copied, terminals drop the blanks at the ends of lines or fill every line with blanks. The
 // windows look the same in both cases.
-#include "desktop/samples_fixture.h"
+#include "desktop/samplesfixture.h"
 #include "platform/desktop/chart/chartwidget.h"
 #include "platform/desktop/chart/qtext.h"
 #include "platform/desktop/grid.h"

@@ -1,5 +1,5 @@
 // In the initial size of a window, no label and no title of its charts is left out or elided.
-#include "desktop/samples_fixture.h"
+#include "desktop/samplesfixture.h"
 #include "platform/desktop/chart/chartwidget.h"
 #include "platform/desktop/chart/qtext.h"
 #include "platform/desktop/grid.h"

@@ -1,6 +1,6 @@
 // When windows appear on the screen, how the clipboard is read, and printing.
 #include "app/application.h"
-#include "desktop/desktop_fixture.h"
+#include "desktop/desktopfixture.h"
 #include "platform/desktop/chart/chartwidget.h"
 #include "platform/desktop/clipboard.h"
 #include "support/capturebuilder.h"

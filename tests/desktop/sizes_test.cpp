@@ -1,6 +1,6 @@
 // Every window fits a small screen. At any size, no widget overlaps another, extends beyond its parent or is
 // cut off.
-#include "desktop/samples_fixture.h"
+#include "desktop/samplesfixture.h"
 #include "platform/desktop/grid.h"
 
 #include <QApplication>

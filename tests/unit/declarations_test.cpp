@@ -1,7 +1,7 @@
 // The accessible names and the shortcuts of each window.
 #include "app/application.h"
 #include "platform/recording/recording.h"
-#include "window_fixture.h"
+#include "windowfixture.h"
 
 namespace plotvue::test {
 namespace {

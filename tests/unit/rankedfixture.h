@@ -5,7 +5,7 @@
 #include "ranked/analyses.h"
 #include "ranked/profitanalysis.h"
 #include "support/capturebuilder.h"
-#include "window_fixture.h"
+#include "windowfixture.h"
 
 #include <filesystem>
 

@@ -1,4 +1,4 @@
-#include "desktop/desktop_fixture.h"
+#include "desktop/desktopfixture.h"
 #include "platform/desktop/chart/chartwidget.h"
 
 #include <QAccessible>

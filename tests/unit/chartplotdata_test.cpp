@@ -1,5 +1,5 @@
 #include "chart/plotdata.h"
-#include "unit/chart_fixture.h"
+#include "unit/chartfixture.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

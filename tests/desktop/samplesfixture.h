@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/application.h"
-#include "desktop/desktop_fixture.h"
+#include "desktop/desktopfixture.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,4 +1,4 @@
-#include "unit/chart_fixture.h"
+#include "unit/chartfixture.h"
 
 #include <gtest/gtest.h>
 

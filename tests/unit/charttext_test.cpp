@@ -1,5 +1,5 @@
 // Titles and legend of the chart's layout.
-#include "unit/chart_fixture.h"
+#include "unit/chartfixture.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "chart/figuretext.h"
 #include "chart/scale.h"
-#include "unit/chart_fixture.h"
+#include "unit/chartfixture.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // What both salesman/category windows do alike.
 #include "group/frmqxm21cxs.h"
 #include "group/frmqxm21sxc.h"
-#include "group_fixture.h"
+#include "groupfixture.h"
 
 namespace plotvue::test {
 namespace {

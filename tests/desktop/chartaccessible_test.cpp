@@ -1,4 +1,4 @@
-#include "desktop/chart_sample.h"
+#include "desktop/chartsample.h"
 
 #include <QAccessible>
 

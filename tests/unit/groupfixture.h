@@ -2,7 +2,7 @@
 #pragma once
 
 #include "support/capturebuilder.h"
-#include "window_fixture.h"
+#include "windowfixture.h"
 
 #include <algorithm>
 

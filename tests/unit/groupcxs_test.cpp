@@ -1,4 +1,4 @@
-#include "group_fixture.h"
+#include "groupfixture.h"
 
 namespace plotvue::test {
 namespace {
