@@ -33,8 +33,6 @@ MonthPlace placeInCalendar(const MonthlyScreen&, const ScreenLines&, int month)
 
 int yearAfterSlash(const ScreenLines& lines)
 {
-    if (lines.count() < yearLine)
-        return 0;
     const TextSpan line = lines[yearLine];
     return readLine(line, [&] {
         return toInt16(leadingNumber(mid(line, find(line, u"/") + 1, 4)), u"The first year on the screen");

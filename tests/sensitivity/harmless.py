@@ -8,7 +8,7 @@ NOT_USED = "is set before it is used"
 OTHER_THINGS = "each rule takes other things from the line, so their order cannot be seen"
 ONLY_WHERE = "only which places are compared at all, never what is found there"
 NOTHING_MORE = "nothing is left for the one step more"
-NOTHING_THERE = "the slot behind the last one has no label and no figure"
+NOTHING_THERE = "the slot after the last one has no label and no figure"
 ZERO = "zero is added, to whichever it may be"
 TOLERANCE = "only a deviation exactly as large as the tolerance"
 SYSTEM_CALL = "no open, read or write of a file gives that, or what it gives is all the same"
@@ -16,10 +16,10 @@ SYSTEM_CALL = "no open, read or write of a file gives that, or what it gives is 
 # By the file, then by what the change, told without its line number, holds.
 HARMLESS = {
     r"capture/month": {
-        r"\+ 3, \[2 -> 3\]": "behind the two digits of every month in the table stands a letter",
+        r"\+ 3, \[2 -> 3\]": "a letter follows the two digits of every month in the table",
     },
     r"capture/number": {
-        r"(data|text)\(?\)?\.?(data\(\))?\[ \+ -> - \](number|text)\.size": "the null behind the text ends the number too",
+        r"(data|text)\(?\)?\.?(data\(\))?\[ \+ -> - \](number|text)\.size": "the null after the text ends the number too",
         r"exponent = \[0|exponent\[ < -> <= \]0|exponent < \[0": "what is out of range is far from the limit",
         r"buffer\{\}|char, \[32": "the buffer is larger than any number",
     },
@@ -33,9 +33,6 @@ HARMLESS = {
         r"\? screen\.firstYear.* : \[0": "the first year of a screen that has none is not used",
         r"double part = \[": NOT_USED,
     },
-    r"history/frmglarch": {
-        r"yearLine = \[4 -> 3": "a fourth line that is not there has no year, and the reader runs out at once",
-    },
     r"window\.cpp|drilldown": {
         r"types\.empty\(\) \? \[0": "what draws a chart without types does not look at it",
     },
@@ -45,7 +42,7 @@ HARMLESS = {
         r"u\"YTD\" <-> u\"QTY\"": "a screen without either word is left alike",
     },
     r"group/": {
-        r"mid\(rest, 1, end( - \[1 -> 0\]|\[ - -> \+ \]1)": "the semicolon behind a figure ends the number",
+        r"mid\(rest, 1, end( - \[1 -> 0\]|\[ - -> \+ \]1)": "the semicolon after a figure ends the number",
         r"i\[ < -> <= \]maxGroups \* valuesPerGroup": NOTHING_MORE,
     },
     r"ranked/exchange": {
@@ -57,7 +54,7 @@ HARMLESS = {
         r"searchedLines = \[1000 -> 1001": NOTHING_MORE,
         r" <-> .*ScreenText": OTHER_THINGS,
         r"\"Mlabel\".* <-> .*\"1:\"": OTHER_THINGS,
-        r"\{\.marker = u\"GAIN:\".* <-> \{\.marker = u\"P:\"": "what both take stands in the same columns of the same line",
+        r"\{\.marker = u\"GAIN:\".* <-> \{\.marker = u\"P:\"": "both take the same columns of the same line",
         r"u\"GAIN:\" <-> u\"P:\"": "either mark is asked for, in any order",
     },
     r"chart/figuretext": {
@@ -66,9 +63,9 @@ HARMLESS = {
     },
     r"chart/(scale|layout)": {
         r"return value\[ > -> >= \]0\.5": "a half is no whole number",
-        r"std::round\(value\)\)\[ < -> <= \]1e-6|least \* \(1 - tolerance|high - low\[ < -> <= \]unit \* tolerance": TOLERANCE,
+        r"std::round\(value\)\)\[ < -> <= \]1e-6|minStep \* \(1 - tolerance|high - low\[ < -> <= \]unit \* tolerance": TOLERANCE,
         r"\(value.*\[ < -> <= \]0 \? down : up\) \+= value": ZERO,
-        r"int slot = 0; slot\[ < -> <= \](input\.figures\.slotCount\(\)|layout\.pointCount|figures\.pointCount)": NOTHING_THERE,
+        r"int slot = 0; slot\[ < -> <= \](input\.data\.slotCount\(\)|layout\.pointCount|data\.pointCount)": NOTHING_THERE,
     },
     r"app/(recognition|markersearch)": {
         r"characters = |with(First|Last)|found & |possible (==|>>)": ONLY_WHERE,
