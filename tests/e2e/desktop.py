@@ -141,9 +141,11 @@ class Desktop:
     def window(self, title):
         """Waits until the window is shown and has the focus; returns its number."""
         number = soon(f"the window {title!r} is shown", lambda: self.windows().get(title))
-        soon(f"the window {title!r} has the focus",
-             lambda: self.output("xdotool", "getwindowfocus").strip() == number)
+        self.focused(number)
         return number
+
+    def focused(self, number):
+        soon("the window has the focus", lambda: self.output("xdotool", "getwindowfocus").strip() == number)
 
     def gone(self, title):
         soon(f"the window {title!r} goes", lambda: title not in self.windows())
