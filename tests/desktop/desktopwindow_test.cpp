@@ -261,6 +261,15 @@ TEST_F(DesktopWindowTest, TitleBarRunsTheCloseHandler)
     EXPECT_TRUE(every.widget().isVisible());
 }
 
+TEST_F(DesktopWindowTest, IsNoLongerHeardOnceItIsDestroyed)
+{
+    QPushButton& button = find<QPushButton>("&Go");
+    every.window.reset();
+    button.click(); // the widgets live on until the end of the event
+    EXPECT_THAT(ran, ElementsAre());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 TEST_F(DesktopWindowTest, CanBeUnloadedByItsOwnButton)
 {
     every.controls = std::make_shared<Controls>(test::everyControl(),
