@@ -145,7 +145,11 @@ class Desktop:
         return number
 
     def focused(self, number):
-        soon("the window has the focus", lambda: self.output("xdotool", "getwindowfocus").strip() == number)
+        soon("the window has the focus", lambda: self.focus() == number)
+
+    def focus(self):
+        """The number of the window that has the focus."""
+        return self.output("xdotool", "getwindowfocus").strip()
 
     def gone(self, title):
         soon(f"the window {title!r} goes", lambda: title not in self.windows())
