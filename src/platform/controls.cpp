@@ -55,7 +55,6 @@ const Text& Grid::cell(int row, int column) const
 
 Controls::Controls(Declaration declared, Handlers handlers, std::function<void()> close)
     : declaration(std::move(declared)),
-      caption(Text(declaration.caption)),
       handlers_(std::move(handlers)),
       close_(std::move(close))
 {

@@ -92,7 +92,6 @@ public:
 
     const Declaration declaration; // the initial state of the controls
 
-    Shown<Text> caption;
     Shown<Text>& text(Name labelOrTextBox) { return texts_.at(labelOrTextBox); }
     Shown<OptionGroup>& options(Name group) { return options_.at(group); }
     Shown<Grid>& grid(Name name) { return grids_.at(name); }

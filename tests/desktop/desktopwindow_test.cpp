@@ -60,8 +60,6 @@ TEST_F(DesktopWindowTest, ShowsEachChangeOfItsControls)
 {
     onScreen();
     Controls& controls = *every.controls;
-    controls.caption.set(u"New & caption");
-    EXPECT_EQ(every.widget().windowTitle(), "New & caption");
     controls.text("Label1").set(u"two\r\nlines\r");
     EXPECT_EQ(every.widget().findChild<QLabel*>("Label1")->text(), "two\nlines");
     controls.text("txt").set(Text(u"nul \0 gone\r", 11));

@@ -121,7 +121,7 @@ bool Session::visible(Name window)
 
 Text Session::caption(Name window)
 {
-    return *controls(window).caption;
+    return Text(controls(window).declaration.caption);
 }
 
 Chart Session::chart(Name window, Name control)

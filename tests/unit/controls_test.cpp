@@ -55,7 +55,6 @@ protected:
 
 TEST_F(ControlsTest, HaveTheDeclaredValues)
 {
-    EXPECT_EQ(*controls.caption, u"All");
     EXPECT_EQ(*controls.text("lblA"), u"label");
     EXPECT_EQ(*controls.text("txtA"), u"");
     EXPECT_EQ(controls.chart("ChartA")->titles.at(2), u"by design");
@@ -146,9 +145,9 @@ TEST_F(ControlsTest, AreDisplayedOncePerChange)
         chart.SetAxisMax(10);
     });
     EXPECT_EQ(shown, 1);
-    controls.caption.changed = [&] { ++shown; };
-    controls.caption.set(u"Other");
-    EXPECT_EQ(*controls.caption, u"Other");
+    controls.text("lblA").changed = [&] { ++shown; };
+    controls.text("lblA").set(u"other");
+    EXPECT_EQ(*controls.text("lblA"), u"other");
     EXPECT_EQ(shown, 2);
 }
 

@@ -214,10 +214,8 @@ QWidget* firstInUse(const WindowWidget& window)
 
 void buildWidgets(WindowWidget& window)
 {
-    Shown<Text>& caption = window.controls().caption;
-    caption.changed = [&window, &caption] { window.setWindowTitle(toQString(*caption)); };
-    caption.changed();
     const Declaration& declaration = window.controls().declaration;
+    window.setWindowTitle(toQString(declaration.caption));
     QBoxLayout* layout = Builder(window).arrange(declaration.content);
     layout->setContentsMargins(margin, margin, margin, margin);
     window.setLayout(layout);
