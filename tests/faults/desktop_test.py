@@ -117,7 +117,8 @@ class OnTheDesktop(DesktopTest):
         rows = self.desktop.window(LIST)
         self.desktop.key("Return")
         soon("a row is charted", lambda: (here / "plotvue.txt").exists())
-        charts = soon("the charts have the focus", lambda: self.desktop.focus() not in ("", rows) and self.desktop.focus())
+        charts = soon("the charts have the focus",
+                      lambda: self.desktop.focus() not in ("", rows) and self.desktop.focus())
         self.desktop.key("Page_Down", "ctrl+p")
         self.desktop.window("Print")
         self.desktop.key("Escape")

@@ -45,7 +45,7 @@ HARMLESS = {
         r"mid\(rest, 1, end( - \[1 -> 0\]|\[ - -> \+ \]1)": "the semicolon after a figure ends the number",
         r"i\[ < -> <= \]maxGroups \* valuesPerGroup": NOTHING_MORE,
     },
-    r"ranked/exchange": {
+    r"ranked/smallfile": {
         r"descriptor|written|count|buffer\[|done|good": SYSTEM_CALL,
     },
     r"ranked/": {
@@ -63,12 +63,14 @@ HARMLESS = {
     },
     r"chart/(scale|layout)": {
         r"return value\[ > -> >= \]0\.5": "a half is no whole number",
-        r"std::round\(value\)\)\[ < -> <= \]1e-6|minStep \* \(1 - tolerance|high - low\[ < -> <= \]unit \* tolerance": TOLERANCE,
+        r"std::round\(value\)\)\[ < -> <= \]1e-6|minStep \* \(1 - tolerance": TOLERANCE,
+        r"high - low\[ < -> <= \]unit \* tolerance|<= -> < \]scale\.max \+ step \* tolerance": TOLERANCE,
         r"\(value.*\[ < -> <= \]0 \? down : up\) \+= value": ZERO,
         r"int slot = 0; slot\[ < -> <= \](input\.data\.slotCount\(\)|layout\.pointCount|data\.pointCount)": NOTHING_THERE,
     },
     r"app/(recognition|markersearch)": {
         r"characters = |with(First|Last)|found & |possible (==|>>)": ONLY_WHERE,
+        r"static_assert": "the compiler checks it, and no list of screens violates it",
         r"i\[ < -> <= \](screens|markers)": "no candidate has a bit after the last marker's",
     },
 }

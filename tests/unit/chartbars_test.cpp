@@ -140,6 +140,9 @@ TEST(ChartBars, OfAComponentOfZeroAreFlat)
     EXPECT_EQ(layout.bars[0].box.height, 2);
     EXPECT_GT(layout.bars[0].box.width, 20);
     EXPECT_EQ(layout.bars[1].box.top, layout.zero);
+    const ChartDesign design{ChartDesign::Bars::Grouped, ChartDesign::Labels::Names};
+    EXPECT_EQ(laidOut(chart, design, {448, 260}, 1.5).bars[0].box.height, 2 / 1.5)
+        << "two pixels of the screen";
 
     chart.labels = {u"A"}; // a labelled slot with two series, which are not components
     EXPECT_EQ(laidOut(chart, {}, {448, 260}).bars.size(), 1U);

@@ -129,6 +129,8 @@ TEST(ChartLabels, WithAYearInAllButOneAreNotOfWholeYears)
     const Layout layout = laidOut(bars(labels), {}, {42 + 12 * 12, 251});
     EXPECT_TRUE(layout.yearRules.empty());
     EXPECT_EQ(layout.labels.size(), 6U) << "two digits are as wide as a slot: every second label";
+    EXPECT_TRUE(laidOut(bars({u"DEC", u"J99"}), {}, {442, 251}).yearRules.empty())
+        << "as many with as without";
 }
 
 TEST(ChartLabels, HaveNoLineBeforeTheFirstMonth)

@@ -87,6 +87,9 @@ TEST(ChartScale, KeepsGivenEnds)
     EXPECT_EQ(ticks(scaleFor({0, 20}, {{}, 25, 0, 4})), "0 10 20");
     EXPECT_EQ(scaleFor({0, 20}, {0, 20, 0, 5}).max, 20);
     EXPECT_EQ(scaleFor({0, 1e9}, {{}, 1e9 + 5, 0, 5}).max, 1e9 + 5);
+    const Scale tight = scaleFor({-7, 93}, {-7, 93, 0, 5});
+    EXPECT_EQ(tight.min, -7) << "the end of the longest bar";
+    EXPECT_EQ(tight.max, 93);
 }
 
 TEST(ChartScale, IgnoresAnEndThatWouldCutABar)
@@ -106,6 +109,7 @@ TEST(ChartScale, IgnoresBothEndsIfTheMaximumIsNotAboveTheMinimum)
     EXPECT_EQ(ticks(scaleFor({0, 20}, {{}, 0, 0, 4})), "0 5 10 15 20");
     EXPECT_EQ(ticks(scaleFor({0, 20}, {8, 8, 0, 4})), "0 5 10 15 20");
     EXPECT_EQ(ticks(scaleFor({0, 0}, {0, 0, 0, 4})), "0 1");
+    EXPECT_EQ(ticks(scaleFor({5.5, 5.5}, {5.5, 5.5, 0, 4})), "5 6");
     const Scale allNegative = scaleFor({-20, 0}, {{}, 0, 0, 4});
     EXPECT_EQ(allNegative.max, 0);
     EXPECT_EQ(allNegative.min, -20);
