@@ -105,10 +105,14 @@ void writeSmallFile(const char* name, const std::string& bytes)
     if (!file.isOpen())
         failFor(name, u"cannot be created");
     file.mustBeOnDisk(name, u"cannot be written");
-    DWORD written = 0;
-    const bool good =
-        WriteFile(file.handle(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-    if (!good || !file.close())
+    for (std::size_t done = 0; done < bytes.size();) {
+        DWORD written = 0; // fewer bytes than asked for if the disk fills up; then the next call fails
+        if (!WriteFile(file.handle(), bytes.data() + done, static_cast<DWORD>(bytes.size() - done), &written,
+                       nullptr))
+            failFor(name, u"cannot be written");
+        done += written;
+    }
+    if (!file.close())
         failFor(name, u"cannot be written");
 }
 
