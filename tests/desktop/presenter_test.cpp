@@ -143,13 +143,6 @@ TEST_F(PresenterTest, RebuiltWindowAppearsWhereThePreviousOneWas)
     EXPECT_EQ(every.widget().geometry().topLeft(), place);
 }
 
-TEST_F(PresenterTest, ClipboardTextIsUnchangedApartFromLineEnds)
-{
-    const Text raw(u"a\nb\r\nc\rd\n\n\r\r\n\0e\xD800", 17);
-    copy(raw);
-    EXPECT_EQ(platform.clipboardText(), Text(u"a\r\nb\r\nc\rd\r\n \r\n\r\r\n\0e\xD800", 21));
-}
-
 TEST_F(PresenterTest, TheClipboardIsReadOncePerEvent)
 {
     copy(u"a");

@@ -10,7 +10,7 @@ from desktop import CHART, PRODUCT, DesktopTest, soon
 BACKEND = """#!/bin/sh
 # backend JOB USER TITLE COPIES OPTIONS [FILE]
 [ $# -ge 5 ] || exit 0
-cat "${6:--}" >"$KEPT/$PRINTER-$1.pdf" && echo "$4" >"$KEPT/$PRINTER-$1.copies"
+cat "${6:--}" >"$KEPT/$PRINTER-$1.document" && echo "$4" >"$KEPT/$PRINTER-$1.copies"
 """
 
 CUPSD = """
@@ -112,8 +112,9 @@ class PrintServer:
     def page_pixels(self, job):
         """For every page of the job: how many pixels are not white."""
         pages = []
-        prefix = self.kept / "page"
-        subprocess.run(["pdftoppm", "-r", "40", "-gray", self.kept / f"{job}.pdf", prefix], check=True)
+        # Reads PDF, which the toolkit prints on this system, and PostScript, which Wine prints.
+        subprocess.run(["gs", "-q", "-dSAFER", "-sDEVICE=pgmraw", "-r40", "-dTextAlphaBits=4", "-dGraphicsAlphaBits=4",
+                        "-o", self.kept / "page%d.pgm", self.kept / f"{job}.document"], check=True)
         for page in sorted(self.kept.glob("page*.pgm")):
             pages.append(sum(byte < 250 for byte in page.read_bytes()[15:]))
             page.unlink()

@@ -1,8 +1,10 @@
-// A program that copies, as a terminal on Windows would.
+// A Windows program that copies, as a terminal would.
 //
-//     copier FILE            puts the text of FILE, in UTF-8, on the clipboard just as it is
-//     copier FILE SECONDS    the same, and keeps the clipboard open so long, so that no other program gets at
-//     it copier                 takes off the clipboard what is there
+// copier FILE            puts the text of FILE, in UTF-8, on the clipboard unchanged
+// copier FILE SECONDS    the same, and keeps the clipboard open for that time, so that no other program can
+//                        read it
+// copier --paste FILE    writes the text of the clipboard to FILE, in UTF-8
+// copier                 empties the clipboard
 #include "capture/utf8.h"
 
 #include <algorithm>
@@ -45,7 +47,7 @@ int main(int argc, char** argv)
 {
     if (argc == 3 && std::string_view(argv[1]) == "--paste")
         return paste(argv[2]) ? EXIT_SUCCESS : EXIT_FAILURE;
-    // Whoever opens the clipboard without a window of his own cannot put anything there.
+    // Only a program that opens the clipboard for a window can put a text there.
     HWND window = CreateWindowExA(0, "STATIC", "copier", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
     if (!window || !OpenClipboard(window) || !EmptyClipboard())
         return EXIT_FAILURE;

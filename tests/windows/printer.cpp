@@ -1,5 +1,5 @@
-// printer NAME COPIES: charts what is on the clipboard and presses Print, in a PlotVue whose printing dialog
-// answers with this printer and so many copies. All but the dialog is as in the program.
+// printer NAME COPIES: charts the text of the clipboard and presses Print. In place of the printer dialog, it
+// chooses that printer and number of copies. Everything else is as in the program.
 #include "app/application.h"
 #include "platform/desktop/desktopplatform.h"
 #include "platform/desktop/desktopwindow.h"

@@ -13,7 +13,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
 from desktop import (  # noqa: E402, F401: the tests here use them
     CHART, LIST, NEED_DATA, PRODUCT, START, Desktop, DesktopTest, NotInTime, ended, main, sample, soon)
 
-# Wine's own fonts are bitmaps and a serif; a Windows machine has the one that its dialogs ask for.
+# Without these, Wine shows bitmap fonts and a serif. A Windows machine has the fonts that its dialogs use.
 SETTINGS = r"""Windows Registry Editor Version 5.00
 
 [HKEY_LOCAL_MACHINE\Software\Microsoft\Windows NT\CurrentVersion\FontSubstitutes]
@@ -21,8 +21,12 @@ SETTINGS = r"""Windows Registry Editor Version 5.00
 "MS Shell Dlg 2"="DejaVu Sans"
 "Segoe UI"="DejaVu Sans"
 "Tahoma"="DejaVu Sans"
+
+; Wine itself places these windows, at once, as Windows does. Elsewhere the X window manager places them, a moment later.
+[HKEY_CURRENT_USER\Software\Wine\AppDefaults\desktoptests.exe\X11 Driver]
+"Managed"="N"
 """
-INSIDE = "PLOTVUE_WINE"  # set where such a desktop is there already
+INSIDE = "PLOTVUE_WINE"  # set for programs that run on such a desktop; they use it
 
 
 class Wine(Desktop):
@@ -36,7 +40,7 @@ class Wine(Desktop):
             return self
         super().__enter__()
         try:
-            # Wine hands on what is called QT_ only under such names.
+            # Wine hides variables whose names begin with QT_ from its programs, and passes on WINEQT_ as QT_.
             self.env.update(WINEPREFIX=str(self.home / "wine"), WINEDEBUG="-all", WINEQT_QPA_PLATFORM="windows",
                             WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=")
             self.env[INSIDE] = "1"
@@ -44,10 +48,10 @@ class Wine(Desktop):
             settings = self.home / "settings.reg"
             settings.write_text(SETTINGS)
             self.windows_program("regedit", "/S", f"Z:{settings}")
-            # Two sets of services run while it sets itself up, and lock each other out.
+            # While Wine creates its folder, two sets of its services run and block each other.
             subprocess.run(["wineserver", "--kill"], env=self.env, timeout=30, check=True)
             subprocess.run(["wineserver", "--wait"], env=self.env, timeout=60, check=True)
-            # Started by a program, it would end and start again between two.
+            # Otherwise the server ends after each program and starts again for the next.
             subprocess.run(["wineserver", "--persistent"], env=self.env, timeout=30, check=True)
             self.windows_program("cmd", "/c", "exit")
         except BaseException:
@@ -61,9 +65,9 @@ class Wine(Desktop):
         super().__exit__(*arguments)
 
     def windows_program(self, *command, seconds=60, **options):
-        """Runs it to its end, which must be a good one; returns what it prints."""
+        """Runs it until it ends, with exit code 0; returns its output."""
         options = {"cwd": self.home, "env": self.env, **options}
-        # Not a pipe: processes that Wine starts would keep it open.
+        # Not a pipe, because processes that Wine starts in the background would keep it open.
         with tempfile.TemporaryFile() as printed:
             subprocess.run(["wine", *map(str, command)], stdin=subprocess.DEVNULL, stdout=printed,
                            stderr=subprocess.DEVNULL, timeout=seconds, check=True, **options)

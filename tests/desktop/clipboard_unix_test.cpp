@@ -1,0 +1,18 @@
+#include "platform/desktop/clipboard.h"
+#include "platform/desktop/shown.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include <gtest/gtest.h>
+
+namespace plotvue {
+
+TEST(Clipboard, TextIsUnchangedApartFromLineEnds)
+{
+    const Text raw(u"a\nb\r\nc\rd\n\n\r\r\n\0e\xD800", 17);
+    QGuiApplication::clipboard()->setText(toQString(raw));
+    EXPECT_EQ(readClipboard(), Text(u"a\r\nb\r\nc\rd\r\n \r\n\r\r\n\0e\xD800", 21));
+}
+
+} // namespace plotvue
