@@ -1,6 +1,6 @@
 """Printing from under Wine to a print server, once the printing dialog has been answered."""
 
-from wine import PRODUCT, WineTest, main, soon  # isort: skip
+from wine import DEFAULT_PRINTER, PRODUCT, WineTest, main, soon  # isort: skip
 from printserver import PrintServer  # isort: skip
 
 
@@ -14,7 +14,7 @@ class Print(WineTest):
         self.assertEqual(len(jobs), 3)
         self.assertEqual(server.completed("first"), [])
         server.check_pages(self, jobs)
-        default = self.desktop.windows_program("reg", "query", r"HKCU\Software\Microsoft\Windows NT\CurrentVersion\Windows")
+        default = self.desktop.windows_program("reg", "query", DEFAULT_PRINTER)
         self.assertIn(b"second", default)
 
 

@@ -26,6 +26,7 @@ SETTINGS = r"""Windows Registry Editor Version 5.00
 [HKEY_CURRENT_USER\Software\Wine\AppDefaults\desktoptests.exe\X11 Driver]
 "Managed"="N"
 """
+DEFAULT_PRINTER = r"HKCU\Software\Microsoft\Windows NT\CurrentVersion\Windows"
 INSIDE = "PLOTVUE_WINE"  # set for programs that run on such a desktop; they use it
 
 
