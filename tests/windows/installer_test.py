@@ -67,6 +67,10 @@ class Installer(WineTest):
             return not self.working()
         soon("every PlotVue ends, and its folder goes", over)
 
+    def test_the_program_and_the_installer_are_small(self):
+        self.assertLess(Path(program).stat().st_size, 21_000_000)
+        self.assertLess(Path(setup).stat().st_size, 8_000_000)
+
     def test_a_user_installs_starts_and_removes_it(self):
         self.install()
         self.assertTrue(self.listed())
@@ -94,7 +98,8 @@ class Installer(WineTest):
         self.assertTrue(left.is_dir())
         (self.starts / "other").mkdir()
         self.start_entry()
-        soon("the folders are swept", lambda: not (self.starts / "other").exists() and not (left / "plotvue.txt").exists())
+        soon("the folders are swept",
+             lambda: not (self.starts / "other").exists() and not (left / "plotvue.txt").exists())
         soon("a window comes", self.desktop.windows)
         self.assertEqual(len(self.working()), 1)
         self.leave()
