@@ -35,12 +35,16 @@ class Clicks(WineTest):
         return number
 
     def copy(self, capture):
-        """An X program copies, and Wine has noticed. Wine misses it if a program has its clipboard open at that moment;
-        then the X program copies again."""
+        """An X program copies, and Wine has noticed."""
+        self.until_pasted(lambda: self.desktop.copy(capture), capture)
+
+    def until_pasted(self, copy, text):
+        """Calls `copy` until a Windows program would get the text: Wine misses a change of the clipboard now and then,
+        for example if a program has its clipboard open at that moment."""
         def taken():
-            self.desktop.copy(capture)
+            copy()
             with contextlib.suppress(NotInTime):
-                return soon("Wine has taken the capture", lambda: self.pasted() == capture, 5)
+                return soon("the text can be pasted", lambda: self.pasted() == text, 5)
         soon("Wine takes what is copied", taken)
 
     def pasted(self):
@@ -57,8 +61,8 @@ class Clicks(WineTest):
         file.write_bytes(text)
         self.leave_x_clipboard()
         if not seconds:
-            self.desktop.windows_program(copier, f"Z:{file}")
-            return soon("it is on the clipboard", lambda: self.pasted() == text)
+            self.until_pasted(lambda: self.desktop.windows_program(copier, f"Z:{file}"), text)
+            return None
         return self.desktop.launch("wine", copier, f"Z:{file}", *map(str, seconds))
 
     def leave_x_clipboard(self):
