@@ -40,8 +40,8 @@ target_link_libraries(desktoptests PRIVATE testsupport desktop GTest::gtest)
 plotvue_precompile(desktoptests <QtWidgets> <gtest/gtest.h>)
 target_compile_definitions(desktoptests PRIVATE PLOTVUE_SCREEN="${CMAKE_CURRENT_SOURCE_DIR}/desktop/screen.json")
 if(WIN32)
-  # FirstSize needs a screen with a scale of its own, and Copies
-  # a clipboard with bare line feeds, which the toolkit does not write on Windows.
+  # FirstSize needs a screen with a scale of its own, and Copies a clipboard with bare line feeds, which the toolkit does
+  # not write on Windows.
   add_test(NAME desktop COMMAND desktoptests --gtest_brief=1 --gtest_filter=-*FirstSize*:*Copies*)
   set_tests_properties(desktop PROPERTIES RESOURCE_LOCK desktop TIMEOUT 300)
   return()

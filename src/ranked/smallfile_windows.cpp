@@ -108,7 +108,8 @@ void writeSmallFile(const char* name, const std::string& bytes)
     for (std::size_t done = 0; done < bytes.size();) {
         DWORD written = 0; // fewer bytes than asked for if the disk fills up; then the next call fails
         if (!WriteFile(file.handle(), bytes.data() + done, static_cast<DWORD>(bytes.size() - done), &written,
-                       nullptr))
+                       nullptr) ||
+            written == 0)
             failFor(name, u"cannot be written");
         done += written;
     }
