@@ -160,13 +160,18 @@ class Clicks(WineTest):
         self.desktop.key("F5")
         self.window(LIST)
 
-    def test_copies_are_printed_on_the_printer_that_the_dialog_names(self):
+    def printing_dialog(self):
+        """Opens the printing dialog over a chart, with two printers; returns their print server."""
         server = PrintServer(self.desktop, ["first", "second"])
         self.addCleanup(server.close)
         self.copy(PRODUCT)
         self.charted(self.start(CHART))
         self.desktop.key("ctrl+p")
         self.window("Print")
+        return server
+
+    def test_copies_are_printed_on_the_printer_that_the_dialog_names(self):
+        server = self.printing_dialog()
         self.desktop.key("Down", "alt+c", "End", "BackSpace", "2", "Return")
         jobs = soon("two jobs are printed", lambda: len(found := server.completed("second")) >= 2 and found)
         self.desktop.gone("Print")
@@ -177,12 +182,7 @@ class Clicks(WineTest):
         self.assertIn(b"second", default)
 
     def test_a_cancelled_printing_dialog_prints_nothing(self):
-        server = PrintServer(self.desktop, ["first", "second"])
-        self.addCleanup(server.close)
-        self.copy(PRODUCT)
-        self.charted(self.start(CHART))
-        self.desktop.key("ctrl+p")
-        self.window("Print")
+        server = self.printing_dialog()
         self.desktop.key("Down", "Escape")
         self.desktop.gone("Print")
         self.window(CHART)
