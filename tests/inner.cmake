@@ -36,6 +36,7 @@ file(GLOB desktoptests CONFIGURE_DEPENDS desktop/*.cpp desktop/*.h)
 list(FILTER desktoptests EXCLUDE REGEX ${PLOTVUE_OTHER_SYSTEM})
 add_executable(desktoptests ${desktoptests})
 target_link_libraries(desktoptests PRIVATE testsupport desktop GTest::gtest)
+plotvue_precompile(desktoptests desktoptests <QtWidgets> <gtest/gtest.h>)
 target_compile_definitions(desktoptests PRIVATE PLOTVUE_SCREEN="${CMAKE_CURRENT_SOURCE_DIR}/desktop/screen.json")
 if(WIN32)
   # FirstSize needs a screen with a scale of its own, and Copies a clipboard with bare line feeds, which the toolkit does

@@ -140,8 +140,8 @@ SeenWindow seenOnWidgets(const Form& form)
 {
     SeenWindow window = seenIn(form.controls());
     window.caption = toText(widgetOf(form).windowTitle());
-    for (auto& [name, control] : window.controls)
-        std::visit([&](auto& value) { lookAt(value, form, name); }, control);
+    for (auto& named : window.controls)
+        std::visit([&](auto& control) { lookAt(control, form, named.first); }, named.second);
     return window;
 }
 

@@ -10,7 +10,7 @@ namespace plotvue::replay {
 
 namespace {
 
-std::string quoted(std::string_view utf8)
+std::string quote(std::string_view utf8)
 {
     constexpr std::string_view hex = "0123456789abcdef";
     std::string text = "\"";
@@ -35,9 +35,9 @@ std::string quoted(std::string_view utf8)
     return text + '"';
 }
 
-std::string quoted(TextSpan text)
+std::string quote(TextSpan text)
 {
-    return quoted(toUtf8(text));
+    return quote(toUtf8(text));
 }
 
 std::string number(double value)
@@ -67,11 +67,11 @@ std::string object(const Map& map, Write write)
 {
     std::string text = "{";
     for (const auto& [key, value] : map)
-        text += (text.size() > 1 ? "," : "") + quoted(std::to_string(key)) + ":" + write(value);
+        text += (text.size() > 1 ? "," : "") + quote(std::to_string(key)) + ":" + write(value);
     return text + "}";
 }
 
-const auto writeText = [](const Text& text) { return quoted(text); };
+const auto writeText = [](const Text& text) { return quote(text); };
 const auto writeNumber = [](auto value) { return number(value); };
 const auto writeTexts = [](const std::vector<Text>& texts) { return list(texts, writeText); };
 const auto writeNumbers = [](const std::vector<double>& values) { return list(values, writeNumber); };
@@ -84,7 +84,7 @@ std::string hexColour(const Colour& colour)
         text += hex[part >> 4];
         text += hex[part & 0xF];
     }
-    return quoted(text);
+    return quote(text);
 }
 
 struct ControlWriter {
@@ -92,11 +92,11 @@ struct ControlWriter {
     {
         switch (seen.of) {
         case SeenText::Of::Button:
-            return R"("kind":"button","caption":)" + quoted(seen.text);
+            return R"("kind":"button","caption":)" + quote(seen.text);
         case SeenText::Of::Label:
-            return R"("kind":"label","text":)" + quoted(seen.text);
+            return R"("kind":"label","text":)" + quote(seen.text);
         case SeenText::Of::TextBox:
-            return R"("kind":"text","text":)" + quoted(seen.text);
+            return R"("kind":"text","text":)" + quote(seen.text);
         }
         return {};
     }
@@ -107,7 +107,7 @@ struct ControlWriter {
     std::string operator()(const OptionGroup& group) const
     {
         const auto option = [](const OptionGroup::Entry& state) {
-            return R"({"index":)" + number(state.index) + R"(,"caption":)" + quoted(state.caption) +
+            return R"({"index":)" + number(state.index) + R"(,"caption":)" + quote(state.caption) +
                    R"(,"visible":)" + (state.visible ? "true" : "false") + "}";
         };
         return R"("kind":"options","chosen":)" + list(group.chosen, writeNumber) + R"(,"options":)" +
@@ -115,7 +115,7 @@ struct ControlWriter {
     }
     std::string operator()(const Grid& grid) const
     {
-        return R"("kind":"grid","format":)" + quoted(grid.format) + R"(,"columns":)" + number(grid.columns) +
+        return R"("kind":"grid","format":)" + quote(grid.format) + R"(,"columns":)" + number(grid.columns) +
                R"(,"rows":)" + number(grid.rows) + R"(,"cells":)" + list(grid.cells, writeTexts);
     }
     std::string operator()(const Chart& chart) const
@@ -139,8 +139,8 @@ struct ControlWriter {
 
 std::string toJson(const Event& event)
 {
-    const auto of = [](std::string_view kind) { return R"({"event":)" + quoted(kind); };
-    const std::string window = R"(,"window":)" + quoted(event.window) + "}";
+    const auto of = [](std::string_view kind) { return R"({"event":)" + quote(kind); };
+    const std::string window = R"(,"window":)" + quote(event.window) + "}";
     switch (event.kind) {
     case Event::Kind::Load:
         return of("load") + window;
@@ -153,10 +153,9 @@ std::string toJson(const Event& event)
     case Event::Kind::Print:
         return of("print") + window;
     case Event::Kind::Message:
-        return of("message") + R"(,"title":)" + quoted(event.title) + R"(,"text":)" + quoted(event.text) +
-               "}";
+        return of("message") + R"(,"title":)" + quote(event.title) + R"(,"text":)" + quote(event.text) + "}";
     case Event::Kind::Error:
-        return of("error") + R"(,"text":)" + quoted(event.text) + "}";
+        return of("error") + R"(,"text":)" + quote(event.text) + "}";
     case Event::Kind::Spin:
         return of("spin") + "}";
     case Event::Kind::End:
@@ -167,12 +166,12 @@ std::string toJson(const Event& event)
 
 std::string toJson(Name window, bool visible, const SeenWindow& seen)
 {
-    std::string text = R"({"window":)" + quoted(window) + R"(,"loaded":true,"visible":)" +
-                       (visible ? "true" : "false") + R"(,"caption":)" + quoted(seen.caption) +
+    std::string text = R"({"window":)" + quote(window) + R"(,"loaded":true,"visible":)" +
+                       (visible ? "true" : "false") + R"(,"caption":)" + quote(seen.caption) +
                        R"(,"controls":{)";
     bool first = true;
     for (const auto& [name, control] : seen.controls) {
-        text += (first ? "" : ",") + quoted(name) + ":{" + std::visit(ControlWriter{}, control) + "}";
+        text += (first ? "" : ",") + quote(name) + ":{" + std::visit(ControlWriter{}, control) + "}";
         first = false;
     }
     return text + "}}";
@@ -180,7 +179,7 @@ std::string toJson(Name window, bool visible, const SeenWindow& seen)
 
 std::string unloadedJson(Name window)
 {
-    return R"({"window":)" + quoted(window) + R"(,"loaded":false})";
+    return R"({"window":)" + quote(window) + R"(,"loaded":false})";
 }
 
 } // namespace plotvue::replay
