@@ -86,6 +86,8 @@ protected:
             const QSize minimum = window->minimumSize();
             EXPECT_LE(minimum.width(), screen.width());
             EXPECT_LE(minimum.height(), screen.height());
+            // Otherwise a list loses a line to a wrapped label. On Windows the window grows instead.
+            EXPECT_GE(minimum.height(), window->layout()->totalMinimumHeightForWidth(minimum.width()));
             for (const QSize size : {minimum, screen, roomy})
                 expectFits(*window, size);
         }
@@ -136,6 +138,22 @@ TEST_P(SizesTest, WindowsShowAllOfTheirTextsInALargeFont)
 
 INSTANTIATE_TEST_SUITE_P(Samples, SizesTest, testing::ValuesIn(test::samples()),
                          [](const auto& sample) { return sample.param; });
+
+TEST_F(SizesTest, AListWithALongerTitleThanBeforeFits)
+{
+    QString shortTitle = sample("pastdue");
+    shortTitle.replace("RECEIVABLES, AS OF 10/31/99", "");
+    QGuiApplication::clipboard()->setText(shortTitle);
+    app.start();
+    const int before = windows().front()->minimumHeight();
+    windows().front()->findChild<QPushButton*>("cmdExit")->click();
+    windows();
+
+    copySample("pastdue");
+    windows().front()->findChild<QPushButton*>("Command1")->click();
+    EXPECT_EQ(expectAllFit(), 1U);
+    EXPECT_GT(windows().front()->minimumHeight(), before);
+}
 
 TEST_F(SizesTest, StartUpWindowShowsAllOfItsTexts)
 {
