@@ -12,6 +12,7 @@ struct WindowMaker {
     Platform& platform;
     Form& home;
     std::vector<std::unique_ptr<Form>>& windows;
+    std::vector<DrillDownWindow*>& drillDowns;
 
     Form& operator()(const MonthlyScreen* screen) const
     {
@@ -20,10 +21,11 @@ struct WindowMaker {
     Form& operator()(MakeWindow make) const { return *windows.emplace_back(make(platform, home)); }
     Form& operator()(const Ranked& ranked) const
     {
-        Form& drillDown =
-            *windows.emplace_back(std::make_unique<DrillDownWindow>(platform, *ranked.drillDown));
+        auto drillDown = std::make_unique<DrillDownWindow>(platform, *ranked.drillDown);
+        drillDowns.push_back(drillDown.get());
+        windows.push_back(std::move(drillDown));
         return *windows.emplace_back(
-            std::make_unique<RankedListWindow>(platform, home, drillDown, *ranked.list));
+            std::make_unique<RankedListWindow>(platform, home, *drillDowns.back(), drillDowns, *ranked.list));
     }
 };
 
@@ -32,7 +34,8 @@ struct WindowMaker {
 Application::Application(Platform& platform) : platform_(platform), startup_(platform)
 {
     for (const Screen& screen : screens)
-        startup_.windows[&screen] = &std::visit(WindowMaker{platform, startup_, others_}, screen.window);
+        startup_.windows[&screen] =
+            &std::visit(WindowMaker{platform, startup_, others_, drillDowns_}, screen.window);
 }
 
 void Application::start()

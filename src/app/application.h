@@ -27,6 +27,7 @@ private:
     Platform& platform_;
     Startup startup_;
     std::vector<std::unique_ptr<Form>> others_;
+    std::vector<DrillDownWindow*> drillDowns_; // of others_
 };
 
 } // namespace plotvue

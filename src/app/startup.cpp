@@ -73,6 +73,7 @@ void Startup::Form_Load()
 
 void Startup::ReloadScreen()
 {
+    setNotice({});
     show();
     Form_Load();
 }

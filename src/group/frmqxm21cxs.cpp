@@ -37,7 +37,7 @@ Declaration frmQXM21CXS::declare() const
         {groupTypeFrame(), groups});
 }
 
-void frmQXM21CXS::drawChart(TextSpan capture)
+void frmQXM21CXS::drawGroups(TextSpan capture)
 {
     const int type = chosenType(), group = chosenGroup();
     std::vector<bool> wanted;

@@ -14,7 +14,7 @@ public:
 protected:
     Declaration declare() const override;
     TextSpan identifier() const override { return u"QXM21CXS"; }
-    void drawChart(TextSpan capture) override;
+    void drawGroups(TextSpan capture) override;
 
 private:
     int chosenGroup() const { return controls().options("optSales")->chosenIn(1); }

@@ -31,7 +31,7 @@ Declaration frmQXM21SXC::declare() const
                                {groupTypeFrame()});
 }
 
-void frmQXM21SXC::drawChart(TextSpan capture)
+void frmQXM21SXC::drawGroups(TextSpan capture)
 {
     const Type& type = types.at(static_cast<std::size_t>(chosenType()));
     std::vector<bool> wanted;

@@ -13,7 +13,7 @@ public:
 protected:
     Declaration declare() const override;
     TextSpan identifier() const override { return u"QXM21SXC"; }
-    void drawChart(TextSpan capture) override;
+    void drawGroups(TextSpan capture) override;
 };
 
 } // namespace plotvue

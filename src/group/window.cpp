@@ -4,13 +4,14 @@
 
 namespace plotvue {
 
-void GroupWindow::RefreshChart()
+bool GroupWindow::drawChart(const Text& capture)
 {
-    const Text capture = platform().clipboardText();
-    if (holds(capture, identifier()))
-        drawChart(capture);
+    const bool accepted = holds(capture, identifier());
+    if (accepted)
+        drawGroups(capture);
     else
-        cmdExit_Click();
+        refuse();
+    return accepted;
 }
 
 OptionFrame groupTypeFrame()

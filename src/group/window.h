@@ -11,12 +11,12 @@ public:
     using ScreenWindow::ScreenWindow;
 
 protected:
-    void RefreshChart() override;
+    bool drawChart(const Text& capture) override;
 
     virtual TextSpan identifier() const = 0;
 
     // Draws a capture that holds the identifier.
-    virtual void drawChart(TextSpan capture) = 0;
+    virtual void drawGroups(TextSpan capture) = 0;
 
     int chosenType() const { return controls().options("optSales")->chosenIn(0); }
 };

@@ -51,16 +51,15 @@ Declaration HistoryWindow::declare() const
     return declareHistoryWindow(screen_);
 }
 
-void HistoryWindow::RefreshChart()
+bool HistoryWindow::drawChart(const Text& capture)
 {
-    const Text capture = platform().clipboardText();
     const Acceptance acceptance = accept(screen_, capture);
     if (acceptance.leave)
-        cmdExit_Click();
+        refuse();
     if (acceptance.end)
         platform().end();
     if (acceptance.stop)
-        return;
+        return false;
 
     const DataType& type = chosenType();
     const MonthlySeries series = readCapture(
@@ -83,6 +82,7 @@ void HistoryWindow::RefreshChart()
         data.AddArray(series.labels);
         ChartFX1.SetChartData(data);
     });
+    return true;
 }
 
 int HistoryWindow::chosenMonths() const

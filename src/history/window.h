@@ -17,7 +17,7 @@ public:
 
 protected:
     Declaration declare() const override;
-    void RefreshChart() override;
+    bool drawChart(const Text& capture) override;
 
 private:
     int chosenMonths() const;

@@ -79,6 +79,14 @@ void Controls::add(const GridBox& box)
     grids_[box.name].change([&](Grid& grid) { grid.setFormat(box.format); });
 }
 
+std::map<Name, std::vector<int>> Controls::chosenOptions() const
+{
+    std::map<Name, std::vector<int>> chosen;
+    for (const auto& [name, group] : options_)
+        chosen[name] = group->chosen;
+    return chosen;
+}
+
 void Controls::use(Name control, int index)
 {
     if (const auto at = handlers_.find(control); at != handlers_.end()) {

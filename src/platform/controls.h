@@ -97,6 +97,12 @@ public:
     Shown<Grid>& grid(Name name) { return grids_.at(name); }
     Shown<Chart>& chart(Name name) { return charts_.at(name); }
 
+    // One line above the content: the window does not show what was last asked for. Empty: it does.
+    Shown<Text> notice;
+
+    // The chosen options of each group, as OptionGroup::chosen.
+    std::map<Name, std::vector<int>> chosenOptions() const;
+
     // User actions. A handler may unload the window and so destroy these controls.
     void press(Name button) { use(button, 0); }
     void choose(Name group, int index);

@@ -12,6 +12,8 @@ void Form::show()
         load();
         if (hiddenWhileLoading_)
             return;
+    } else {
+        shownAgain();
     }
     window().show();
     if (!std::exchange(visible_, true))
@@ -23,6 +25,7 @@ void Form::hide()
     hiddenWhileLoading_ = true;
     if (!std::exchange(visible_, false))
         return;
+    setNotice({});
     window().hide();
     platform_.tell({.kind = Event::Kind::Hide, .window = name()});
 }
@@ -35,6 +38,13 @@ void Form::unload()
     window_.reset();
     controls_.reset();
     platform_.tell({.kind = Event::Kind::Unload, .window = name()});
+}
+
+void Form::setNotice(TextSpan text)
+{
+    Shown<Text>& notice = controls().notice;
+    if (!text.empty() || !notice->empty())
+        notice.set(Text(text));
 }
 
 Controls& Form::controls() const

@@ -20,6 +20,10 @@ public:
     void hide();
     void unload();
 
+    // Tells the user that the loaded window does not show what was last asked for. The notice goes with an
+    // empty text, and when the window is hidden.
+    void setNotice(TextSpan text);
+
     bool loaded() const { return window_ != nullptr; }
     bool visible() const { return visible_; }
 
@@ -32,6 +36,9 @@ protected:
     virtual Handlers handlers() = 0;
     virtual void Form_Load() = 0;
     virtual void wayOut() = 0; // handles the close button of the title bar
+
+    // Runs when the window is shown without being loaded.
+    virtual void shownAgain() {}
 
     // Whether the window is loaded again when it is shown after it was hidden.
     virtual bool loadsAnew() const { return false; }

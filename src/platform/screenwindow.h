@@ -1,8 +1,10 @@
 // A window that charts the host screen on the clipboard. It reads the clipboard each time it draws and keeps
-// no data between drawings.
+// no figures between drawings.
 #pragma once
 
 #include "platform/form.h"
+
+#include <optional>
 
 namespace plotvue {
 
@@ -14,20 +16,32 @@ public:
 protected:
     Handlers handlers() override;
     void Form_Load() override { RefreshChart(); }
+    void shownAgain() override;
     void wayOut() override { cmdExit_Click(); }
 
-    // Charts the screen on the clipboard, or exits if the clipboard holds a different screen.
-    virtual void RefreshChart() = 0;
+    // Charts the clipboard's text. Returns whether it did: a window refuses the text of another screen.
+    virtual bool drawChart(const Text& capture) = 0;
 
-    void cmdExit_Click() { leaveFor(home_); }
+    // Exits, because the clipboard holds a different screen.
+    void refuse();
 
 private:
+    // What the window charted last: the notice compares it with what the user expects to see.
+    struct Drawing {
+        Text capture;
+        std::map<Name, std::vector<int>> options;
+    };
+
+    void RefreshChart();
+
     void opt12_Click() { RefreshChart(); }
     void optSales_Click() { RefreshChart(); }
     void cmdRefresh_Click() { RefreshChart(); }
     void cmdPrint_Click() { printWindow(); }
+    void cmdExit_Click() { leaveFor(home_); }
 
     Form& home_;
+    std::optional<Drawing> drawn_;
 };
 
 // Declares such a window: `content` on the left, and on the right a column with the option frames and the

@@ -48,12 +48,41 @@ Handlers DrillDownWindow::handlers()
     return handlers;
 }
 
+Record DrillDownWindow::chosenRecord() const
+{
+    const KeyValues chosen = readChosenRow(design_.analysis.key);
+    return ListFile(design_.analysis).find(chosen, design_.limits.draw);
+}
+
 void DrillDownWindow::drawChart()
 {
     const int type = design_.types.empty() ? 0 : controls().options("optSales")->chosenIn(0);
-    ListFile list(design_.analysis);
-    drawn_ = list.find(readChosenRow(design_.analysis.key), design_.limits.draw);
+    drawn_ = chosenRecord();
     design_.draw(controls(), drawn_, type);
+    setNotice({});
+}
+
+// A click on a row brings an open window to the front, but does not draw the row.
+void DrillDownWindow::shownAgain()
+{
+    bool isDrawn = false;
+    try {
+        isDrawn = chosenRecord() == drawn_;
+    } catch (const Failure&) {
+        // The next drawing reports it.
+    }
+    if (isDrawn)
+        setNotice({});
+    else if (design_.types.empty())
+        setNotice(u"Another row was chosen. Close this chart and click the row again.");
+    else
+        setNotice(u"Another row was chosen. Choose a data type to chart it.");
+}
+
+void DrillDownWindow::listReplaced()
+{
+    if (visible())
+        setNotice(u"The list of this chart was replaced. Close this chart.");
 }
 
 void DrillDownWindow::cmdBack_Click()

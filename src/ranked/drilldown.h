@@ -28,10 +28,14 @@ public:
 
     Name name() const override { return design_.window; }
 
+    // Another list has replaced the small files: an open window can no longer draw its own entries.
+    void listReplaced();
+
 protected:
     Declaration declare() const override;
     Handlers handlers() override;
     void Form_Load() override { drawChart(); }
+    void shownAgain() override;
     void wayOut() override { cmdExit_Click(); }
 
 private:
@@ -41,6 +45,8 @@ private:
     void cmdPrint_Click() { printWindow(); }
     void optSales_Click() { drawChart(); }
 
+    // The record of the chosen row. Throws Failure when the small files cannot be read.
+    Record chosenRecord() const;
     void drawChart();
     void choose(const Record& record); // names it in the chosen-row file and draws it
     void endOfList();

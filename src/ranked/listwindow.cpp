@@ -81,6 +81,9 @@ void RankedListWindow::MSFlexGrid_Click(const RankedGrid& grid, int row)
         clicked.push_back(keyValue(part, controls().grid(grid.box.name)->cell(row, part.gridColumn)));
     writeRecords(chosenRowFile, {clicked});
     writeList(grid);
+    for (DrillDownWindow* other : drillDowns_)
+        if (other != &drillDown_)
+            other->listReplaced();
     drillDown_.show();
 }
 

@@ -2,17 +2,20 @@
 // click on a row writes the list file and the chosen-row file and shows the drill-down window.
 #pragma once
 
-#include "platform/form.h"
+#include "ranked/drilldown.h"
 #include "ranked/rankedscreen.h"
 
 namespace plotvue {
 
 class RankedListWindow : public Form {
 public:
-    RankedListWindow(Platform& platform, Form& startup, Form& drillDown, const RankedAnalysis& analysis)
+    // `drillDowns`: the drill-down windows of all lists, which read the same small files.
+    RankedListWindow(Platform& platform, Form& startup, DrillDownWindow& drillDown,
+                     const std::vector<DrillDownWindow*>& drillDowns, const RankedAnalysis& analysis)
         : Form(platform),
           startup_(startup),
           drillDown_(drillDown),
+          drillDowns_(drillDowns),
           analysis_(analysis)
     {}
 
@@ -34,7 +37,8 @@ private:
     void writeList(const RankedGrid& grid) const;
 
     Form& startup_;
-    Form& drillDown_;
+    DrillDownWindow& drillDown_;
+    const std::vector<DrillDownWindow*>& drillDowns_;
     const RankedAnalysis& analysis_;
     Text capture_; // the lines of the screen are views of it
     RankedScreen screen_;

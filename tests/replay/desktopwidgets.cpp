@@ -2,6 +2,7 @@
 
 #include "platform/desktop/chart/chartwidget.h"
 #include "platform/desktop/desktopwindow.h"
+#include "platform/desktop/noticeline.h"
 #include "platform/desktop/shown.h"
 
 #include <QCloseEvent>
@@ -140,6 +141,8 @@ SeenWindow seenOnWidgets(const Form& form)
 {
     SeenWindow window = seenIn(form.controls());
     window.caption = toText(widgetOf(form).windowTitle());
+    const auto& notice = *widgetOf(form).findChild<NoticeLine*>();
+    window.notice = notice.isHidden() ? Text() : toText(notice.text());
     for (auto& named : window.controls)
         std::visit([&](auto& control) { lookAt(control, form, named.first); }, named.second);
     return window;

@@ -167,8 +167,10 @@ std::string toJson(const Event& event)
 std::string toJson(Name window, bool visible, const SeenWindow& seen)
 {
     std::string text = R"({"window":)" + quote(window) + R"(,"loaded":true,"visible":)" +
-                       (visible ? "true" : "false") + R"(,"caption":)" + quote(seen.caption) +
-                       R"(,"controls":{)";
+                       (visible ? "true" : "false") + R"(,"caption":)" + quote(seen.caption);
+    if (!seen.notice.empty())
+        text += R"(,"notice":)" + quote(seen.notice);
+    text += R"(,"controls":{)";
     bool first = true;
     for (const auto& [name, control] : seen.controls) {
         text += (first ? "" : ",") + quote(name) + ":{" + std::visit(ControlWriter{}, control) + "}";

@@ -20,7 +20,7 @@ struct Look {
 
 SeenWindow seenIn(Controls& controls)
 {
-    SeenWindow window{Text(controls.declaration.caption), {}};
+    SeenWindow window{Text(controls.declaration.caption), *controls.notice, {}};
     forEachControl(controls.declaration.content, [&](const auto& control) {
         const Look look{controls};
         if constexpr (requires { control.group; })

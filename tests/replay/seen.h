@@ -16,7 +16,7 @@ using SeenList = std::vector<Text>;
 using Seen = std::variant<SeenText, SeenList, OptionGroup, Grid, Chart>;
 
 struct SeenWindow {
-    Text caption;
+    Text caption, notice;                              // an empty notice: none
     std::map<std::string, Seen, std::less<>> controls; // without pictures and frames
 };
 

@@ -119,6 +119,11 @@ bool Session::visible(Name window)
     return app.window(window)->visible();
 }
 
+Text Session::notice(Name window)
+{
+    return *controls(window).notice;
+}
+
 Text Session::caption(Name window)
 {
     return Text(controls(window).declaration.caption);

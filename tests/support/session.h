@@ -52,6 +52,7 @@ public:
     bool loaded(Name window);
     bool visible(Name window);
     Text caption(Name window);
+    Text notice(Name window);        // "" when there is none
     Texts controlNames(Name window); // ascending; an option group once, pictures are none
     bool hasControl(Name window, Name control);
     Texts frames(Name window); // of its options, in their order: "Frame2: Months"

@@ -1,5 +1,6 @@
 #include "platform/desktop/assistive.h"
 
+#include "platform/desktop/noticeline.h"
 #include "platform/desktop/smallwidgets.h"
 #include "platform/desktop/windowwidget.h"
 
@@ -15,6 +16,8 @@ QAccessibleInterface* makeAccessible(const QString&, QObject* object)
         return new QAccessibleWidget(window, QAccessible::Window);
     if (auto* picture = qobject_cast<GainLossPicture*>(object))
         return new QAccessibleWidget(picture, QAccessible::Graphic);
+    if (auto* notice = qobject_cast<NoticeLine*>(object))
+        return new QAccessibleWidget(notice, QAccessible::AlertMessage);
     return nullptr;
 }
 

@@ -1,4 +1,4 @@
-// The accessible roles of windows and pictures, which the toolkit would report as plain containers.
+// The accessible roles of windows, notices and pictures, which the toolkit would report as plain containers.
 #pragma once
 
 namespace plotvue {

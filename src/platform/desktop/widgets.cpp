@@ -2,6 +2,7 @@
 
 #include "platform/desktop/chart/chartwidget.h"
 #include "platform/desktop/grid.h"
+#include "platform/desktop/noticeline.h"
 #include "platform/desktop/optionbuttons.h"
 #include "platform/desktop/shown.h"
 #include "platform/desktop/smallwidgets.h"
@@ -28,6 +29,9 @@ public:
     explicit Builder(WindowWidget& window) : controls_(window.controls()), window_(window) {}
 
     QBoxLayout* arrange(const Panel& panel);
+
+    // The notice is above the content, but beside the side column, so that no button moves when it appears.
+    QBoxLayout* arrangeUnder(NoticeLine& notice, const Panel& panel);
 
 private:
     void place(const Item& item, QBoxLayout& layout);
@@ -63,6 +67,30 @@ QBoxLayout* Builder::arrange(const Panel& panel)
         columns = columns || (row && std::holds_alternative<Panel>(item.what));
     }
     layout->setSpacing(columns ? columnGap : gap);
+    return layout;
+}
+
+QBoxLayout* Builder::arrangeUnder(NoticeLine& notice, const Panel& panel)
+{
+    Panel content = panel;
+    const bool beside = content.direction == Panel::Direction::Row && isSideColumn(content.items.back());
+    Panel side{Panel::Direction::Row, {}};
+    if (beside) {
+        side.items.push_back(content.items.back());
+        content.items.pop_back();
+    }
+    auto* under = new QVBoxLayout;
+    under->setSpacing(gap);
+    under->addWidget(&notice);
+    QBoxLayout* inner = arrange(content);
+    under->addLayout(inner, 1);
+    if (!beside)
+        return under;
+    inner->setSpacing(columnGap);
+    auto* layout = new QHBoxLayout;
+    layout->setSpacing(columnGap);
+    layout->addLayout(under, 1);
+    layout->addLayout(arrange(side));
     return layout;
 }
 
@@ -210,18 +238,32 @@ QWidget* firstInUse(const WindowWidget& window)
     return window.findChild<QPushButton*>();
 }
 
+// Enough for every line of the wrapped texts, and for a notice, so that the window keeps its size when one
+// appears.
+int minHeight(QLayout& layout, NoticeLine& notice)
+{
+    const bool isShown = !notice.isHidden();
+    notice.setFixedHeight(notice.maxHeight());
+    notice.setVisible(true);
+    layout.activate();
+    const int height = layout.hasHeightForWidth()
+                           ? layout.totalMinimumHeightForWidth(layout.totalMinimumSize().width())
+                           : layout.totalMinimumSize().height();
+    notice.setVisible(isShown);
+    return height;
+}
+
 } // namespace
 
 void buildWidgets(WindowWidget& window)
 {
     const Declaration& declaration = window.controls().declaration;
     window.setWindowTitle(toQString(declaration.caption));
-    QBoxLayout* layout = Builder(window).arrange(declaration.content);
+    auto* notice = new NoticeLine(window.controls().notice, &window);
+    QBoxLayout* layout = Builder(window).arrangeUnder(*notice, declaration.content);
     layout->setContentsMargins(margin, margin, margin, margin);
     window.setLayout(layout);
-    // The layout alone would let a wrapped label shrink below the height of its lines.
-    if (layout->hasHeightForWidth())
-        window.setMinimumHeight(layout->totalMinimumHeightForWidth(layout->totalMinimumSize().width()));
+    window.setMinimumHeight(minHeight(*layout, *notice));
     const double larger = qMax(1., window.fontInfo().pointSizeF() / declaredPoints);
     window.resize((QSizeF(declaration.width, declaration.height) * larger)
                       .toSize()
