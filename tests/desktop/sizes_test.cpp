@@ -2,6 +2,7 @@
 // cut off.
 #include "desktop/samplesfixture.h"
 #include "platform/desktop/grid.h"
+#include "platform/desktop/noticeline.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -19,6 +20,8 @@ namespace {
 
 constexpr QSize smallScreen{790, 560}; // 800 by 600, without the frame
 constexpr QSize roomy{1000, 620};
+const Text longestNotice =
+    u"This chart does not show the chosen options. Press Refresh to chart the copied screen.";
 
 std::vector<QWidget*> visibleChildren(const QWidget& widget)
 {
@@ -42,6 +45,11 @@ QSize neededSize(const QWidget& widget)
 {
     if (const auto* label = qobject_cast<const QLabel*>(&widget); label && label->wordWrap())
         return {0, label->heightForWidth(label->width())};
+    if (const auto* notice = qobject_cast<const NoticeLine*>(&widget))
+        return {
+            0,
+            notice->fontMetrics().boundingRect(notice->textBox(), Qt::TextWordWrap, notice->text()).height() +
+                2 * notice->textBox().top()};
     if (qobject_cast<const QGroupBox*>(&widget))
         return widget.minimumSizeHint();
     const bool isText = qobject_cast<const QLabel*>(&widget) || qobject_cast<const QAbstractButton*>(&widget);
@@ -90,6 +98,10 @@ protected:
             EXPECT_GE(minimum.height(), window->layout()->totalMinimumHeightForWidth(minimum.width()));
             for (const QSize size : {minimum, screen, roomy})
                 expectFits(*window, size);
+            window->controls().notice.set(longestNotice);
+            for (const QSize size : {minimum, screen, roomy})
+                expectFits(*window, size);
+            window->controls().notice.set({});
         }
         return shown.size();
     }

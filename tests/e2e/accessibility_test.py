@@ -2,8 +2,8 @@
 
 import re
 
-from accessible import SpokenTest, renamed
-from desktop import NEED_DATA, PRODUCT, SAMPLES, START, main, sample, soon
+from accessible import SpokenTest, appeared, renamed
+from desktop import CHART, NEED_DATA, PRODUCT, SAMPLES, START, main, sample, soon
 
 GROUPS = ["categoriessalesmen", "salesmencategories"]
 RANKED = {
@@ -171,6 +171,26 @@ class Accessibility(SpokenTest):
         announced = names()
         self.assertEqual(sorted(announced), sorted(node.name for node in [
             window.first("chart"), *window.first("chart").children()]))
+        self.close(window)
+
+    def test_a_notice_is_announced_each_time_as_an_alert(self):
+        earlier = "This chart is of an earlier copy. Press Refresh to chart the copied screen."
+        window = self.open("product")
+        self.close(window)
+        self.desktop.copy(PRODUCT.replace(b"DIESEL", b"KEROSN"))
+        for _ in range(2):
+            with appeared("alert") as names:
+                self.start_window.first("push button", "Refresh").press()
+                soon("the notice is announced", lambda: earlier in names())
+            self.assertEqual(window.first("alert").name, earlier)
+            self.close(window)
+        self.desktop.key("F5")
+        soon("the chart shows", lambda: window.has("SHOWING"))
+        self.assertIn("DIESEL", window.first("chart").name)
+        self.desktop.focused(self.desktop.window(CHART))
+        self.desktop.key("F5")
+        soon("the notice goes", lambda: "alert" not in [node.role for node in window.walk()])
+        self.assertIn("KEROSN", window.first("chart").name)
         self.close(window)
 
     def test_the_end_by_an_error_is_announced(self):

@@ -57,13 +57,14 @@ class SpokenTest(DesktopTest):
 
 
 @contextmanager
-def renamed():
-    """Gives a function that returns the new names of charts and points that have been announced since."""
+def heard(kind, roles):
+    """Gives a function that returns the names of the objects of these roles of which such events have been announced
+    since."""
     announced = []
 
     def note(event):
         with unless_gone():
-            if event.source.get_role_name() in ("chart", "list item"):
+            if event.source.get_role_name() in roles:
                 announced.append(event.source.get_name())
 
     def names():
@@ -72,11 +73,21 @@ def renamed():
         return announced
 
     listener = Atspi.EventListener.new(note)
-    listener.register("object:property-change:accessible-name")
+    listener.register(kind)
     try:
         yield names
     finally:
-        listener.deregister("object:property-change:accessible-name")
+        listener.deregister(kind)
+
+
+def renamed():
+    """The new names of charts and points."""
+    return heard("object:property-change:accessible-name", ("chart", "list item"))
+
+
+def appeared(role):
+    """The names of objects that have appeared."""
+    return heard("object:state-changed:showing", (role,))
 
 
 @contextmanager

@@ -17,6 +17,9 @@ Walk::Walk(replay::Stage& stage, const Random& random, std::ostream& script, Man
         heard(event);
     };
     for (const Screen& screen : screens)
+        if (const Ranked* ranked = std::get_if<Ranked>(&screen.window))
+            designs_.emplace(ranked->drillDown->window, ranked->drillDown);
+    for (const Screen& screen : screens)
         (screen.ranked() ? lists_ : charts_).emplace(player_.application().windowOf(screen).name());
 }
 
@@ -27,6 +30,7 @@ void Walk::heard(const Event& event)
     case Event::Kind::Load:
         loaded_.insert(window);
         loadedNow_.push_back(window);
+        watch(window);
         break;
     case Event::Kind::Show:
         visible_.insert(window);
@@ -37,6 +41,7 @@ void Walk::heard(const Event& event)
         break;
     case Event::Kind::Unload:
         loaded_.erase(window);
+        drawn_.erase(window);
         break;
     case Event::Kind::Error:
         error_ = event.text;
@@ -58,12 +63,15 @@ void Walk::play(const std::string& line)
     script_ << line << std::endl; // flushed, so that the script is complete after a crash
     loadedNow_.clear();
     shownNow_.clear();
+    drawnNow_.clear();
     std::istringstream one(line);
     player_.play(one);
     if (error_)
         mustBePlain(*error_);
     if (!loaded_.empty() && visible_.empty() && !over())
         throw Wrong("no window is visible");
+    if (!manner_.careful && !over())
+        noticesMustBeTrue(line);
 }
 
 void Walk::start()
@@ -87,21 +95,29 @@ void Walk::step()
 void Walk::copy()
 {
     const Capture& capture = random_.from(wholeCaptures());
-    if (!manner_.careful && random_.inPercent(5))
+    if (!manner_.careful && random_.inPercent(5)) {
+        held_.clear();
         return play("clipboard");
+    }
     const bool damage = !manner_.careful && random_.inPercent(30);
     whole_ = whole_ && !damage;
     ++copied_;
     if (damage)
         put("damaged" + std::to_string(copied_), damaged(random_, capture.bytes));
     else
-        play("clipboard ../captures/" + capture.name + ".txt");
+        take(capture.name, capture.bytes);
+}
+
+void Walk::take(const std::string& name, const std::string& bytes)
+{
+    held_ = bytes;
+    play("clipboard ../captures/" + name + ".txt");
 }
 
 void Walk::put(const std::string& name, const std::string& bytes)
 {
     std::ofstream("../captures/" + name + ".txt", std::ios::binary) << bytes;
-    play("clipboard ../captures/" + name + ".txt");
+    take(name, bytes);
 }
 
 void Walk::tour()

@@ -48,12 +48,18 @@ private:
 
     void heard(const Event& event);
     void play(const std::string& line);
-    void put(const std::string& name, const std::string& bytes);
+    void put(const std::string& name, const std::string& bytes);  // writes a capture and copies it
+    void take(const std::string& name, const std::string& bytes); // copies a capture
     void copy();
     void use(const std::string& window);
     std::vector<Offer> offers(const std::string& window);
     std::string dumped(const std::string& window);
+    std::string noticeOf(const std::string& window);
     bool isVisible(const std::string& window) const { return visible_.contains(window); }
+
+    // Observes what the windows draw, to know what a notice must say.
+    void watch(const std::string& window);
+    void noticesMustBeTrue(const std::string& line);
 
     void twiceRefreshedIsTheSame(const std::string& window);
     void shownAgainIsTheSame(const std::string& window);
@@ -68,8 +74,19 @@ private:
     // lists_ holds the windows of the ranked analyses, charts_ those of all other screens. A row of a list
     // opens the window whose name is that of the list with an A.
     std::set<std::string> lists_, charts_;
-    std::set<std::string> loaded_, visible_;        // according to the events
-    std::vector<std::string> loadedNow_, shownNow_; // during the last played line
+    std::map<std::string, const DrillDownDesign*> designs_; // of the drill-down windows, by name
+    std::set<std::string> loaded_, visible_;                // according to the events
+    std::vector<std::string> loadedNow_, shownNow_;         // during the last played line
+    std::vector<std::string> drawnNow_;
+
+    struct Drawing {
+        std::string copied; // what was on the clipboard
+        std::map<Name, std::vector<int>> options;
+        std::optional<Record> record; // of a drill-down window
+    };
+    std::map<std::string, Drawing> drawn_; // the last one of each window
+    std::string held_;                     // by the clipboard
+
     std::string end_ = "still alive";
     std::optional<Text> error_; // text of the error report
     int copied_ = 0;

@@ -9,7 +9,8 @@ namespace plotvue {
 
 namespace {
 
-constexpr int padding = 6, maxLines = 3;
+constexpr int padding = 6;
+constexpr int longestNotice = 90; // characters
 
 } // namespace
 
@@ -35,9 +36,12 @@ QRect NoticeLine::textBox() const
     return rect().adjusted(fontMetrics().height() + 2 * padding, padding, -padding, -padding);
 }
 
-int NoticeLine::maxHeight() const
+int NoticeLine::maxHeight(int width) const
 {
-    return maxLines * fontMetrics().lineSpacing() + 2 * padding;
+    const int room = qMax(1, width - fontMetrics().height() - 3 * padding);
+    const int lines =
+        longestNotice * fontMetrics().averageCharWidth() / room + 2; // a line ends between words
+    return lines * fontMetrics().lineSpacing() + 2 * padding;
 }
 
 void NoticeLine::fitHeight()

@@ -14,7 +14,8 @@ public:
     NoticeLine(Shown<Text>& notice, QWidget* parent);
 
     QString text() const { return text_; }
-    int maxHeight() const; // of any notice in a window of the smallest size
+    QRect textBox() const; // beside the symbol, in widget coordinates
+    int maxHeight(int width) const; // of any notice
 
     QSize sizeHint() const override { return {0, height()}; }
 
@@ -29,7 +30,6 @@ private:
     // A height that depends on the width would make the size of the whole window do so. Instead, the line
     // sets its own height when its width changes.
     void fitHeight();
-    QRect textBox() const;
 
     QString text_;
 };

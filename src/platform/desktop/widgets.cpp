@@ -84,6 +84,7 @@ QBoxLayout* Builder::arrangeUnder(NoticeLine& notice, const Panel& panel)
     under->addWidget(&notice);
     QBoxLayout* inner = arrange(content);
     under->addLayout(inner, 1);
+    notice.setFixedHeight(notice.maxHeight(inner->totalMinimumSize().width())); // for minHeight
     if (!beside)
         return under;
     inner->setSpacing(columnGap);
@@ -243,7 +244,6 @@ QWidget* firstInUse(const WindowWidget& window)
 int minHeight(QLayout& layout, NoticeLine& notice)
 {
     const bool isShown = !notice.isHidden();
-    notice.setFixedHeight(notice.maxHeight());
     notice.setVisible(true);
     layout.activate();
     const int height = layout.hasHeightForWidth()
