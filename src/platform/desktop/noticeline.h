@@ -14,7 +14,7 @@ public:
     NoticeLine(Shown<Text>& notice, QWidget* parent);
 
     QString text() const { return text_; }
-    QRect textBox() const; // beside the symbol, in widget coordinates
+    QRect textBox() const;          // beside the symbol, in widget coordinates
     int maxHeight(int width) const; // of any notice
 
     QSize sizeHint() const override { return {0, height()}; }
