@@ -66,6 +66,15 @@ class X11Clipboard(SpokenTest):
                     self.own("UTF8_STRING", capture.replace(b"\r\n", ends))
                     self.assertEqual(self.chart(), expected)
 
+    def test_a_list_keeps_its_last_line_where_a_terminal_copies_no_end_of_it(self):
+        lines = sample("monthtomonth").split(b"\r\n")
+        last = max(i for i, line in enumerate(lines) if line.startswith(b"GAIN:") and b" -" in line[:14])
+        self.own("UTF8_STRING", b"\n".join(lines[:last + 1]))
+        self.start("PlotVue!")
+        losses = self.application().shown("PlotVue!").first("table", "Losses")
+        rows, _ = losses.rows_and_columns()
+        self.assertEqual(rows, sum(b" -" in line[:14] for line in lines if line.startswith(b"GAIN:")))
+
     def test_a_picture_is_no_data(self):
         self.own("image/png", PICTURE)
         self.start(NEED_DATA)

@@ -32,14 +32,19 @@ Text mendLineEnds(TextSpan text)
     Text result;
     result.reserve(text.size() + text.size() / 40);
     char16_t before = u'\n'; // the text starts on a new line
+    bool mended = false;
     for (const char16_t character : text) {
         if (character == u'\n' && before == u'\n')
             result += u' ';
-        if (character == u'\n' && before != carriageReturn)
+        if (character == u'\n' && before != carriageReturn) {
             result += carriageReturn;
+            mended = true;
+        }
         result += character;
         before = character;
     }
+    if (mended && before != u'\n')
+        result += u"\r\n";
     return result;
 }
 

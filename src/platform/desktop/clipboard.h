@@ -16,6 +16,8 @@ void waitForFocus();
 
 // Replaces each bare line feed with CR LF. An empty line that ends in a bare line feed becomes one blank:
 // many terminals drop trailing blanks when they copy, and the code that reads screens skips empty lines.
+// If the text has a bare line feed and its last line has no end, CR LF is added: most such terminals copy no
+// end of the last line, and lists are read up to their last carriage return.
 Text mendLineEnds(TextSpan text);
 
 } // namespace plotvue
