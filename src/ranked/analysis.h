@@ -24,6 +24,7 @@ struct LineField {
 // What is taken from every line that holds the marker; every line holds an empty one.
 struct LineRule {
     TextSpan marker{};
+    bool afterRank = false;                               // lines before the first rank are passed over
     void (*open)(RankedScreen&, TextSpan line) = nullptr; // makes another entry the current one
     std::vector<LineField> fields{};
     void (*then)(RankedScreen&, TextSpan line) = nullptr; // runs after the fields are taken

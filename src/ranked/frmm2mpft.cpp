@@ -38,6 +38,7 @@ const RankedAnalysis frmM2Mpft = list(
         .caption = u"PlotVue!",
         .title = u"TO MONTH PROFIT AN",
         .rules = {{.marker = u"GAIN:",
+                   .afterRank = true,
                    .fields = {{To::EntryNumber, figure, 6, 9},
                               {To::EntryNumber, volumePart, 19, 9},
                               {To::EntryNumber, marginPart, 32, 9}},

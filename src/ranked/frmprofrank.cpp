@@ -45,10 +45,13 @@ const RankedAnalysis frmProfRank = list(
     {
         .window = "frmProfRank",
         .title = u"RANKED PROFIT AN",
-        // Where an entry has both lines, it keeps the components of the later one.
+        // Where an entry has both lines, it keeps the components of the later one. A heading may hold "P:" as
+        // well: "FOR SALES REP: 014".
         .rules = {{.marker = u"GAIN:",
+                   .afterRank = true,
                    .fields = {{To::EntryNumber, volumePart, 19, 9}, {To::EntryNumber, marginPart, 32, 9}}},
                   {.marker = u"P:",
+                   .afterRank = true,
                    .fields = {{To::EntryNumber, figure, 6, 9},
                               {To::EntryNumber, volumePart, 19, 9},
                               {To::EntryNumber, marginPart, 32, 9}},

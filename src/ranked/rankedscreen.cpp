@@ -45,7 +45,7 @@ void take(const LineField& field, TextSpan line, RankedScreen& screen)
 
 void apply(const LineRule& rule, TextSpan line, RankedScreen& screen)
 {
-    if (!holds(line, rule.marker))
+    if (!holds(line, rule.marker) || (rule.afterRank && screen.currentRank == 0))
         return;
     if (rule.open)
         rule.open(screen, line);

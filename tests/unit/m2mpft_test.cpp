@@ -121,6 +121,19 @@ TEST(MonthToMonth, EveryGainLineCounts)
     EXPECT_EQ(session.column(2, lossesGrid), (Texts{u"10002", u"0"}));
 }
 
+TEST(MonthToMonth, GainLinesBeforeTheFirstRankArePassedOver)
+{
+    MonthToMonthScreen screen;
+    screen.add(1, u"30")
+        .add(2, u"-20")
+        .put(2, 1, u"FOR SALES REP 014 BARGAIN: 12345")
+        .insertLine(3, u"GAIN:   7");
+    RankedSession session = opened(screen);
+    EXPECT_EQ(session.header("txtL3"), u"FOR SALES REP 014 BARGAIN: 12345");
+    EXPECT_EQ(session.column(1), Texts{u"30"});
+    EXPECT_EQ(session.column(1, lossesGrid), Texts{u"-20"});
+}
+
 TEST(MonthToMonth, MarkersMayStandAnywhereAndSeveralOnALine)
 {
     MonthToMonthScreen screen;

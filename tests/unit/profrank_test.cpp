@@ -170,6 +170,25 @@ TEST(RankedProfit, AnyLineWithPAndAColonIsAProfitLine)
     EXPECT_EQ(session.column(2), (Texts{u"10001", u"0"}));
 }
 
+TEST(RankedProfit, FigureLinesBeforeTheFirstRankArePassedOver)
+{
+    RankedProfitScreen screen;
+    screen.add(1, u"50", u"8", u"-3").add(2, u"-5").put(2, 1, u"FOR SALES REP: 014 7 8 9 WIDE NORTH AREA 5");
+    CaptureBuilder withGain = screen;
+    withGain.insertLine(3, u"GAIN:      -99            11           22");
+    for (const CaptureBuilder& capture : {CaptureBuilder(screen), withGain}) {
+        RankedSession session = opened(capture);
+        EXPECT_EQ(session.header("txtL3"), u"FOR SALES REP: 014 7 8 9 WIDE NORTH AREA 5");
+        EXPECT_EQ(session.column(2), Texts{u"10001"});
+        EXPECT_EQ(components(session, 1), (Numbers{8, -3}));
+        const Text text = capture.text();
+        const RankedScreen read = readRanked(frmProfRank, text);
+        EXPECT_EQ(read.counts, (std::array{1, 1}));
+        EXPECT_EQ(read.entry(1).numbers[profit::figure], 50);
+        EXPECT_EQ(read.entry(1).numbers[profit::volumePart], 8);
+    }
+}
+
 TEST(RankedProfit, ChartsItsMonths)
 {
     RankedSession session = opened(RankedProfitScreen().add(1, u"50", u"8", u"-3").add(2, u"40"));
