@@ -87,8 +87,9 @@ void DrillDownWindow::listReplaced()
 
 void DrillDownWindow::cmdBack_Click()
 {
+    const KeyValues chosen = readChosenRow(design_.analysis.key);
     ListFile list(design_.analysis);
-    list.find(readChosenRow(design_.analysis.key), design_.limits.step);
+    list.find(chosen, design_.limits.step);
     if (list.position() == 1)
         return endOfList();
     choose(list.previous());

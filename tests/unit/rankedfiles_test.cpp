@@ -38,6 +38,20 @@ const Case cases[]{
     {Use::Type, Trouble::AnotherEntry, list, "ends too early."},
 };
 
+void step(RankedSession& session, Use use)
+{
+    switch (use) {
+    case Use::Click:
+        return session.click(1);
+    case Use::Back:
+        return session.back();
+    case Use::Down:
+        return session.down();
+    case Use::Type:
+        return session.chooseType(1);
+    }
+}
+
 class RankedFiles : public testing::TestWithParam<ThreeEntries> {};
 
 INSTANTIATE_TEST_SUITE_P(Every, RankedFiles, testing::ValuesIn(everyAnalysis()), nameOfList);
@@ -54,20 +68,7 @@ TEST_P(RankedFiles, InTroubleEndTheProcessOrTheList)
             blockFile(file);
         else
             std::filesystem::remove(file);
-        switch (use) {
-        case Use::Click:
-            session.click(1);
-            break;
-        case Use::Back:
-            session.back();
-            break;
-        case Use::Down:
-            session.down();
-            break;
-        case Use::Type:
-            session.chooseType(1);
-            break;
-        }
+        step(session, use);
         const Events events = session.events();
         if (error.empty()) {
             EXPECT_EQ(events, endOfList(session.drillDown)) << file;
@@ -79,6 +80,20 @@ TEST_P(RankedFiles, InTroubleEndTheProcessOrTheList)
             << events[0];
         EXPECT_TRUE(events[0].ends_with("."));
         EXPECT_TRUE(session.platform.over());
+    }
+}
+
+TEST_P(RankedFiles, OfTwoMissingTheChosenRowIsReported)
+{
+    for (const Use use : {Use::Back, Use::Down, Use::Type}) {
+        if (use == Use::Type && !GetParam().hasTypes)
+            continue;
+        RankedSession session(GetParam().list, GetParam().capture, 1);
+        std::filesystem::remove(list);
+        std::filesystem::remove(chosenRow);
+        step(session, use);
+        EXPECT_TRUE(
+            failed(session, "error The file plotvue1.txt in the working directory cannot be opened ("));
     }
 }
 
