@@ -88,6 +88,23 @@ TEST_F(CategoriesBySalesman, TheTotalOfTwoGroupsIsTheirs)
     EXPECT_EQ(chart(Volume, total).series, (std::vector<Numbers>{{4 + 32, 0}}));
 }
 
+TEST_F(CategoriesBySalesman, FourGroupsAreReadAtMost)
+{
+    session.start(screen(4).text());
+    const OptionGroup ofFour = session.options(cxs, "optSales");
+    for (const std::size_t groups : {5u, 6u}) {
+        session.copy(screen(groups).text());
+        const Chart all = chart(Profit, total);
+        EXPECT_EQ(all.series, (std::vector<Numbers>{{112 + 122 + 132 + 142, 212 + 222 + 232 + 242, 0}}));
+        EXPECT_EQ(all.titles.at(3), u"Profit - ALL");
+        EXPECT_EQ(captions(session.options(cxs, "optSales")), captions(ofFour)) << "\"Total\" keeps its name";
+        const Chart fourth = chart(Sales, firstGroup + 3);
+        EXPECT_EQ(fourth.series, (std::vector<Numbers>{{141, 241, 0}}));
+        EXPECT_EQ(fourth.titles.at(3), u"Sales - CARDLOCK");
+        EXPECT_EQ(session.grid(cxs).cells, (std::vector<Texts>{{u"02_01", u"141"}, {u"02_02", u"241"}}));
+    }
+}
+
 TEST_F(CategoriesBySalesman, TheGridListsWhatIsCharted)
 {
     session.start(screen(4).text());

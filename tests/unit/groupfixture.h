@@ -27,7 +27,7 @@ inline CaptureBuilder groupScreen(TextSpan identifier, std::size_t groups, std::
     CaptureBuilder capture(3 + salesmen);
     capture.put(1, 1, identifier);
     Text names;
-    for (const TextSpan name : {u"FUELS;", u"LUBES;", u"HEATING;", u"CARDLOCK;"})
+    for (const TextSpan name : {u"FUELS;", u"LUBES;", u"HEATING;", u"CARDLOCK;", u"PARTS;", u"TIRES;"})
         if (groups-- > 0)
             names += name;
         else
