@@ -21,6 +21,7 @@ void Chart::SetChartData(const ChartArrayData& data)
 {
     series = data.series_;
     labels = data.labels_;
+    fullLabels = data.fullLabels_;
 }
 
 void Chart::SetTitle(int position, TextSpan text)

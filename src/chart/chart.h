@@ -39,11 +39,12 @@ public:
     void AddArray(const std::vector<double>& values);       // appends a series
     void AddArray(const std::vector<std::int32_t>& values); // appends a series
     void AddArray(const std::vector<Text>& labels);         // replaces the slot labels
+    void setFullLabels(const std::vector<Text>& labels) { fullLabels_ = labels; }
 
 private:
     friend struct Chart;
     std::vector<std::vector<double>> series_;
-    std::vector<Text> labels_;
+    std::vector<Text> labels_, fullLabels_;
 };
 
 struct Chart {
@@ -52,6 +53,7 @@ struct Chart {
     std::optional<int> decimals{}; // of the value axis; absent: as many as its steps need
     std::vector<std::vector<double>> series{};
     std::vector<Text> labels{};      // of the slots; may be fewer or none, and the last may be blank
+    std::vector<Text> fullLabels{};  // the same without abbreviations, for the read-out; empty: `labels`
     std::set<int> hidden{};          // series
     std::map<int, Text> legends{};   // by series
     std::map<int, Colour> colours{}; // by series

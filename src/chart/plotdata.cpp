@@ -124,6 +124,13 @@ TextSpan PlotData::label(int slot) const
     return i < chart_.labels.size() ? TextSpan(chart_.labels[i]) : TextSpan();
 }
 
+TextSpan PlotData::fullLabel(int slot) const
+{
+    const std::size_t i = static_cast<std::size_t>(slot);
+    const bool given = slot >= 0 && slot < slotCount_ && i < chart_.fullLabels.size();
+    return given ? TextSpan(chart_.fullLabels[i]) : label(slot);
+}
+
 std::optional<double> PlotData::value(std::size_t series, int slot) const
 {
     const std::vector<double>& values = chart_.series[series_[series].number];
@@ -153,7 +160,7 @@ Text PlotData::sentence(int slot) const
 {
     if (slot < 0 || slot >= pointCount_)
         return {};
-    Text text = drawable(label(slot)), separator = text.empty() ? Text() : Text(u": ");
+    Text text = drawable(fullLabel(slot)), separator = text.empty() ? Text() : Text(u": ");
     for (std::size_t s = 0; s < series_.size(); ++s) {
         const std::optional<double> figure = value(s, slot);
         // Only the month in progress has a projection.

@@ -34,7 +34,10 @@ public:
 
     int slotCount() const { return slotCount_; }   // including an empty slot at the end
     int pointCount() const { return pointCount_; } // without an empty slot at the end
-    TextSpan label(int slot) const;                // unchanged; empty if there is none
+    // Unchanged; empty if there is none. The full label is for texts outside the axis: "JUL98" where the label
+    // is "J98".
+    TextSpan label(int slot) const;
+    TextSpan fullLabel(int slot) const;
 
     // Absent if the series is too short, 0 for NaN, and clamped to -1e300 to 1e300, so that sums are finite.
     std::optional<double> value(std::size_t series, int slot) const;

@@ -39,12 +39,11 @@ int yearAfterSlash(const ScreenLines& lines)
     });
 }
 
-// "OCT", but "J99" for January.
-Text monthOrYear(const MonthRow& row, int, int firstYear)
+// "OCT", but "J99" for January; in full both have the year.
+MonthLabel monthOrYear(const MonthRow& row, int, int firstYear)
 {
-    if (!holds(row.line, u"JAN"))
-        return Text(mid(row.line, 2, 3));
-    return Text(mid(row.line, 2, 1)) + Text(mid(signedNumber(firstYear + yearOf(row.month)), 4, 2));
+    const Text month(mid(row.line, 2, 3)), year(mid(signedNumber(firstYear + yearOf(row.month)), 4, 2));
+    return {holds(row.line, u"JAN") ? Text(mid(row.line, 2, 1)) + year : month, month + year};
 }
 
 double wholeAmount(const MonthRow& row)

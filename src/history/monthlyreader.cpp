@@ -54,6 +54,7 @@ MonthlySeries readMonths(const MonthlyScreen& screen, TextSpan capture, Position
     const auto slots = static_cast<std::size_t>(months) + 1;
     series.values.resize(slots);
     series.labels.resize(slots);
+    series.fullLabels.resize(slots);
     if (screen.day || hasOwnSecondSeries(screen))
         series.second.resize(slots);
 
@@ -61,7 +62,9 @@ MonthlySeries readMonths(const MonthlyScreen& screen, TextSpan capture, Position
         const auto slot = static_cast<std::size_t>(months - month);
         const MonthRow row = rowOf(screen, lines, month);
         readLine(row.line, [&] {
-            series.labels[slot] = screen.label(row, months, firstYear);
+            MonthLabel label = screen.label(row, months, firstYear);
+            series.labels[slot] = std::move(label.onAxis);
+            series.fullLabels[slot] = std::move(label.full);
             double part = 1;
             if (screen.day && month == 1)
                 part = elapsedPart(daysOfMonth(mid(row.line, row.column, 3)), day);

@@ -20,7 +20,7 @@ Acceptance accept(const MonthlyScreen& screen, TextSpan capture);
 struct MonthlySeries {
     std::vector<double> values;
     std::vector<double> second; // empty where the screen has no second series
-    std::vector<Text> labels;
+    std::vector<Text> labels, fullLabels; // on the axis, and without abbreviations
     Text subject, subject2; // the titles at the positions 2 and 3
 };
 

@@ -26,11 +26,12 @@ double MonthRow::read(Field field) const
     return dropCommas ? leadingNumberWithoutCommas(text) : leadingNumber(text);
 }
 
-Text monthAndYear(const MonthRow& row, int months, int)
+MonthLabel monthAndYear(const MonthRow& row, int months, int)
 {
+    const Text full(mid(row.line, row.column, 5));
     if (months <= maxLongLabels)
-        return Text(mid(row.line, row.column, 5));
-    return Text(mid(row.line, row.column, 1)) + Text(mid(row.line, row.column + 3, 2));
+        return {full, full};
+    return {Text(mid(row.line, row.column, 1)) + Text(mid(row.line, row.column + 3, 2)), full};
 }
 
 Value valueOf(Field field)

@@ -65,8 +65,12 @@ struct MonthRow {
     double read(Field field) const;
 };
 
-// The usual label: "OCT99", or "O99" where more than 18 months are charted.
-Text monthAndYear(const MonthRow& row, int months, int firstYear);
+struct MonthLabel {
+    Text onAxis, full;
+};
+
+// The usual label: "OCT99"; on the axis "O99" where more than 18 months are charted.
+MonthLabel monthAndYear(const MonthRow& row, int months, int firstYear);
 
 // Works out what is charted of a month. Throws Failure when a number is too large.
 using Value = std::function<double(const MonthRow&)>;
@@ -118,7 +122,7 @@ struct MonthlyScreen {
     bool dropCommas = false;
     // For the label. Is called before the reader can run out of text.
     int (*firstYear)(const ScreenLines&) = nullptr;
-    Text (*label)(const MonthRow&, int months, int firstYear) = monthAndYear;
+    MonthLabel (*label)(const MonthRow&, int months, int firstYear) = monthAndYear;
     void (*finish)(std::vector<double>& values) = nullptr; // changes the values when all months are read
 
     std::vector<DataType> types;   // by option index; a single one where there is no choice

@@ -80,6 +80,7 @@ bool HistoryWindow::drawChart(const Text& capture)
         if (!series.second.empty())
             data.AddArray(series.second);
         data.AddArray(series.labels);
+        data.setFullLabels(series.fullLabels);
         ChartFX1.SetChartData(data);
     });
     return true;

@@ -32,6 +32,17 @@ TEST(ChartAccessible, HasAChildPerPoint)
     EXPECT_EQ(told->childAt(inSecond.x(), inSecond.y()), told->child(1));
 }
 
+TEST(ChartAccessible, NamesAPointInFull)
+{
+    ShownChart chart;
+    Chart content = threeMonths();
+    content.labels = {u"A99", u"S99", u"O99", u""};
+    content.fullLabels = threeMonths().labels;
+    chart.setChart(content);
+    QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&chart);
+    EXPECT_EQ(told->child(0)->text(QAccessible::Name), "AUG99: Sales 1,110");
+}
+
 TEST(ChartAccessible, FocusFollowsTheCurrentPoint)
 {
     ShownChart chart;

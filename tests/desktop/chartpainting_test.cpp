@@ -85,6 +85,21 @@ TEST(ChartPainting, PrintsNeitherTheCurrentPointNorTheFocus)
     EXPECT_EQ(printed(chart, 3780), before);
 }
 
+TEST(ChartPainting, OnlyTheReadOutHasTheFullLabel)
+{
+    ShownChart chart;
+    const QImage before = chart.grab().toImage(), paper = printed(chart, 3780);
+    chart.setCurrentPoint(1);
+    const QImage read = chart.grab().toImage();
+    Chart content = threeMonths();
+    content.fullLabels = {u"AUG99", u"in September 99", u"OCT99", u""};
+    chart.setChart(content);
+    EXPECT_NE(chart.grab().toImage(), read);
+    chart.setCurrentPoint(-1);
+    EXPECT_EQ(chart.grab().toImage(), before);
+    EXPECT_EQ(printed(chart, 3780), paper);
+}
+
 TEST(ChartPainting, TextHasTheSameSizeAtAHigherResolution)
 {
     ShownChart chart;

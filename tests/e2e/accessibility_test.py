@@ -193,6 +193,15 @@ class Accessibility(SpokenTest):
         self.assertIn("KEROSN", window.first("chart").name)
         self.close(window)
 
+    def test_a_month_of_two_years_is_named_in_full(self):
+        window = self.open("product")
+        window.first("radio button", "24 Month").press()
+        chart = window.first("chart")
+        soon("two years are charted", lambda: len(chart.children()) == 25)
+        self.assertEqual([point.name[:6] for point in chart.children() if point.name.startswith("J")],
+                         ["JAN98:", "JUN98:", "JUL98:", "JAN99:", "JUN99:", "JUL99:"])
+        self.close(window)
+
     def test_the_end_by_an_error_is_announced(self):
         lines = PRODUCT.split(b"\r\n")
         newest = next(i for i, line in enumerate(lines) if b"-----" in line[:28]) + 1

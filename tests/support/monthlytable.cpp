@@ -37,6 +37,14 @@ std::vector<double> MonthlyTable::numbers(Columns columns, int months) const
     return result;
 }
 
+std::vector<Text> MonthlyTable::fullLabels(int months) const
+{
+    std::vector<Text> labels;
+    for (int month = 1; month <= months; ++month)
+        labels.push_back(characters(month, {0, 5}));
+    return labels;
+}
+
 std::vector<Text> MonthlyTable::labels(int months) const
 {
     std::vector<Text> result;

@@ -27,6 +27,7 @@ public:
 
     // Newest first: "OCT99", or "O99" where more than 18 months are read.
     std::vector<Text> labels(int months) const;
+    std::vector<Text> fullLabels(int months) const; // "OCT99"
 
     // Over what the months hold at the offset.
     void put(int month, int offset, TextSpan text);

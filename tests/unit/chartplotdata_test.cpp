@@ -32,6 +32,37 @@ TEST(ChartPlotData, ReadsAPointOut)
     EXPECT_TRUE(data.sentence(-1).empty());
 }
 
+TEST(ChartPlotData, ReadsTheFullLabelOutAndKeepsTheLabel)
+{
+    Chart chart = newestMonthProjected();
+    chart.labels = {u"S99", u"O99", u""};
+    EXPECT_EQ(narrow(PlotData(chart).sentence(0)), "S99: Sales 1,110") << "without full labels";
+    chart.fullLabels = {u"SEP99", u"OCT99\r"};
+    const PlotData data(chart);
+    EXPECT_EQ(narrow(data.sentence(0)), "SEP99: Sales 1,110");
+    EXPECT_EQ(narrow(data.sentence(1)), "OCT99: Sales 512, Projected 388");
+    EXPECT_EQ(data.label(1), u"O99");
+    EXPECT_EQ(data.fullLabel(1), u"OCT99\r");
+    for (const int slot : {-1, 2, 3})
+        EXPECT_TRUE(data.fullLabel(slot).empty()) << slot;
+}
+
+TEST(ChartPlotData, NewDataReplacesTheFullLabels)
+{
+    ChartArrayData months;
+    months.AddArray(std::vector{1.0});
+    months.AddArray(std::vector<Text>{u"J98"});
+    months.setFullLabels({u"JUL98"});
+    Chart chart;
+    chart.SetChartData(months);
+    EXPECT_EQ(PlotData(chart).fullLabel(0), u"JUL98");
+    months = {};
+    months.AddArray(std::vector{1.0});
+    months.AddArray(std::vector<Text>{u"02_01"});
+    chart.SetChartData(months);
+    EXPECT_EQ(PlotData(chart).fullLabel(0), u"02_01");
+}
+
 TEST(ChartPlotData, AnEmptySlotAtTheEndIsNotAPoint)
 {
     Chart chart = newestMonthProjected();

@@ -55,17 +55,22 @@ TEST_F(FrmGLarch, ShowsEveryAmountOfEveryYearTurned)
                                       {49, 12, 17, 6, -1}});
     const Texts months{u"DEC", u"NOV", u"OCT", u"SEP", u"AUG", u"JUL",
                        u"JUN", u"MAY", u"APR", u"MAR", u"FEB"};
-    Texts newestFirst;
+    Texts newestFirst, full;
     for (int years = 1; years <= 5; ++years) {
         SCOPED_TRACE(years);
         Numbers amounts;
         for (const double amount : table.numbers({0, 13}, 12 * years))
             amounts.push_back(-std::nearbyint(amount));
         newestFirst.insert(newestFirst.end(), months.begin(), months.end());
-        newestFirst.push_back(Text(u"J9") + static_cast<char16_t>(u'9' + 1 - years));
+        const auto yearsDigit = static_cast<char16_t>(u'9' + 1 - years);
+        newestFirst.push_back(Text(u"J9") + yearsDigit);
+        for (const Text& month : months)
+            full.push_back(month + u'9' + yearsDigit);
+        full.push_back(Text(u"JAN9") + yearsDigit);
         const auto drawn = drawing(ledger, years);
         EXPECT_EQ(drawn->chart().series, std::vector<Numbers>{slots(amounts)});
         EXPECT_EQ(drawn->chart().labels, slots(newestFirst));
+        EXPECT_EQ(drawn->chart().fullLabels, slots(full));
         EXPECT_FALSE(drawn->chart().decimals);
     }
 }

@@ -59,6 +59,7 @@ void Monthly::expectEveryMonth(const MonthlyTable& table)
                 EXPECT_EQ(chart.series[1], slots(second));
             }
             EXPECT_EQ(chart.labels, slots(table.labels(months)));
+            EXPECT_EQ(chart.fullLabels, slots(table.fullLabels(months)));
             EXPECT_EQ(chart.hidden, expected.series == 2 && !expected.projects() && !shown.second
                                         ? std::set{1}
                                         : std::set<int>{});

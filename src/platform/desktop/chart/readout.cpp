@@ -50,7 +50,7 @@ public:
         const double maxWidth = layout.paper.width * .5;
         const auto fitted = [&](const Text& text) { return toQString(chart::elided(text, maxWidth, width)); };
         if (!data.components())
-            label_ = fitted(chart::drawable(data.label(slot)));
+            label_ = fitted(chart::drawable(data.fullLabel(slot)));
         double names = 0, numbers = 0;
         for (Row& row : rows_) {
             row.name = chart::elided(row.name, maxWidth, width);
