@@ -3,6 +3,7 @@
 #include "platform/desktop/assistive.h"
 #include "platform/desktop/clipboard.h"
 #include "platform/desktop/desktopwindow.h"
+#include "platform/desktop/filedialog.h"
 #include "platform/desktop/fontsahead.h"
 #include "platform/desktop/process.h"
 #include "platform/desktop/shown.h"
@@ -107,6 +108,7 @@ DesktopPlatform::DesktopPlatform()
     // A Wayland desktop uses this name to find the installed desktop entry and its icon.
     QApplication::setDesktopFileName(QStringLiteral("io.github.plotvue.PlotVue"));
     offerWindowsToAssistiveTechnology();
+    keepNoSettings();
 }
 
 DesktopPlatform::~DesktopPlatform()
