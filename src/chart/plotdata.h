@@ -34,8 +34,8 @@ public:
 
     int slotCount() const { return slotCount_; }   // including an empty slot at the end
     int pointCount() const { return pointCount_; } // without an empty slot at the end
-    // Unchanged; empty if there is none. The full label is for texts outside the axis: "JUL98" where the label
-    // is "J98".
+    // Unchanged; empty if there is none. The full label is for texts outside the axis: "JUL98" where the
+    // label is "J98".
     TextSpan label(int slot) const;
     TextSpan fullLabel(int slot) const;
 

@@ -19,9 +19,9 @@ Acceptance accept(const MonthlyScreen& screen, TextSpan capture);
 // The series have a slot for every month, from the oldest to the newest, and an empty one at the end.
 struct MonthlySeries {
     std::vector<double> values;
-    std::vector<double> second; // empty where the screen has no second series
+    std::vector<double> second;           // empty where the screen has no second series
     std::vector<Text> labels, fullLabels; // on the axis, and without abbreviations
-    Text subject, subject2; // the titles at the positions 2 and 3
+    Text subject, subject2;               // the titles at the positions 2 and 3
 };
 
 // Reads the newest `months` months for one of the screen's data types. `identifier` is the position of the
