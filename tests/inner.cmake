@@ -17,6 +17,7 @@ file(GLOB unit CONFIGURE_DEPENDS unit/*.cpp)
 list(FILTER unit EXCLUDE REGEX ${PLOTVUE_OTHER_SYSTEM})
 add_executable(unittests ${unit})
 target_link_libraries(unittests PRIVATE testsupport GTest::gtest_main)
+target_compile_definitions(unittests PRIVATE PLOTVUE_VERSION="${PROJECT_VERSION}")
 target_precompile_headers(unittests PRIVATE <gtest/gtest.h> support/session.h support/capturebuilder.h)
 # A thousand tests of a millisecond each: one process.
 add_test(NAME unit COMMAND unittests --gtest_brief=1)

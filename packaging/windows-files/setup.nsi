@@ -17,7 +17,8 @@ InstallDir "$LOCALAPPDATA\Programs\PlotVue"
 !define LISTED "Software\Microsoft\Windows\CurrentVersion\Uninstall\PlotVue"
 InstallDirRegKey HKCU "${LISTED}" "InstallLocation" ; an update is installed in the old folder
 
-VIProductVersion "${VERSION}.0.0"
+!getdllversion "${PROGRAM}" number
+VIProductVersion "${number1}.${number2}.${number3}.${number4}"
 VIAddVersionKey "ProductName" "PlotVue"
 VIAddVersionKey "ProductVersion" "${VERSION}"
 VIAddVersionKey "FileDescription" "PlotVue Setup"

@@ -58,7 +58,7 @@ TEST(Startup, ItsControlsSayWhatToDo)
     EXPECT_EQ(session.text("startup", "Label1"), u"PlotVue!");
     EXPECT_EQ(session.text("startup", "Label2"), u"Supported screens:");
     EXPECT_EQ(session.text("startup", "Label3"), u"Chart your data, instantly!");
-    EXPECT_EQ(session.text("startup", "Label4"), u"Version 3.8");
+    EXPECT_EQ(session.text("startup", "Label4"), u"Version " PLOTVUE_VERSION);
     EXPECT_EQ(session.text("startup", "Label5"),
               u"Copy data to the Windows clipboard, then click Refresh to chart your data.");
     EXPECT_EQ(session.text("startup", "Command1"), u"Refresh");
