@@ -7,9 +7,11 @@ import sys
 import tempfile
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "replay"))
+TESTS = Path(__file__).resolve().parents[1]
+sys.path[:0] = [str(TESTS), str(TESTS / "replay")]
 from alike import check_alike, played  # noqa: E402
 from tour import tours  # noqa: E402
+from verdict import remark  # noqa: E402
 from wine import Wine  # noqa: E402
 
 PATIENCE = 120
@@ -39,6 +41,7 @@ def main():
                 other = printed.replace(b"\r\n", b"\n"), files
                 if one == other:
                     break
+                remark(f"{Path(story).name} on {platform} differed in the {attempt} try.")
             check_alike(one, other)
 
 
