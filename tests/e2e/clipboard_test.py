@@ -43,7 +43,11 @@ class Clipboard(DesktopTest):
         self.ends(1)
         self.assertRegex(self.errors(), r"^PlotVue: [A-Z].*\.\n$")
 
-    def test_without_a_display_one_sentence_is_printed(self):
+    def test_without_a_display_one_sentence_is_printed_and_nothing_is_left(self):
+        temporary = self.desktop.home / "tmp"
+        temporary.mkdir()
+        self.desktop.env["TMPDIR"] = str(temporary)
+        del self.desktop.env["XDG_RUNTIME_DIR"]
         for display in (None, "", ":9999"):
             with self.subTest(display=display):
                 self.desktop.env.pop("DISPLAY", None)
@@ -52,6 +56,7 @@ class Clipboard(DesktopTest):
                 self.start()
                 self.ends(1)
                 self.assertEqual(self.errors(), "PlotVue: there is no display to show windows on.\n")
+        self.assertEqual(list(temporary.iterdir()), [])
 
     def test_any_other_reason_why_no_window_can_be_shown_is_printed(self):
         self.desktop.env["QT_QPA_PLATFORM"] = "no such"

@@ -11,7 +11,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
 from desktop import (  # noqa: E402
     CHART, LIST, NEED_DATA, PRODUCT, START, Desktop, DesktopTest, ended, main, sample, soon)
 
-GAINS, VENDORS = sample("monthtomonth"), sample("vendors")
+GAINS = sample("monthtomonth")
 LONG = PRODUCT + b"no screen at all\r\n" * 300_000  # is sent in many pieces
 
 
@@ -106,32 +106,6 @@ class OnTheDesktop(DesktopTest):
         self.still_held(GAINS)
         self.assertRegex(self.errors(),
                          r"^PlotVue: The file pvuscrn.txt in the working directory cannot be created \(.+\)\.\n$")
-
-    def test_nothing_is_written_but_the_three_files(self):
-        elsewhere, here = self.desktop.home / "elsewhere", self.desktop.home / "here"
-        elsewhere.mkdir(mode=0o700)
-        here.mkdir()
-        variables = [f"{name}={elsewhere}" for name in ("HOME", "TMPDIR", "XDG_RUNTIME_DIR")]
-        self.desktop.copy(VENDORS)
-        self.process = self.desktop.launch("env", f"--chdir={here}", *variables, self.program)
-        rows = self.desktop.window(LIST)
-        self.desktop.key("Return")
-        soon("a row is charted", lambda: (here / "plotvue.txt").exists())
-        charts = soon("the charts have the focus",
-                      lambda: self.desktop.focus() not in ("", rows) and self.desktop.focus())
-        self.desktop.key("Page_Down", "ctrl+p")
-        self.desktop.window("Print")
-        self.desktop.key("Escape")
-        self.desktop.gone("Print")
-        self.desktop.focused(charts)
-        self.desktop.key("Escape")
-        self.desktop.focused(rows)
-        self.desktop.key("Escape")
-        self.desktop.window(START)
-        self.charts(PRODUCT)
-        self.leave()
-        self.assertEqual(sorted(path.name for path in here.iterdir()), ["plotvue.txt", "plotvue1.txt", "pvuscrn.txt"])
-        self.assertEqual(list(elsewhere.iterdir()), [])
 
 
 if __name__ == "__main__":

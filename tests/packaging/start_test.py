@@ -44,6 +44,10 @@ class Start(unittest.TestCase):
             ended(program)
         self.assertEqual(list(self.runtime.iterdir()), [])
 
+    def test_a_file_that_is_dropped_on_the_menu_entry_is_not_passed_on(self):
+        self.desktop.launch(menu_command(), str(SAMPLES / "product.txt"))
+        self.desktop.window("PlotVue")
+
     def test_leaving_the_program_removes_the_directory_too(self):
         program = self.desktop.start()
         self.scratch_files(1)

@@ -4,7 +4,6 @@
 #include "platform/desktop/clipboard.h"
 #include "platform/desktop/desktopwindow.h"
 #include "platform/desktop/filedialog.h"
-#include "platform/desktop/fontsahead.h"
 #include "platform/desktop/process.h"
 #include "platform/desktop/shown.h"
 
@@ -25,27 +24,6 @@ namespace plotvue {
 namespace {
 
 constexpr int maxLineWidth = 120; // in average characters
-
-QtMessageHandler usualMessages = nullptr;
-bool displayIsMissing = false;
-
-// Handles the toolkit's messages during the connection to the display. Without a display the toolkit would
-// abort; this handler prints a sentence and ends the process instead.
-void noteMissingDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message)
-{
-    if (type == QtFatalMsg) {
-        sayToTerminal(displayIsMissing
-                          ? Text(u"there is no display to show windows on.")
-                          : u"no window can be shown: " + toText(message.section(u'\n', 0, 0).trimmed()));
-        endProcess(EXIT_FAILURE);
-    }
-    // The X11 and Wayland plug-ins report a missing display before the fatal message.
-    const bool missing = message.contains(QLatin1String("could not connect to display")) ||
-                         message.contains(QLatin1String("Failed to create wl_display"));
-    displayIsMissing = displayIsMissing || missing;
-    if (!missing && type != QtInfoMsg)
-        usualMessages(type, context, message);
-}
 
 QWidget* windowInFront()
 {
@@ -89,16 +67,6 @@ void showBox(QMessageBox::Icon icon, TextSpan title, TextSpan text, const QStrin
 }
 
 } // namespace
-
-std::unique_ptr<QApplication> makeApplication(int& argc, char** argv)
-{
-    static FontsAhead fonts; // loads fonts while the process waits for the display
-    usualMessages = qInstallMessageHandler(noteMissingDisplay);
-    auto application = std::make_unique<QApplication>(argc, argv);
-    qInstallMessageHandler(usualMessages);
-    fonts.list();
-    return application;
-}
 
 DesktopPlatform::DesktopPlatform()
 {
@@ -154,7 +122,7 @@ void DesktopPlatform::showMessage(TextSpan title, TextSpan text)
 
 void DesktopPlatform::reportError(TextSpan sentence)
 {
-    sayToTerminal(sentence);
+    writeError(u"PlotVue: " + Text(sentence));
     presenter_.settle();
     showBox(QMessageBox::Critical, {}, sentence, QMessageBox::tr("OK"));
     endProcess(EXIT_FAILURE);
@@ -162,7 +130,7 @@ void DesktopPlatform::reportError(TextSpan sentence)
 
 void DesktopPlatform::spin(int lines)
 {
-    sayToTerminal(u"the copied screen has fewer than 20 lines; PlotVue waits for the rest.");
+    writeError(u"PlotVue: the copied screen has fewer than 20 lines; PlotVue waits for the rest.");
     presenter_.settle();
     // Resembles the "not responding" box of a desktop: the windows under it are still painted but ignore all
     // input.

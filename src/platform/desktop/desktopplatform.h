@@ -6,16 +6,9 @@
 #include "platform/desktop/printing.h"
 #include "platform/platform.h"
 
-#include <memory>
 #include <optional>
 
-class QApplication;
-
 namespace plotvue {
-
-// Creates the application and connects it to the display. If no window can be shown, it prints a sentence to
-// standard error and ends the process with status 1.
-std::unique_ptr<QApplication> makeApplication(int& argc, char** argv);
 
 class DesktopPlatform : public Platform {
 public:

@@ -11,9 +11,15 @@ void enterWorkingDirectory()
     // The menu entry starts a script that creates the folder.
 }
 
-void sayToTerminal(TextSpan sentence)
+void writeError(TextSpan line)
 {
-    std::fprintf(stderr, "PlotVue: %s\n", toUtf8(sentence).c_str());
+    std::fprintf(stderr, "%s\n", toUtf8(line).c_str());
+}
+
+void refuse(TextSpan sentence)
+{
+    writeError(sentence);
+    endProcess(2);
 }
 
 void endProcess(int status)

@@ -1,3 +1,4 @@
+#include "capture/utf8.h"
 #include "platform/desktop/process.h"
 
 #include <cstdlib>
@@ -84,9 +85,24 @@ void enterWorkingDirectory()
     }
 }
 
-void sayToTerminal(TextSpan)
+void writeError(TextSpan line)
 {
-    // On Windows a program with windows has no standard error; the message box is enough.
+    HANDLE error = GetStdHandle(STD_ERROR_HANDLE);
+    const DWORD kind = GetFileType(error);
+    if (kind != FILE_TYPE_DISK && kind != FILE_TYPE_PIPE)
+        return;
+    std::string bytes = toUtf8(line) + "\r\n";
+    DWORD written = 0;
+    while (!bytes.empty() &&
+           WriteFile(error, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) && written > 0)
+        bytes.erase(0, written);
+}
+
+void refuse(TextSpan sentence)
+{
+    writeError(sentence);
+    MessageBoxW(nullptr, std::wstring(sentence.begin(), sentence.end()).c_str(), L"PlotVue", MB_ICONERROR);
+    endProcess(2);
 }
 
 void endProcess(int status)

@@ -1,0 +1,107 @@
+"""The real program leaves nothing behind: no settings, no temporary files, only the three small files."""
+
+import sys
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
+from desktop import LIST, PRODUCT, START, DesktopTest, main, sample, soon  # noqa: E402
+from printserver import PrintServer  # noqa: E402
+
+VENDORS = sample("vendors")
+TO_FILE = "Print To File ..."
+
+
+class Traces(DesktopTest):
+    def setUp(self):
+        super().setUp()
+        self.server = PrintServer(self.desktop, ["paper"])
+        self.addCleanup(self.server.close)
+        top = self.desktop.home / "top"
+        self.home, self.temporary, self.configuration, self.runtime, self.here, self.saved = (
+            top / name for name in ("home", "tmp", "config", "run", "here", "saved"))
+        for folder in (top, self.home, self.temporary, self.configuration, self.runtime, self.here, self.saved):
+            folder.mkdir(mode=0o700)
+
+    def start_with(self, **session):
+        self.desktop.copy(VENDORS)
+        folders = {"HOME": self.home, "TMPDIR": self.temporary, **session}
+        variables = [f"{name}={folder}" for name, folder in folders.items()]
+        self.process = self.desktop.launch("env", f"--chdir={self.here}", "--unset=XDG_RUNTIME_DIR", *variables,
+                                           self.program)
+        self.rows = self.desktop.window(LIST)
+
+    def chart_a_row(self):
+        self.desktop.key("Return")
+        soon("a row is charted", lambda: (self.here / "plotvue.txt").exists())
+        self.chart = soon("the chart has the focus",
+                          lambda: self.desktop.focus() not in ("", self.rows) and self.desktop.focus())
+        self.desktop.key("Page_Down")
+
+    def finish_printing(self):
+        self.desktop.key("alt+p")
+        self.desktop.gone("Print")
+        self.desktop.focused(self.chart)
+
+    def print_on_paper(self):
+        self.desktop.key("ctrl+p")
+        self.desktop.window("Print")
+        self.finish_printing()
+        soon("it is printed", lambda: self.server.completed("paper"))
+
+    def choose_file(self):
+        """Opens the dialog for files from the dialog for printers."""
+        self.desktop.key("space")
+        self.desktop.window(TO_FILE)
+
+    def print_to_file(self, file):
+        self.desktop.key("ctrl+p")
+        printer = self.desktop.window("Print")
+        self.desktop.key("alt+n", "End")  # the last printer is a file
+        self.desktop.key(*["Tab"] * 3)
+        self.choose_file()
+        self.desktop.key("Escape")
+        self.desktop.focused(printer)
+        self.choose_file()
+        self.desktop.output("xdotool", "type", str(file))
+        self.desktop.key("Return")
+        self.desktop.focused(printer)
+        self.finish_printing()
+        self.assertTrue(soon("the file is written", lambda: file.exists() and file.read_bytes()).startswith(b"%PDF"))
+
+    def leave_all(self):
+        self.desktop.key("Escape")
+        self.desktop.focused(self.rows)
+        self.desktop.key("Escape")
+        self.desktop.window(START)
+        self.charts(PRODUCT)
+        self.leave()
+
+    def leaves_no_traces(self, **session):
+        self.start_with(**session)
+        self.chart_a_row()
+        self.print_on_paper()
+        self.print_to_file(self.saved / "chart.pdf")
+        self.leave_all()
+        self.assertEqual(sorted(path.name for path in self.here.iterdir()),
+                         ["plotvue.txt", "plotvue1.txt", "pvuscrn.txt"])
+        self.assertEqual([path.name for path in self.saved.iterdir()], ["chart.pdf"])
+        for folder in (self.temporary, self.configuration, self.runtime):
+            self.assertEqual(list(folder.rglob("*")), [])
+        # CUPS keeps the name of the default printer.
+        self.assertEqual(sorted(self.home.rglob("*")), [self.home / ".cups", self.home / ".cups/lpoptions"])
+
+    def test_without_a_session(self):
+        self.leaves_no_traces()
+
+    def test_with_a_folder_for_configuration(self):
+        self.leaves_no_traces(XDG_CONFIG_HOME=self.configuration)
+
+    def test_with_a_folder_of_the_session(self):
+        self.leaves_no_traces(XDG_RUNTIME_DIR=self.runtime)
+
+    def test_with_both(self):
+        self.leaves_no_traces(XDG_CONFIG_HOME=self.configuration, XDG_RUNTIME_DIR=self.runtime)
+
+
+if __name__ == "__main__":
+    main()
