@@ -6,7 +6,8 @@
 
 namespace plotvue::chart {
 
-// Text sizes. A title that does not fit is set in smaller sizes down to BodyTitle, a label down to Tiny.
+// Text sizes. A title that does not fit is set in smaller sizes down to BodyTitle, labels and values down to
+// Tiny.
 enum class TextRole { Tiny, Small, Body, BodyTitle, MediumTitle, LargeTitle };
 inline constexpr std::size_t textRoles = 6;
 
@@ -97,6 +98,7 @@ struct Layout {
     std::vector<double> yearRules; // x of the lines between December and January
     std::vector<Bar> bars;         // a figure of zero has no bar, but a component of zero has a flat one
     std::vector<SlotValue> values; // figures above or below the bars; empty unless all of them fit
+    TextRole valueRole = TextRole::Small;
 
     Rect slotBox(int slot) const;
     int slotAt(double x, double y) const; // the point with its slot or label at this position; -1: none

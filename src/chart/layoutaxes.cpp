@@ -192,7 +192,7 @@ void placeAxes(const LayoutInput& input, Layout& layout, const Rect& inner, doub
     const double longest = layout.paper.height * .22 / slant;
     const double labelHeight =
         layout.slanted ? std::min(longestName, longest) * slant + em * .5 : em * style.lines();
-    const double belowBars = reach.low < 0 && valuesFit(input, layout) ? em * .75 : 0;
+    const double belowBars = reach.low < 0 && sizeOfValues(input, layout) ? em * .75 : 0;
     const double labelTop = inner.bottom() - labelHeight;
 
     layout.plot.top = layout.snapped(top);

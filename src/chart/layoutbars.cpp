@@ -100,21 +100,27 @@ void placeValues(const LayoutInput& input, Layout& layout, const BarRow& row)
 {
     for (const Total& total : totalsOf(input.data)) {
         Text text = input.data.number(total.value);
-        const double width = input.width(text), end = layout.snapped(layout.y(total.value));
+        const double width = input.metrics.width(text, layout.valueRole);
+        const double height = input.metrics.height(layout.valueRole), gap = layout.em * .125;
         const double centre = row.left(layout, total.slot, total.place) + (row.each - row.gap) / 2;
-        const double top = total.up ? end - layout.em * 1.125 : end + layout.em * .125;
-        layout.values.push_back({total.slot, {{centre - width / 2, top, width, layout.em}, std::move(text)}});
+        const double end = layout.snapped(layout.y(total.value));
+        const double top = total.up ? end - gap - height : end + gap;
+        layout.values.push_back({total.slot, {{centre - width / 2, top, width, height}, std::move(text)}});
     }
 }
 
 } // namespace
 
-bool valuesFit(const LayoutInput& input, const Layout& layout)
+std::optional<TextRole> sizeOfValues(const LayoutInput& input, const Layout& layout)
 {
     const double room = (input.data.stacked() ? layout.slotWidth : barRow(input, layout).each) - minGap;
     const std::vector<Total> totals = totalsOf(input.data);
-    return std::all_of(totals.begin(), totals.end(),
-                       [&](const Total& t) { return input.width(input.data.number(t.value)) <= room; });
+    for (const TextRole role : {TextRole::Small, TextRole::Tiny})
+        if (std::all_of(totals.begin(), totals.end(), [&](const Total& total) {
+                return input.metrics.width(input.data.number(total.value), role) <= room;
+            }))
+            return role;
+    return {};
 }
 
 void placeBars(const LayoutInput& input, Layout& layout)
@@ -122,8 +128,10 @@ void placeBars(const LayoutInput& input, Layout& layout)
     const BarRow row = barRow(input, layout);
     for (int slot = 0; slot < layout.pointCount; ++slot)
         placeSlot(input, layout, row, slot);
-    if (valuesFit(input, layout))
+    if (const std::optional<TextRole> size = sizeOfValues(input, layout)) {
+        layout.valueRole = *size;
         placeValues(input, layout, row);
+    }
 }
 
 } // namespace plotvue::chart

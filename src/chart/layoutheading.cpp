@@ -68,7 +68,7 @@ double placeLegend(const LayoutInput& input, Layout& layout, const Rect& inner, 
         layout.legend.push_back({s, swatch, {{left + beforeName, top, width, em}, std::move(name)}});
         left += beforeName + width + em * 1.25;
     }
-    return top + em;
+    return top + em * 1.5; // keeps the value of a bar that fills the plot away from the legend
 }
 
 } // namespace plotvue::chart

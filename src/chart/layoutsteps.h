@@ -3,6 +3,8 @@
 
 #include "chart/layout.h"
 
+#include <optional>
+
 namespace plotvue::chart {
 
 struct LayoutInput {
@@ -22,8 +24,9 @@ double placeLegend(const LayoutInput& input, Layout& layout, const Rect& inner, 
 // Sets the scale, and places the plot, ticks, labels and year rules in the part of `inner` below `top`.
 void placeAxes(const LayoutInput& input, Layout& layout, const Rect& inner, double top);
 
-// Whether every figure fits above or below its bar. Requires layout.slotWidth.
-bool valuesFit(const LayoutInput& input, const Layout& layout);
+// The largest size in which every figure fits above or below its bar; absent if there is none. Requires
+// layout.slotWidth.
+std::optional<TextRole> sizeOfValues(const LayoutInput& input, const Layout& layout);
 // Requires layout.plot and layout.scale.
 void placeBars(const LayoutInput& input, Layout& layout);
 

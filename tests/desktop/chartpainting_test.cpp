@@ -1,4 +1,5 @@
 #include "desktop/chartsample.h"
+#include "platform/desktop/chart/chartpainter.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -7,6 +8,7 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <set>
 
 namespace plotvue {
 
@@ -36,6 +38,15 @@ QColor middleOfBar(const QImage& image, const ChartWidget& chart, int point)
 {
     const QRect slot = chart.pointRect(point);
     return image.pixelColor(slot.center().x(), slot.bottom() - 10);
+}
+
+int darkIn(const QImage& image, const QRect& box)
+{
+    int count = 0;
+    for (int y = box.top(); y <= box.bottom(); ++y)
+        for (int x = box.left(); x <= box.right(); ++x)
+            count += image.pixelColor(x, y).lightness() < 128;
+    return count;
 }
 
 double brightness(const QColor& colour)
@@ -98,6 +109,27 @@ TEST(ChartPainting, OnlyTheReadOutHasTheFullLabel)
     chart.setCurrentPoint(-1);
     EXPECT_EQ(chart.grab().toImage(), before);
     EXPECT_EQ(printed(chart, 3780), paper);
+}
+
+TEST(ChartPainting, AFigureAboveABarIsAsWideAsItsPlace)
+{
+    ShownChart chart;
+    Chart content = threeMonths();
+    content.series = {{1111111, 1111111, 1111111, 0}};
+    chart.setChart(content);
+    std::set<chart::TextRole> sizes;
+    for (int width = 420; width > 280; width -= 4) {
+        chart.resize(width, 400);
+        const QImage screen = chart.grab().toImage();
+        const chart::Layout& layout = chart.chartLayout();
+        if (layout.values.empty())
+            continue;
+        sizes.insert(layout.valueRole);
+        const QRect box = toQRectF(layout.values[1].figure.box).toAlignedRect();
+        EXPECT_GT(darkIn(screen, box.adjusted(box.width() - 8, 0, 0, 0)), 0) << width;
+        EXPECT_EQ(darkIn(screen, box.adjusted(box.width(), 0, 4, 0)), 0) << width;
+    }
+    EXPECT_EQ(sizes, (std::set{chart::TextRole::Tiny, chart::TextRole::Small}));
 }
 
 TEST(ChartPainting, TextHasTheSameSizeAtAHigherResolution)

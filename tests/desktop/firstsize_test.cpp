@@ -4,6 +4,8 @@
 #include "platform/desktop/chart/qtext.h"
 #include "platform/desktop/grid.h"
 
+#include <QPointer>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QScreen>
 
@@ -143,6 +145,28 @@ TEST_P(FirstSize, AlsoOnAScreenOf960By540) // 1920 by 1080 at 200 %
     window->resize(window->size().boundedTo({960, 540}));
     QCoreApplication::processEvents();
     expectWholeForEveryChoice(*window);
+}
+
+TEST_P(FirstSize, TheChartsOfEveryRowHaveTheirFigures)
+{
+    QPointer<WindowWidget> window = opened(sample(GetParam()));
+    ASSERT_TRUE(window);
+    const auto buttons = window->findChildren<QPushButton*>();
+    const auto down = std::ranges::find(buttons, QStringLiteral("Down"), &QPushButton::text);
+    if (down == buttons.end())
+        return; // not the window of a row
+    int rows = 0;
+    for (; window && window->isVisible(); ++rows) {
+        forEveryChoice(*window, [&] {
+            for (const ChartWidget* chart : window->findChildren<ChartWidget*>())
+                EXPECT_FALSE(chart->chartLayout().values.empty())
+                    << toQString(chart::titlesInOneLine(chart->chart())).toStdString();
+        });
+        (*down)->click();
+        windows();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    EXPECT_GT(rows, 3);
 }
 
 INSTANTIATE_TEST_SUITE_P(Samples, FirstSize, testing::ValuesIn(test::samples()),

@@ -106,7 +106,30 @@ TEST(ChartBars, HaveFiguresOnlyIfAllFit)
     chart.series = {{10, 20, 30, 123456789}};
     const double left = 12 + 11 * 6 + 6; // "150,000,000"
     EXPECT_EQ(laidOut(chart, {}, {left + 4 * 70 + 12, 251}).values.size(), 4U);
-    EXPECT_TRUE(laidOut(chart, {}, {left + 4 * 69 + 12, 251}).values.empty());
+    EXPECT_EQ(laidOut(chart, {}, {left + 4 * 59 + 12, 251}).values.size(), 4U);
+    EXPECT_TRUE(laidOut(chart, {}, {left + 4 * 58 + 12, 251}).values.empty());
+}
+
+TEST(ChartBars, HaveSmallerFiguresIfTheyDoNotFitOtherwise)
+{
+    struct LowTiny : SixByTwelve {
+        double height(TextRole role) const override { return role == TextRole::Tiny ? 8 : 12; }
+    };
+    Chart chart = fourBars();
+    chart.series = {{-10, 20, 30, 123456789}};
+    const double left = 12 + 11 * 6 + 6;
+    const auto drawn = [&](double slot) {
+        return layoutChart(PlotData(chart), {left + 4 * slot + 12, 251}, LowTiny(), 1);
+    };
+    const Layout small = drawn(70), tiny = drawn(69), none = drawn(58);
+    ASSERT_EQ(small.values.size(), 4U);
+    ASSERT_EQ(tiny.values.size(), 4U);
+    EXPECT_EQ(small.valueRole, TextRole::Small);
+    EXPECT_EQ(tiny.valueRole, TextRole::Tiny);
+    EXPECT_EQ(describe(small.values[3].figure), "123,456,789 @ 296.5,35.5 66x12");
+    EXPECT_EQ(describe(tiny.values[3].figure), "123,456,789 @ 298.5,39.5 55x8");
+    EXPECT_EQ(tiny.plot.bottom(), small.plot.bottom()) << "room for figures below the bars";
+    EXPECT_EQ(none.plot.bottom(), small.plot.bottom() + 9);
 }
 
 TEST(ChartBars, OfComponentsHaveTheirNamesBelow)

@@ -99,7 +99,7 @@ TEST(ChartLegend, IsBelowTheTitles)
     const Layout layout = laidOut(salesAndProjection(), projecting, {442, 251});
     EXPECT_EQ(describeLegend(layout), "12,30 9x9 Sales @ 27,28.5 30x12\n"
                                       "72,30 9x9 Projected @ 87,28.5 54x12\n");
-    EXPECT_EQ(layout.plot.top, 56);
+    EXPECT_EQ(layout.plot.top, 62);
 }
 
 TEST(ChartLegend, WrapsAtTheRightMargin)
@@ -109,7 +109,7 @@ TEST(ChartLegend, WrapsAtTheRightMargin)
     const Layout layout = laidOut(salesAndProjection(), projecting, {wide - 1, 251});
     EXPECT_EQ(describeLegend(layout), "12,30 9x9 Sales @ 27,28.5 30x12\n"
                                       "12,45 9x9 Projected @ 27,43.5 54x12\n");
-    EXPECT_EQ(layout.plot.top, 71);
+    EXPECT_EQ(layout.plot.top, 77);
 }
 
 TEST(ChartLegend, ANameIsElidedToTheWidthOfALine)

@@ -122,6 +122,7 @@ void ChartPainter::paintValues(int current)
                           value.slot == current ? inks_.band : inks_.paper);
     }
     painter_.setPen(inks_.ink);
+    painter_.setFont(fonts_.font(layout_.valueRole));
     for (const chart::SlotValue& value : layout_.values)
         paintLine(value.figure);
 }
