@@ -1,4 +1,4 @@
-// Events for tests to observe: windows, message boxes, prints and the end of the process.
+// Events for tests to observe: windows, message boxes, prints, copies and the end of the process.
 #pragma once
 
 #include "capture/text.h"
@@ -9,10 +9,10 @@
 namespace plotvue {
 
 struct Event {
-    enum class Kind { Load, Show, Hide, Unload, Message, Print, Spin, Error, End } kind;
+    enum class Kind { Load, Show, Hide, Unload, Message, Print, Copy, Spin, Error, End } kind;
     Name window{};    // of Load, Show, Hide, Unload, Print
     TextSpan title{}; // of Message; empty if the box has no title
-    TextSpan text{};  // of Message and Error
+    TextSpan text{};  // of Message, Copy and Error
 };
 
 class EventSource {

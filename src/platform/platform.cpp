@@ -16,6 +16,14 @@ void Platform::print(Window& window, Name name)
     tell({.kind = Event::Kind::Print, .window = name});
 }
 
+void Platform::copy(TextSpan text)
+{
+    if (text.empty())
+        return;
+    copyText(text);
+    tell({.kind = Event::Kind::Copy, .text = text});
+}
+
 void Platform::run(const std::function<void()>& handler)
 {
     if (over_)

@@ -42,6 +42,11 @@ public:
     // Prints the window's client area as one job. Throws Failure if that fails.
     void print(Window& window, Name name);
 
+    // Puts the text on the clipboard for other programs; does nothing if it is empty. clipboardText() goes on
+    // returning the captured screen that was there, in this PlotVue and in others. Throws Failure if the
+    // clipboard cannot be changed.
+    void copy(TextSpan text);
+
     [[noreturn]] void end() { throw EndOfProcess{}; }
 
     // Runs an event handler. An exception that it throws ends the process: EndOfProcess with status 0,
@@ -54,6 +59,7 @@ public:
 protected:
     virtual void showMessage(TextSpan title, TextSpan text) = 0;
     virtual void printWindow(Window& window) = 0;
+    virtual void copyText(TextSpan text) = 0;
     virtual void reportError(TextSpan sentence) = 0; // shows the error and ends the process with status 1
     virtual void spin(int lines) = 0; // waits for ever; `lines`: non-empty lines of the copied text
     virtual void finish() = 0;        // ends the process with status 0

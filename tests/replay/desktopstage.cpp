@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QLocale>
 
 namespace plotvue::replay {
 
@@ -41,6 +42,7 @@ public:
     {
         if (!QApplication::instance()) // several stages may follow each other with one application
             application_.emplace(argc, argv);
+        QLocale::setDefault(QLocale::c()); // which writes the decimal point as the platform in memory does
     }
 
     Platform& platform() override { return platform_; }
@@ -68,6 +70,7 @@ public:
     void choose(const Form& form, Name group, int index) override { chooseWidget(form, group, index); }
     void clickRow(const Form& form, Name grid, int row) override { clickRowOfWidget(form, grid, row); }
     void close(const Form& form) override { closeWidget(form); }
+    void copy(const Form& form, Name chartOrGrid) override { copyFromWidget(form, chartOrGrid); }
 
 private:
     std::optional<QApplication> application_;

@@ -4,7 +4,9 @@
 #include "platform/desktop/desktopwindow.h"
 #include "platform/desktop/noticeline.h"
 #include "platform/desktop/shown.h"
+#include "platform/gridtext.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QGroupBox>
@@ -107,9 +109,9 @@ void lookAt(Grid& grid, const Form& form, Name name)
     QStringList headings;
     for (int column = 0; column < model.columnCount(); ++column)
         headings += model.headerData(column, Qt::Horizontal).toString();
-    QStringList wantedHeadings = shownOnOneLine(wanted.format).split(u'|');
-    for (QString& heading : wantedHeadings)
-        heading = heading.remove(0, heading.startsWith(u'<') || heading.startsWith(u'>') ? 1 : 0).trimmed();
+    QStringList wantedHeadings;
+    for (const Text& heading : headingsOf(wanted))
+        wantedHeadings += toQString(cellText(heading));
     grid.format = seen(wanted.format, wantedHeadings.join(u'|'), headings.join(u'|'));
     grid.columns = model.columnCount();
     grid.setRows(model.rowCount() + 1);
@@ -119,7 +121,7 @@ void lookAt(Grid& grid, const Form& form, Name name)
             const Text value = known ? wanted.cell(row, column) : Text();
             grid.setCell(
                 row, column,
-                seen(value, shownOnOneLine(value).trimmed(), model.index(row - 1, column).data().toString()));
+                seen(value, toQString(cellText(value)), model.index(row - 1, column).data().toString()));
         }
 }
 
@@ -172,6 +174,15 @@ void closeWidget(const Form& form)
 {
     QCloseEvent event;
     QCoreApplication::sendEvent(&widgetOf(form), &event);
+}
+
+void copyFromWidget(const Form& form, Name chartOrGrid)
+{
+    // A chart can also copy its picture.
+    const QList<QAction*> actions = widgetOf<QWidget>(form, chartOrGrid).actions();
+    for (QAction* action : actions)
+        if (action->objectName() == QLatin1String("copyText"))
+            action->trigger();
 }
 
 } // namespace plotvue::replay

@@ -14,5 +14,6 @@ void pressWidget(const Form& form, Name button);
 void chooseWidget(const Form& form, Name group, int index);
 void clickRowOfWidget(const Form& form, Name grid, int row);
 void closeWidget(const Form& form);
+void copyFromWidget(const Form& form, Name chartOrGrid);
 
 } // namespace plotvue::replay

@@ -154,6 +154,8 @@ std::string toJson(const Event& event)
         return of("print") + window;
     case Event::Kind::Message:
         return of("message") + R"(,"title":)" + quote(event.title) + R"(,"text":)" + quote(event.text) + "}";
+    case Event::Kind::Copy:
+        return of("copy") + R"(,"text":)" + quote(event.text) + "}";
     case Event::Kind::Error:
         return of("error") + R"(,"text":)" + quote(event.text) + "}";
     case Event::Kind::Spin:

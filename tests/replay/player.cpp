@@ -86,6 +86,11 @@ void Player::command(const std::vector<std::string>& words)
         stage_.clickRow(loadedForm(words[1]), words[2], row);
     } else if (is("close", 2)) {
         stage_.close(loadedForm(words[1]));
+    } else if (is("copy", 3)) {
+        const Seen seen = control(words[1], words[2]);
+        if (!std::holds_alternative<Chart>(seen) && !std::holds_alternative<Grid>(seen))
+            throw BadLine(words[2] + " is neither a chart nor a grid");
+        stage_.copy(loadedForm(words[1]), words[2]);
     } else if (is("dump", 2)) {
         dump(words[1]);
     } else {
@@ -145,14 +150,22 @@ Form& Player::loadedForm(Name window)
     return found;
 }
 
-template <typename Value>
-Value Player::control(Name window, Name name)
+Seen Player::control(Name window, Name name)
 {
     const SeenWindow seen = stage_.look(loadedForm(window));
     const auto at = seen.controls.find(name);
-    if (at == seen.controls.end() || !std::holds_alternative<Value>(at->second))
+    if (at == seen.controls.end())
+        throw BadLine(std::string(window) + " has no control " + std::string(name));
+    return at->second;
+}
+
+template <typename Value>
+Value Player::control(Name window, Name name)
+{
+    const Seen seen = control(window, name);
+    if (!std::holds_alternative<Value>(seen))
         throw BadLine(std::string(window) + " has no such control " + std::string(name));
-    return std::get<Value>(at->second);
+    return std::get<Value>(seen);
 }
 
 } // namespace plotvue::replay

@@ -30,6 +30,7 @@ public:
     virtual void choose(const Form& form, Name group, int index) = 0;
     virtual void clickRow(const Form& form, Name grid, int row) = 0;
     virtual void close(const Form& form) = 0;
+    virtual void copy(const Form& form, Name chartOrGrid) = 0;
 };
 
 std::unique_ptr<Stage> recordingStage();
@@ -57,7 +58,8 @@ private:
     Form& form(Name window);
     Form& loadedForm(Name window);
 
-    // Throws BadLine if the window has no such control.
+    // Throw BadLine if the window has no such control.
+    Seen control(Name window, Name name);
     template <typename Value>
     Value control(Name window, Name name);
 

@@ -1,3 +1,5 @@
+#include "chart/figurestable.h"
+#include "platform/gridtext.h"
 #include "platform/recording/recording.h"
 #include "replay/player.h"
 
@@ -24,6 +26,16 @@ public:
     void choose(const Form& form, Name group, int index) override { form.controls().choose(group, index); }
     void clickRow(const Form& form, Name grid, int row) override { form.controls().clickRow(grid, row); }
     void close(const Form& form) override { form.controls().close(); }
+
+    void copy(const Form& form, Name name) override
+    {
+        const Seen seen = seenIn(form.controls()).controls.find(name)->second;
+        const auto* grid = std::get_if<Grid>(&seen);
+        platform_.run([&] {
+            platform_.copy(grid ? rowsTable(*grid)
+                                : chart::figuresTable(chart::PlotData(std::get<Chart>(seen)), u'.'));
+        });
+    }
 
 private:
     RecordingPlatform platform_;

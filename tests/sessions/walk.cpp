@@ -190,6 +190,8 @@ std::vector<Walk::Offer> Walk::offers(const std::string& window)
                 offer.push_back("row " + window + " " + name + " " + std::to_string(row));
         if (!offer.empty())
             all.push_back(std::move(offer));
+        if (std::holds_alternative<Grid>(seen) || std::holds_alternative<Chart>(seen))
+            all.push_back({"copy " + window + " " + name});
     }
     return all;
 }

@@ -34,6 +34,8 @@ std::string sentence(const Event& event)
         return "message " + toUtf8(event.title) + ": " + toUtf8(event.text);
     case Event::Kind::Print:
         return "print " + window;
+    case Event::Kind::Copy:
+        return "copy " + toUtf8(event.text);
     case Event::Kind::Spin:
         return "spin";
     case Event::Kind::Error:

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -46,12 +47,30 @@ void waitUntilPlaced(const QWidget& window)
     }
 }
 
+// A message box whose text can be copied without losing the captured screen.
+class Box : public QMessageBox {
+public:
+    explicit Box(QWidget* parent) : QMessageBox(parent) { setTextInteractionFlags(Qt::NoTextInteraction); }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (!event->matches(QKeySequence::Copy))
+            return QMessageBox::keyPressEvent(event);
+        try {
+            putOnClipboard(toText(text()), readClipboard());
+        } catch (const Failure&) {
+            // The box stays; another one about the clipboard would not help.
+        }
+    }
+};
+
 void showBox(QMessageBox::Icon icon, TextSpan title, TextSpan text, const QString& button)
 {
     QWidget* window = windowInFront();
     if (window)
         waitUntilPlaced(*window);
-    QMessageBox box(window);
+    Box box(window);
     box.setIcon(icon);
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(title.empty() ? QStringLiteral("PlotVue") : toQString(title));
@@ -100,7 +119,7 @@ Text DesktopPlatform::clipboardText()
 
 std::unique_ptr<Window> DesktopPlatform::build(std::shared_ptr<Controls> controls)
 {
-    return std::make_unique<DesktopWindow>(presenter_, std::move(controls));
+    return std::make_unique<DesktopWindow>(presenter_, menus_, std::move(controls));
 }
 
 double DesktopPlatform::choosePrinter(Window& window)
@@ -114,6 +133,11 @@ void DesktopPlatform::printWindow(Window& window)
     printing_.print(static_cast<DesktopWindow&>(window).widget());
 }
 
+void DesktopPlatform::copyText(TextSpan text)
+{
+    putOnClipboard(text, clipboardText());
+}
+
 void DesktopPlatform::showMessage(TextSpan title, TextSpan text)
 {
     presenter_.settle();
@@ -125,7 +149,7 @@ void DesktopPlatform::reportError(TextSpan sentence)
     writeError(u"PlotVue: " + Text(sentence));
     presenter_.settle();
     showBox(QMessageBox::Critical, {}, sentence, QMessageBox::tr("OK"));
-    endProcess(EXIT_FAILURE);
+    leave(EXIT_FAILURE);
 }
 
 void DesktopPlatform::spin(int lines)
@@ -144,16 +168,26 @@ void DesktopPlatform::spin(int lines)
             "Copy the whole screen, and set the terminal to keep the blanks at the ends of its lines.")
             .arg(lines == 1 ? QStringLiteral("1 line") : QStringLiteral("%1 lines").arg(lines));
     showBox(QMessageBox::Warning, {}, toText(text), QStringLiteral("Close PlotVue"));
-    endProcess(EXIT_FAILURE);
+    leave(EXIT_FAILURE);
 }
 
 void DesktopPlatform::finish()
+{
+    leave(EXIT_SUCCESS);
+}
+
+void DesktopPlatform::leave(int status)
 {
     const QWidgetList all = QApplication::topLevelWidgets();
     for (QWidget* window : all)
         window->hide();
     std::fflush(nullptr);
-    endProcess(EXIT_SUCCESS);
+    if (!clipboardNeedsHandover())
+        endProcess(status);
+    QCoreApplication::exit(status);
+    // For a process that is still starting: there is no event loop yet that could be left.
+    QMetaObject::invokeMethod(
+        qApp, [status] { QCoreApplication::exit(status); }, Qt::QueuedConnection);
 }
 
 } // namespace plotvue

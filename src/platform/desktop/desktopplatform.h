@@ -2,6 +2,7 @@
 // the printer dialog and the functions that end the process.
 #pragma once
 
+#include "platform/desktop/menus.h"
 #include "platform/desktop/presenter.h"
 #include "platform/desktop/printing.h"
 #include "platform/platform.h"
@@ -25,6 +26,7 @@ public:
 protected:
     void showMessage(TextSpan title, TextSpan text) override;
     void printWindow(Window& window) override;
+    void copyText(TextSpan text) override;
     void reportError(TextSpan sentence) override;
     void spin(int lines) override;
     void finish() override;
@@ -33,7 +35,12 @@ private:
     // The clipboard's text if the current event has read it already. The start-up window and the window that
     // it opens both read the clipboard, but its owner is asked only once.
     std::optional<Text> readInThisEvent_;
+    // Ends the process at once, or when the toolkit has shut down if a clipboard manager is to take what was
+    // copied.
+    void leave(int status);
+
     Presenter presenter_;
+    Menus menus_{*this};
     Printing printing_;
 };
 

@@ -8,8 +8,9 @@
 
 namespace plotvue {
 
-DesktopWindow::DesktopWindow(Presenter& presenter, std::shared_ptr<Controls> controls)
+DesktopWindow::DesktopWindow(Presenter& presenter, Menus& menus, std::shared_ptr<Controls> controls)
     : presenter_(presenter),
+      menus_(menus),
       controls_(std::move(controls))
 {
     presenter_.enter(*this);
@@ -80,7 +81,7 @@ WindowWidget& DesktopWindow::widget()
 {
     if (!widget_) {
         widget_ = new WindowWidget(controls_);
-        buildWidgets(*widget_);
+        buildWidgets(*widget_, menus_);
     }
     return *widget_;
 }

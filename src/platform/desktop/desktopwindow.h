@@ -6,11 +6,12 @@
 
 namespace plotvue {
 
+class Menus;
 class Presenter;
 
 class DesktopWindow : public Window {
 public:
-    DesktopWindow(Presenter& presenter, std::shared_ptr<Controls> controls);
+    DesktopWindow(Presenter& presenter, Menus& menus, std::shared_ptr<Controls> controls);
     ~DesktopWindow() override;
     DesktopWindow(const DesktopWindow&) = delete;
 
@@ -28,6 +29,7 @@ private:
     void restorePosition();
 
     Presenter& presenter_;
+    Menus& menus_;
     std::shared_ptr<Controls> controls_;
     WindowWidget* widget_ = nullptr; // deletes itself after retire()
     bool wanted_ = false, raise_ = false;

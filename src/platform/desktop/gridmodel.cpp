@@ -1,5 +1,6 @@
 #include "platform/desktop/grid.h"
 #include "platform/desktop/shown.h"
+#include "platform/gridtext.h"
 
 #include <algorithm>
 
@@ -18,8 +19,9 @@ GridModel::GridModel(const GridBox& declared, Shown<Grid>& grid, QObject* parent
 
 QString GridModel::heading(int column) const
 {
-    const QString heading = shownOnOneLine(grid_->format).section(u'|', column, column);
-    return heading.startsWith(u'<') || heading.startsWith(u'>') ? heading.mid(1) : heading;
+    const std::vector<Text> headings = headingsOf(*grid_);
+    return column < static_cast<int>(headings.size()) ? shownOnOneLine(headings[std::size_t(column)])
+                                                      : QString();
 }
 
 bool GridModel::holdsFigures(int column) const
@@ -41,7 +43,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid())
         return {};
-    const auto text = [&] { return shownOnOneLine(grid_->cell(index.row() + 1, index.column())).trimmed(); };
+    const auto text = [&] { return toQString(cellText(grid_->cell(index.row() + 1, index.column()))); };
     switch (role) {
     case Qt::DisplayRole:
         return text();
@@ -59,7 +61,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     if (orientation == Qt::Vertical)
         return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
     if (role == Qt::DisplayRole)
-        return heading(section).trimmed();
+        return toQString(cellText(toText(heading(section))));
     if (role == Qt::TextAlignmentRole)
         return int(Qt::AlignVCenter | (holdsFigures(section) ? Qt::AlignRight : Qt::AlignLeft));
     return {};

@@ -143,7 +143,7 @@ void GridTable::keyPressEvent(QKeyEvent* event)
     if (enter && currentIndex().isValid())
         emit rowChosen(currentIndex().row() + 1);
     else if (event->matches(QKeySequence::Copy))
-        event->ignore(); // so that the captured screen stays on the clipboard
+        event->ignore(); // the toolkit would copy a cell where there are no rows to be copied
     else
         QTableView::keyPressEvent(event);
 }

@@ -23,6 +23,14 @@ TextLine::TextLine(const TextBox& declared, Shown<Text>& text, QWidget* parent) 
     text.changed();
 }
 
+void TextLine::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Copy))
+        emit copyKeyPressed(); // the toolkit's own copy would lose the captured screen
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
 void TextList::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Copy))

@@ -16,6 +16,12 @@ class TextLine : public QLineEdit {
 
 public:
     TextLine(const TextBox& declared, Shown<Text>& text, QWidget* parent);
+
+signals:
+    void copyKeyPressed();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 };
 
 // A read-only list. Ctrl+C does nothing, so that the captured screen stays on the clipboard.

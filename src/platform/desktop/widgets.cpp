@@ -2,6 +2,7 @@
 
 #include "platform/desktop/chart/chartwidget.h"
 #include "platform/desktop/grid.h"
+#include "platform/desktop/menus.h"
 #include "platform/desktop/noticeline.h"
 #include "platform/desktop/optionbuttons.h"
 #include "platform/desktop/shown.h"
@@ -24,9 +25,24 @@ constexpr int sideColumn = 24;        // width in average characters
 constexpr double headlinePoints = 20; // labels of this size or larger are headlines, which do not wrap
 constexpr double declaredPoints = 10; // the font size for which window sizes are declared
 
+int chartsAndGrids(const Declaration& declaration)
+{
+    int count = 0;
+    forEachControl(declaration.content, [&count](const auto& control) {
+        using Control = std::decay_t<decltype(control)>;
+        count += std::is_same_v<Control, ChartBox> || std::is_same_v<Control, GridBox>;
+    });
+    return count;
+}
+
 class Builder {
 public:
-    explicit Builder(WindowWidget& window) : controls_(window.controls()), window_(window) {}
+    Builder(WindowWidget& window, Menus& menus)
+        : controls_(window.controls()),
+          window_(window),
+          menus_(menus),
+          menuKeys_(chartsAndGrids(controls_.declaration) == 1 ? Qt::WindowShortcut : Qt::WidgetShortcut)
+    {}
 
     QBoxLayout* arrange(const Panel& panel);
 
@@ -47,6 +63,8 @@ private:
 
     Controls& controls_;
     WindowWidget& window_;
+    Menus& menus_;
+    Qt::ShortcutContext menuKeys_; // where there is only one to copy, the keys need not know which
     std::map<Name, OptionButtons*> options_;
 };
 
@@ -183,7 +201,9 @@ QWidget* Builder::make(const Label& declared)
 
 QWidget* Builder::make(const TextBox& declared)
 {
-    return new TextLine(declared, controls_.text(declared.name), &window_);
+    auto* line = new TextLine(declared, controls_.text(declared.name), &window_);
+    menus_.add(*line);
+    return line;
 }
 
 QWidget* Builder::make(const ListBox& declared)
@@ -217,12 +237,15 @@ QWidget* Builder::make(const ChartBox& declared)
     Shown<Chart>& chart = controls_.chart(declared.name);
     chart.changed = [widget, &chart] { widget->setChart(*chart); };
     chart.changed();
+    menus_.add(*widget, menuKeys_);
     return widget;
 }
 
 QWidget* Builder::make(const GridBox& declared)
 {
-    auto* grid = new GridTable(declared, controls_.grid(declared.name), &window_);
+    Shown<Grid>& rows = controls_.grid(declared.name);
+    auto* grid = new GridTable(declared, rows, &window_);
+    menus_.add(*grid, rows, menuKeys_);
     QObject::connect(
         grid, &GridTable::rowChosen, &window_,
         [&controls = controls_, name = declared.name](int row) { controls.clickRow(name, row); });
@@ -255,12 +278,12 @@ int minHeight(QLayout& layout, NoticeLine& notice)
 
 } // namespace
 
-void buildWidgets(WindowWidget& window)
+void buildWidgets(WindowWidget& window, Menus& menus)
 {
     const Declaration& declaration = window.controls().declaration;
     window.setWindowTitle(toQString(declaration.caption));
     auto* notice = new NoticeLine(window.controls().notice, &window);
-    QBoxLayout* layout = Builder(window).arrangeUnder(*notice, declaration.content);
+    QBoxLayout* layout = Builder(window, menus).arrangeUnder(*notice, declaration.content);
     layout->setContentsMargins(margin, margin, margin, margin);
     window.setLayout(layout);
     window.setMinimumHeight(minHeight(*layout, *notice));

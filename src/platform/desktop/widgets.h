@@ -6,6 +6,9 @@
 
 namespace plotvue {
 
-void buildWidgets(WindowWidget& window);
+class Menus;
+
+// `menus` must outlive the window.
+void buildWidgets(WindowWidget& window, Menus& menus);
 
 } // namespace plotvue

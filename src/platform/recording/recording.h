@@ -29,6 +29,7 @@ protected:
     void spin(int) override {}
     void finish() override {}
     void printWindow(Window& window) override;
+    void copyText(TextSpan) override {} // the clipboard keeps the captured screen
 };
 
 } // namespace plotvue

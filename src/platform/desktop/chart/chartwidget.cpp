@@ -29,6 +29,7 @@ void ChartWidget::setChart(const Chart& chart)
     if (current_ >= points())
         setCurrentPoint(-1);
     update();
+    emit chartChanged();
     if (announcing_)
         return;
     announcing_ = true; // one announcement for all changes of a redraw
@@ -78,11 +79,11 @@ QRect ChartWidget::pointRect(int point) const
     return toQRectF(chartLayout().slotBox(point)).toAlignedRect();
 }
 
-void ChartWidget::paint(QPainter& painter) const
+void ChartWidget::paint(QPainter& painter, double pixels) const
 {
     const ChartFonts paperFonts(font(), logicalDpiY(), *painter.device());
     const chart::Layout layout =
-        chart::layoutChart(*data_, {double(width()), double(height())}, paperFonts, 0);
+        chart::layoutChart(*data_, {double(width()), double(height())}, paperFonts, pixels);
     painter.save();
     paintChart(painter, *data_, layout, whitePaper(), paperFonts, -1);
     painter.restore();

@@ -27,12 +27,16 @@ public:
 
     const chart::Layout& chartLayout() const; // for the current size of the widget
 
-    // Paints the chart for printing: as vectors on white, without a current point. It covers the widget's
-    // size in units of the painter, from its origin.
-    void paint(QPainter& painter) const;
+    // Paints the chart for printing and copying: on white, without a current point. It covers the widget's
+    // size in units of the painter, from its origin. `pixels` is the number of device pixels per unit; 0:
+    // vectors.
+    void paint(QPainter& painter, double pixels = 0) const;
 
     QSize minimumSizeHint() const override { return {280, 220}; }
     QSize sizeHint() const override { return {900, 560}; }
+
+signals:
+    void chartChanged();
 
 protected:
     bool event(QEvent* event) override;

@@ -1,0 +1,104 @@
+#include "platform/desktop/savepicture.h"
+
+#include "capture/failure.h"
+#include "chart/filename.h"
+#include "platform/desktop/chart/chartpicture.h"
+#include "platform/desktop/chart/chartwidget.h"
+#include "platform/desktop/chart/qtext.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPointer>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+namespace plotvue {
+
+namespace {
+
+const QLatin1String png("png"), pdf("pdf");
+
+QStringList filters()
+{
+    return {QStringLiteral("PNG picture (*.png)"), QStringLiteral("PDF document (*.pdf)")};
+}
+
+QString extensionOf(const QString& filter)
+{
+    return filter == filters().at(1) ? pdf : png;
+}
+
+QString folderForPictures()
+{
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    return QFileInfo(pictures).isDir() ? pictures : QDir::homePath();
+}
+
+bool mayReplace(QWidget& dialog, const QString& path)
+{
+    const QString question = QStringLiteral("%1 already exists.\nDo you want to replace it?");
+    return QMessageBox::warning(&dialog, dialog.windowTitle(), question.arg(QFileInfo(path).fileName()),
+                                QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+// The file that the user chooses; empty if the dialog is cancelled, or ends with its window.
+QString ask(QWidget& window, const QString& name, const QString& folder)
+{
+    const QPointer<QFileDialog> dialog = new QFileDialog(&window, QStringLiteral("Save Picture"), folder);
+    dialog->setOptions(fileDialogOptions());
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilters(filters());
+    dialog->setDefaultSuffix(png);
+    dialog->selectFile(name + u'.' + png);
+    QObject::connect(dialog, &QFileDialog::filterSelected, dialog,
+                     [&dialog](const QString& filter) { dialog->setDefaultSuffix(extensionOf(filter)); });
+    QString path;
+    while (dialog && path.isEmpty() && dialog->exec() == QDialog::Accepted) {
+        const QString chosen = dialog->selectedFiles().value(0);
+        path = withExtension(chosen, dialog->selectedNameFilter());
+        // The dialog asks before it replaces a file, but it has not seen this name.
+        if (path != chosen && QFileInfo::exists(path) && !mayReplace(*dialog, path)) {
+            dialog->selectFile(QFileInfo(path).fileName());
+            path.clear();
+        }
+    }
+    delete dialog;
+    return path;
+}
+
+QString extensionOfFile(const QString& path)
+{
+    return QFileInfo(path).suffix().toLower();
+}
+
+} // namespace
+
+void writePicture(const ChartWidget& chart, const QString& path)
+{
+    const QByteArray bytes = extensionOfFile(path) == pdf ? pdfOf(chart) : encoded(pictureOf(chart), "PNG");
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        throw Failure{u"The picture cannot be saved as " + toText(QDir::toNativeSeparators(path)) + u" (" +
+                      toText(file.errorString()) + u")."};
+}
+
+QString withExtension(const QString& path, const QString& filter)
+{
+    const QString extension = extensionOfFile(path);
+    return extension == png || extension == pdf ? path : path + u'.' + extensionOf(filter);
+}
+
+void savePicture(ChartWidget& chart, QString& folder)
+{
+    const QPointer<ChartWidget> shown(&chart);
+    const Text name = chart::fileName(chart::titlesInOneLine(chart.chart()));
+    const QString path =
+        ask(*chart.window(), toQString(name), folder.isEmpty() ? folderForPictures() : folder);
+    if (path.isEmpty() || !shown)
+        return;
+    writePicture(chart, path);
+    folder = QFileInfo(path).absolutePath();
+}
+
+} // namespace plotvue
