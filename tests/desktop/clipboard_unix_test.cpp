@@ -12,7 +12,7 @@ TEST(Clipboard, TextIsUnchangedApartFromLineEnds)
 {
     const Text raw(u"a\nb\r\nc\rd\n\n\r\r\n\0e\xD800", 17);
     QGuiApplication::clipboard()->setText(toQString(raw));
-    EXPECT_EQ(readClipboard(), Text(u"a\r\nb\r\nc\rd\r\n \r\n\r\r\n\0e\xD800", 21));
+    EXPECT_EQ(readClipboard(), Text(u"a\r\nb\r\nc\rd\r\n \r\n\r\r\n\0e\xD800\r\n", 23));
 }
 
 } // namespace plotvue
