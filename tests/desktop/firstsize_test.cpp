@@ -138,11 +138,11 @@ TEST_P(FirstSize, AlsoWithAFontOf12Points)
     expectWholeForEveryChoice(*window);
 }
 
-TEST_P(FirstSize, AlsoOnAScreenOf960By540) // 1920 by 1080 at 200 %
+TEST_P(FirstSize, AlsoOnAScreenOf960By540) // 1920 by 1080 at 200 %, less the frame
 {
     WindowWidget* window = opened(sample(GetParam()));
     ASSERT_NE(window, nullptr);
-    window->resize(window->size().boundedTo({960, 540}));
+    window->resize(window->size().boundedTo({940, 490}));
     QCoreApplication::processEvents();
     expectWholeForEveryChoice(*window);
 }

@@ -1,6 +1,7 @@
 #include "platform/desktop/widgets.h"
 
 #include "platform/desktop/chart/chartwidget.h"
+#include "platform/desktop/firstsize.h"
 #include "platform/desktop/grid.h"
 #include "platform/desktop/menus.h"
 #include "platform/desktop/noticeline.h"
@@ -12,7 +13,6 @@
 #include <QFontInfo>
 #include <QGroupBox>
 #include <QLabel>
-#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 
@@ -288,9 +288,7 @@ void buildWidgets(WindowWidget& window, Menus& menus)
     window.setLayout(layout);
     window.setMinimumHeight(minHeight(*layout, *notice));
     const double larger = qMax(1., window.fontInfo().pointSizeF() / declaredPoints);
-    window.resize((QSizeF(declaration.width, declaration.height) * larger)
-                      .toSize()
-                      .boundedTo(window.screen()->availableSize()));
+    setFirstSize(window, (QSizeF(declaration.width, declaration.height) * larger).toSize());
     if (QWidget* first = firstInUse(window))
         first->setFocus();
 }
