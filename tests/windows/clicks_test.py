@@ -23,10 +23,16 @@ class Clicks(WineTest):
         self.directory = Path(self.enterContext(tempfile.TemporaryDirectory(prefix="plotvue-clicks-")))
 
     def start(self, title):
-        self.process = self.desktop.start(directory=self.directory)
+        # Not a pipe, because processes that Wine starts in the background would keep it open.
+        self.printed = self.enterContext(tempfile.TemporaryFile())
+        self.process = self.desktop.start(directory=self.directory, stderr=self.printed)
         self.addCleanup(self.process.wait)
         self.addCleanup(self.process.kill)
         return self.window(title)
+
+    def errors(self):
+        self.printed.seek(0)
+        return self.printed.read().decode()
 
     def window(self, title):
         """Waits for the window; under Wine the program hears of its focus a moment later than X does."""
@@ -225,6 +231,8 @@ class Clicks(WineTest):
         self.start(LIST)
         self.desktop.key("Return")
         self.ends(1)
+        self.assertEqual(self.errors(),
+                         "PlotVue: the copied screen has fewer than 20 lines; PlotVue waits for the rest.\r\n")
 
     def test_an_error_is_reported_in_a_box(self):
         (self.directory / "pvuscrn.txt").mkdir()
@@ -232,6 +240,8 @@ class Clicks(WineTest):
         self.start(LIST)
         self.desktop.key("Return")
         self.ends(1)
+        self.assertRegex(self.errors(),
+                         r"^PlotVue: The file pvuscrn.txt in the working directory cannot be created \([^\r\n]+\)\.\r\n$")
 
 
 if __name__ == "__main__":

@@ -75,8 +75,8 @@ class Wine(Desktop):
             printed.seek(0)
             return printed.read()
 
-    def start(self, program=None, directory=None):
-        return self.launch("wine", str(program or self.program), cwd=directory or self.home)
+    def start(self, program=None, directory=None, **options):
+        return self.launch("wine", str(program or self.program), cwd=directory or self.home, **options)
 
 
 class WineTest(DesktopTest):
