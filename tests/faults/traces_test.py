@@ -8,7 +8,7 @@ from desktop import LIST, PRODUCT, START, DesktopTest, main, sample, soon  # noq
 from printserver import PrintServer  # noqa: E402
 
 VENDORS = sample("vendors")
-TO_FILE = "Print To File ..."
+TO_FILE, SAVE = "Print To File ...", "Save Picture"  # titles of dialogs
 
 
 class Traces(DesktopTest):
@@ -68,6 +68,14 @@ class Traces(DesktopTest):
         self.finish_printing()
         self.assertTrue(soon("the file is written", lambda: file.exists() and file.read_bytes()).startswith(b"%PDF"))
 
+    def save_picture(self, file):
+        self.desktop.key("ctrl+s")
+        self.desktop.window(SAVE)
+        self.desktop.output("xdotool", "type", str(file))
+        self.desktop.key("Return")
+        self.desktop.focused(self.chart)
+        soon("the picture is written", file.exists)
+
     def leave_all(self):
         self.desktop.key("Escape")
         self.desktop.focused(self.rows)
@@ -81,10 +89,11 @@ class Traces(DesktopTest):
         self.chart_a_row()
         self.print_on_paper()
         self.print_to_file(self.saved / "chart.pdf")
+        self.save_picture(self.saved / "chart.png")
         self.leave_all()
         self.assertEqual(sorted(path.name for path in self.here.iterdir()),
                          ["plotvue.txt", "plotvue1.txt", "pvuscrn.txt"])
-        self.assertEqual([path.name for path in self.saved.iterdir()], ["chart.pdf"])
+        self.assertEqual(sorted(path.name for path in self.saved.iterdir()), ["chart.pdf", "chart.png"])
         for folder in (self.temporary, self.configuration, self.runtime):
             self.assertEqual(list(folder.rglob("*")), [])
         # CUPS keeps the name of the default printer.
