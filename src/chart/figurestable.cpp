@@ -32,7 +32,7 @@ Text figuresTable(const PlotData& data, char16_t decimalSign)
         table += u'\t' + drawable(series.name);
     table += u"\r\n";
     for (int point = 0; point < lines; ++point) {
-        table += data.components() ? Text() : drawable(data.label(point));
+        table += data.components() ? Text() : drawable(data.fullLabel(point));
         for (const PlotData::Series& series : data.series())
             table += u'\t' +
                      cell(data.chart().series[series.number], static_cast<std::size_t>(point), decimalSign);

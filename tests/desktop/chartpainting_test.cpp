@@ -14,14 +14,6 @@ namespace plotvue {
 
 namespace {
 
-QPalette darkPalette()
-{
-    QPalette palette;
-    palette.setColor(QPalette::Base, QColor(0x1E1F22));
-    palette.setColor(QPalette::Text, QColor(0xE6E6E6));
-    return palette;
-}
-
 QImage printed(const ChartWidget& chart, int dotsPerMeter)
 {
     QImage image(chart.size(), QImage::Format_RGB32);

@@ -1,4 +1,5 @@
-// A visible chart of three months with a projection for the newest, and an empty slot at the end.
+// A dark desktop, and a visible chart of three months with a projection for the newest, and an empty slot at
+// the end.
 #pragma once
 
 #include "platform/desktop/chart/chartwidget.h"
@@ -16,6 +17,14 @@ inline Chart threeMonths()
             .decimals = 0,
             .series = {{1110, 963, 512, 0}, {0, 0, 388, 0}},
             .labels = {u"AUG99", u"SEP99", u"OCT99", u""}};
+}
+
+inline QPalette darkPalette()
+{
+    QPalette palette;
+    palette.setColor(QPalette::Base, QColor(0x1E1F22));
+    palette.setColor(QPalette::Text, QColor(0xE6E6E6));
+    return palette;
 }
 
 struct ShownChart : ChartWidget {

@@ -3,7 +3,6 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QClipboard>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -160,24 +159,6 @@ TEST_F(DesktopWindowTest, KeepsTheLinesOfALabel)
     EXPECT_EQ(every.widget().findChild<QLabel*>()->text(), "one\ntwo\nthree\nfour");
     every.controls->text("txt").set(u"one\rtwo\r\n");
     EXPECT_EQ(every.widget().findChild<QLineEdit*>()->text(), "one two");
-}
-
-TEST_F(DesktopWindowTest, CopyingRowsLeavesTheClipboardAlone)
-{
-    QGuiApplication::clipboard()->setText("QXM31H");
-    every.controls->grid("Grid1").change([](Grid& rows) {
-        rows.setRows(2);
-        rows.setCell(1, 1, u"ACME");
-    });
-    auto& grid = *every.widget().findChild<QTableView*>();
-    grid.setCurrentIndex(grid.model()->index(0, 1));
-    auto& list = *every.widget().findChild<QListWidget*>();
-    list.setCurrentRow(0);
-    for (QWidget* each : {static_cast<QWidget*>(&grid), static_cast<QWidget*>(&list)}) {
-        QKeyEvent copy(QEvent::KeyPress, Qt::Key_C, Qt::ControlModifier);
-        QCoreApplication::sendEvent(each, &copy);
-        EXPECT_EQ(QGuiApplication::clipboard()->text(), "QXM31H");
-    }
 }
 
 TEST_F(DesktopWindowTest, OnlyEscapeDoesNotRepeat)

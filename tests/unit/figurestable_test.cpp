@@ -37,6 +37,14 @@ TEST(FiguresTable, HasAHeadingAndALinePerPoint)
     EXPECT_EQ(tableOf(grouped()), u"\tOIL\tGAS\tLUBE\r\nANNE\t1\t3\t5\r\nBOB\t2\t4\t6\r\n");
 }
 
+TEST(FiguresTable, NamesMonthsInFull)
+{
+    Chart abbreviated = history();
+    abbreviated.labels = {u"S99", u"O99", u""};
+    abbreviated.fullLabels = {u"SEP99", u"OCT99", u""};
+    EXPECT_EQ(tableOf(abbreviated), tableOf(history()));
+}
+
 TEST(FiguresTable, OfAStackIsTheSame)
 {
     Chart stacked = grouped();

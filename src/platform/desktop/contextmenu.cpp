@@ -17,7 +17,7 @@ public:
     explicit Opener(QWidget& widget) : QObject(&widget), widget_(widget)
     {
         widget.setContextMenuPolicy(
-            Qt::ActionsContextMenu); // tells assistive technology that there is a menu
+            Qt::ActionsContextMenu); // so that assistive technology is offered the menu
         widget.installEventFilter(this);
         if (auto* scrolling = qobject_cast<QAbstractScrollArea*>(&widget))
             scrolling->viewport()->installEventFilter(this);

@@ -1,4 +1,4 @@
-// Context menus: opened with the mouse, the Menu key or Shift+F10, and offered to assistive technology.
+// Context menus, opened with the mouse, the Menu key or Shift+F10.
 #pragma once
 
 #include <QAction>

@@ -12,7 +12,9 @@ void keepNoSettings()
 
 FileDialog makeFileDialog(QWidget& window)
 {
-    return FileDialog(new QFileDialog(&window));
+    FileDialog dialog(new QFileDialog(&window));
+    dialog->setOption(QFileDialog::DontUseNativeDialog); // the dialogs of the desktops keep folders and files
+    return dialog;
 }
 
 void DeleteFileDialog::operator()(QFileDialog* dialog) const

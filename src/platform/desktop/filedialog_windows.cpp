@@ -42,7 +42,8 @@ void keepNoSettings()
 FileDialog makeFileDialog(QWidget& window)
 {
     const WithoutSettings none;
-    return FileDialog(new QFileDialog(&window));
+    return FileDialog(
+        new QFileDialog(&window)); // the system's own, which notes folders in the registry itself
 }
 
 void DeleteFileDialog::operator()(QFileDialog* dialog) const

@@ -5,6 +5,7 @@
 #include "platform/desktop/chart/chartpicture.h"
 #include "platform/desktop/chart/chartwidget.h"
 #include "platform/desktop/chart/qtext.h"
+#include "platform/desktop/filedialog.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -45,16 +46,18 @@ bool mayReplace(QWidget& dialog, const QString& path)
 // The file that the user chooses; empty if the dialog is cancelled, or ends with its window.
 QString ask(QWidget& window, const QString& name, const QString& folder)
 {
-    const QPointer<QFileDialog> dialog = new QFileDialog(&window, QStringLiteral("Save Picture"), folder);
-    dialog->setOptions(fileDialogOptions());
+    FileDialog owner = makeFileDialog(window);
+    const QPointer<QFileDialog> dialog = owner.get();
+    dialog->setWindowTitle(QStringLiteral("Save Picture"));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDirectory(folder);
     dialog->setNameFilters(filters());
     dialog->setDefaultSuffix(png);
     dialog->selectFile(name + u'.' + png);
     QObject::connect(dialog, &QFileDialog::filterSelected, dialog,
                      [&dialog](const QString& filter) { dialog->setDefaultSuffix(extensionOf(filter)); });
     QString path;
-    while (dialog && path.isEmpty() && dialog->exec() == QDialog::Accepted) {
+    while (path.isEmpty() && dialog->exec() == QDialog::Accepted && dialog) {
         const QString chosen = dialog->selectedFiles().value(0);
         path = withExtension(chosen, dialog->selectedNameFilter());
         // The dialog asks before it replaces a file, but it has not seen this name.
@@ -63,8 +66,20 @@ QString ask(QWidget& window, const QString& name, const QString& folder)
             path.clear();
         }
     }
-    delete dialog;
+    if (!dialog)
+        static_cast<void>(owner.release());
     return path;
+}
+
+// Goes on where only a part was written, because only the next attempt tells the reason.
+bool writeAll(QSaveFile& file, const QByteArray& bytes)
+{
+    for (qint64 done = 0, more = 0; done < bytes.size(); done += more) {
+        more = file.write(bytes.constData() + done, bytes.size() - done);
+        if (more < 0)
+            return false;
+    }
+    return true;
 }
 
 QString extensionOfFile(const QString& path)
@@ -78,7 +93,7 @@ void writePicture(const ChartWidget& chart, const QString& path)
 {
     const QByteArray bytes = extensionOfFile(path) == pdf ? pdfOf(chart) : encoded(pictureOf(chart), "PNG");
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    if (!file.open(QIODevice::WriteOnly) || !writeAll(file, bytes) || !file.commit())
         throw Failure{u"The picture cannot be saved as " + toText(QDir::toNativeSeparators(path)) + u" (" +
                       toText(file.errorString()) + u")."};
 }

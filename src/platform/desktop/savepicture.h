@@ -1,7 +1,7 @@
 // "Save Picture…" of a chart.
 #pragma once
 
-#include <QFileDialog>
+#include <QString>
 
 namespace plotvue {
 
@@ -12,10 +12,11 @@ class ChartWidget;
 // user's folder for pictures.
 void savePicture(ChartWidget& chart, QString& folder);
 
+// Writes the picture of the chart: as PDF if the path ends so, else as PNG. An older file is replaced as a
+// whole. Throws Failure, and leaves the older file as it was, if the picture cannot be written.
+void writePicture(const ChartWidget& chart, const QString& path);
+
 // `path` with the extension of the chosen filter, unless it ends in one of a format that is known.
 QString withExtension(const QString& path, const QString& filter);
-
-// Whether to use the system's own dialog. Each operating system has its own implementation.
-QFileDialog::Options fileDialogOptions();
 
 } // namespace plotvue

@@ -4,6 +4,8 @@
 #include "platform/desktop/chart/qtext.h"
 
 #include <QAccessibleWidget>
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QPointer>
 
 #include <map>
@@ -102,6 +104,23 @@ public:
         const Text titles =
             chart() && kind == QAccessible::Name ? chart::titlesInOneLine(chart()->chart()) : Text();
         return titles.empty() ? QAccessibleWidget::text(kind) : toQString(titles);
+    }
+
+    QStringList actionNames() const override
+    {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (chart() && chart()->contextMenuPolicy() == Qt::ActionsContextMenu)
+            names += showMenuAction();
+        return names;
+    }
+
+    void doAction(const QString& action) override
+    {
+        if (!chart() || action != showMenuAction())
+            return QAccessibleWidget::doAction(action);
+        const QPoint middle = chart()->rect().center();
+        QContextMenuEvent event(QContextMenuEvent::Other, middle, chart()->mapToGlobal(middle));
+        QCoreApplication::sendEvent(chart(), &event);
     }
 
 private:
