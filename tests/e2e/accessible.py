@@ -90,6 +90,11 @@ def appeared(role):
     return heard("object:state-changed:showing", (role,))
 
 
+def focused(role):
+    """The names of objects that have got the focus."""
+    return heard("object:state-changed:focused", (role,))
+
+
 @contextmanager
 def unless_gone():
     """Ignores the failure of a question to an object that no longer exists; any other failure is raised."""

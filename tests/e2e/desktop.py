@@ -16,6 +16,9 @@ SAMPLES = Path(__file__).resolve().parents[2] / "samples"
 # The titles of windows.
 START, CHART, LIST, NEED_DATA = "Plot Vue!", "Plotvue!", "PlotVue", "Need Data"
 
+# The format in which a copy of PlotVue carries the captured screen.
+SCREEN = "application/x-plotvue-screen"
+
 
 def sample(name):
     return (SAMPLES / f"{name}.txt").read_bytes()
@@ -125,6 +128,13 @@ class Desktop:
                                   stderr=subprocess.DEVNULL, timeout=patience, check=False).stdout
         except subprocess.TimeoutExpired:
             return None
+
+    def pasted(self, target):
+        """What a program pastes that takes this format; None where it is not offered."""
+        def asked(what):
+            return subprocess.run(["xclip", "-selection", "clipboard", "-out", "-target", what], env=self.env,
+                                  stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, timeout=20, check=False).stdout
+        return asked(target) if target in asked("TARGETS").decode().split() else None
 
     def start(self):
         return self.launch(self.program, stderr=subprocess.PIPE)

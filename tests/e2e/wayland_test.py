@@ -3,11 +3,12 @@
 import json
 import os
 import shutil
+import subprocess
 import tempfile
 import time
 from pathlib import Path
 
-from desktop import CHART, NEED_DATA, PRODUCT, START, Desktop, DesktopTest, main, soon
+from desktop import CHART, NEED_DATA, PRODUCT, SCREEN, START, Desktop, DesktopTest, main, soon
 
 
 class WaylandDesktop(Desktop):
@@ -58,18 +59,28 @@ class WaylandDesktop(Desktop):
 
     def key(self, *keys):
         for key in keys:
-            self.output("wtype", "-k", key)
+            *held, last = key.split("+")
+            self.output("wtype", *(word for name in held for word in ("-M", name)), "-k", last,
+                        *(word for name in held for word in ("-m", name)))
+
+    def pasted(self, target):
+        if target not in self.output("wl-paste", "--list-types").splitlines():
+            return None
+        return subprocess.run(["wl-paste", "--no-newline", "--type", target], env=self.env, stdout=subprocess.PIPE,
+                              timeout=20, check=False, **self.user).stdout
 
     def windows(self):
         """The windows of the program: whether they have the focus, by title."""
-        found = {}
+        return dict(self.all_windows())
+
+    def all_windows(self):
+        """Title and focus of each window of every PlotVue."""
         nodes = [json.loads(self.output("swaymsg", "-t", "get_tree"))]
         while nodes:
             node = nodes.pop()
             nodes += node["nodes"] + node["floating_nodes"]
             if node.get("app_id") == "io.github.plotvue.PlotVue":
-                found[node["name"]] = node["focused"]
-        return found
+                yield node["name"], node["focused"]
 
     def window(self, title):
         soon(f"the window {title!r} has the focus", lambda: self.windows().get(title))
@@ -91,6 +102,29 @@ class Wayland(DesktopTest):
         self.charts(PRODUCT)
         self.desktop.gone(START)
         self.leave()
+
+    def test_what_is_copied_is_pasted_and_the_screen_stays(self):
+        self.desktop.copy(PRODUCT)
+        self.start(CHART)
+        self.desktop.key("ctrl+shift+c")
+        soon("figures are copied", lambda: self.desktop.pasted(SCREEN))
+        self.assertTrue(self.desktop.pasted("text/plain;charset=utf-8").startswith(
+            b"\tSales\tProjected\r\nOCT98\t101211.69\t0\r\n"))
+        self.desktop.key("F5", "ctrl+c")
+        soon("a picture is copied", lambda: self.desktop.pasted("image/png"))
+        self.assertTrue(self.desktop.pasted("image/png").startswith(b"\x89PNG"))
+        self.assertEqual(self.desktop.pasted(SCREEN), PRODUCT)
+        self.desktop.key("F5")
+        self.desktop.key("Escape")
+        self.desktop.window(START)
+        self.desktop.key("F5")
+        self.desktop.window(CHART)
+
+        other = self.desktop.start()
+        self.addCleanup(other.wait)
+        self.addCleanup(other.kill)
+        soon("another PlotVue charts it, too", lambda: [title for title, _ in self.desktop.all_windows()] == [CHART, CHART])
+        self.still_runs()
 
 
 if __name__ == "__main__":

@@ -56,6 +56,18 @@ class X11Clipboard(SpokenTest):
         self.assertIn("Product: ÉÜñ4567890 DIESEL", name)
         self.assertEqual(found, points)
 
+    def test_any_plain_text_is_read(self):
+        expected = self.plain()
+        for target in ("text/plain", "text/plain;charset=utf-8", "text/plain;charset=UTF-8",
+                       "text/plain;charset=iso-8859-1"):
+            with self.subTest(target):
+                self.own(target, PRODUCT)
+                self.assertEqual(self.chart(), expected)
+
+    def test_other_texts_are_no_data(self):
+        self.own("text/html", PRODUCT)
+        self.start(NEED_DATA)
+
     def test_line_ends_of_any_kind_chart_the_same(self):
         for name in ("product", "glhistory", "customer", "salesmencategories"):
             capture = sample(name)

@@ -9,9 +9,10 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
 from desktop import (  # noqa: E402
-    CHART, LIST, NEED_DATA, PRODUCT, START, Desktop, DesktopTest, ended, main, sample, soon)
+    CHART, LIST, NEED_DATA, PRODUCT, SCREEN, START, Desktop, DesktopTest, ended, main, sample, soon)
 
 GAINS = sample("monthtomonth")
+TEXTS = "text/plain;charset=utf-8", "UTF8_STRING", "text/plain", "STRING", "TEXT"
 LONG = PRODUCT + b"no screen at all\r\n" * 300_000  # is sent in many pieces
 
 
@@ -28,18 +29,18 @@ class OnTheDesktop(DesktopTest):
                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, timeout=20, check=True).stdout
         self.assertTrue(held == capture)  # too long to be shown
 
-    def halting_owner(self, capture, pieces):
-        """Another program holds the capture and halts after so many pieces of its answer."""
+    def halting_owner(self, capture, pieces, *formats):
+        """Another program holds the capture, in these formats, and halts after so many pieces of its answer."""
         path = self.desktop.home / "long"
         path.write_bytes(capture)
-        owner = self.desktop.launch(os.environ["OWNER"], str(path), str(pieces))
-        soon("it holds the clipboard", lambda: "UTF8_STRING" in self.desktop.output(
+        owner = self.desktop.launch(os.environ["OWNER"], str(path), str(pieces), *formats)
+        soon("it holds the clipboard", lambda: (formats or ["UTF8_STRING"])[0] in self.desktop.output(
             "xclip", "-selection", "clipboard", "-t", "TARGETS", "-out"))
         return owner
 
-    def start_with_an_owner_that_halts(self, pieces):
+    def start_with_an_owner_that_halts(self, pieces, *formats):
         """After the time that the toolkit gives an owner the program goes on, and says that there is no data."""
-        owner = self.halting_owner(LONG, pieces)
+        owner = self.halting_owner(LONG, pieces, *formats)
         self.start()
         stat = Path(f"/proc/{owner.pid}/stat")
         soon("the owner has halted", lambda: stat.read_text().rpartition(")")[2].split()[0] == "T")
@@ -65,6 +66,15 @@ class OnTheDesktop(DesktopTest):
         self.desktop.key("F5")
         self.desktop.window(CHART)
         self.still_held(PRODUCT)
+
+    def test_an_owner_of_several_formats_that_halts_is_asked_for_one(self):
+        for formats in (TEXTS, (SCREEN, *TEXTS)):
+            with self.subTest(formats):
+                owner = self.start_with_an_owner_that_halts(1, *formats)
+                self.charts_the_next_capture()
+                owner.kill()
+                self.process.kill()
+                self.process.wait()
 
     def test_an_owner_that_is_gone_when_it_should_answer(self):
         self.desktop.copy(PRODUCT)

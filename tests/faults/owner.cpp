@@ -1,6 +1,7 @@
-// plotvue-owner FILE [PIECES]: a well-behaved owner of the X11 clipboard, which holds the file's bytes as
-// UTF-8 text. It stops itself, as a debugger or a suspended session would, after that many pieces of its
-// first long answer; when it is made to go on, it goes on. It ends when another program takes the clipboard.
+// plotvue-owner FILE [PIECES [FORMAT...]]: a well-behaved owner of the X11 clipboard, which holds the file's
+// bytes in each of the formats, or as UTF8_STRING. It stops itself, as a debugger or a suspended session
+// would, after that many pieces of its first long answer; when it is made to go on, it goes on. It ends when
+// another program takes the clipboard.
 #include <algorithm>
 #include <csignal>
 #include <cstdlib>
@@ -13,6 +14,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 #include <xcb/xcb.h>
 
 namespace {
@@ -21,7 +23,7 @@ constexpr std::size_t pieceSize = 100'000;
 
 class Owner {
 public:
-    Owner(xcb_connection_t* display, std::string text, int pieces)
+    Owner(xcb_connection_t* display, std::string text, int pieces, const std::vector<std::string>& formats)
         : display_(display),
           text_(std::move(text)),
           piecesToStop_(pieces)
@@ -30,6 +32,8 @@ public:
         window_ = xcb_generate_id(display);
         xcb_create_window(display, 0, window_, screen.root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
                           screen.root_visual, 0, nullptr);
+        for (const std::string& format : formats)
+            offered_.push_back(atom(format));
         xcb_set_selection_owner(display, window_, clipboard_, XCB_CURRENT_TIME);
         xcb_flush(display);
     }
@@ -75,18 +79,17 @@ private:
         notice.target = request.target;
         notice.property = request.property;
         if (request.target == targets_) {
-            const xcb_atom_t offered[] = {targets_, utf8_};
-            put(request.requestor, request.property, XCB_ATOM_ATOM, 32, std::size(offered), offered);
-        } else if (request.target != utf8_) {
+            put(request.requestor, request.property, XCB_ATOM_ATOM, 32, offered_.size(), offered_.data());
+        } else if (std::find(offered_.begin(), offered_.end(), request.target) == offered_.end()) {
             notice.property = XCB_NONE;
         } else if (text_.size() <= pieceSize) {
-            put(request.requestor, request.property, utf8_, 8, text_.size(), text_.data());
+            put(request.requestor, request.property, request.target, 8, text_.size(), text_.data());
         } else {
             const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
             xcb_change_window_attributes(display_, request.requestor, XCB_CW_EVENT_MASK, &mask);
             const auto size = static_cast<std::uint32_t>(text_.size());
             put(request.requestor, request.property, atom("INCR"), 32, 1, &size);
-            sent_[{request.requestor, request.property}] = 0;
+            sent_[{request.requestor, request.property}] = {request.target, 0};
         }
         xcb_send_event(display_, 0, request.requestor, 0, reinterpret_cast<const char*>(&notice));
     }
@@ -99,9 +102,9 @@ private:
             return;
         if (piecesToStop_ > 0 && --piecesToStop_ == 0)
             std::raise(SIGSTOP);
-        std::size_t& sent = transfer->second;
+        auto& [type, sent] = transfer->second;
         const std::size_t size = std::min(pieceSize, text_.size() - sent);
-        put(taken.window, taken.atom, utf8_, 8, size, text_.data() + sent);
+        put(taken.window, taken.atom, type, 8, size, text_.data() + sent);
         sent += size;
         if (size == 0)
             sent_.erase(transfer);
@@ -111,8 +114,14 @@ private:
     std::string text_;
     int piecesToStop_; // 0: never
     xcb_window_t window_ = XCB_NONE;
-    xcb_atom_t clipboard_ = atom("CLIPBOARD"), targets_ = atom("TARGETS"), utf8_ = atom("UTF8_STRING");
-    std::map<std::pair<xcb_window_t, xcb_atom_t>, std::size_t> sent_; // bytes, by asker and its property
+    xcb_atom_t clipboard_ = atom("CLIPBOARD"), targets_ = atom("TARGETS");
+    std::vector<xcb_atom_t> offered_{targets_};
+
+    struct Transfer {
+        xcb_atom_t type;
+        std::size_t sent; // bytes
+    };
+    std::map<std::pair<xcb_window_t, xcb_atom_t>, Transfer> sent_; // by asker and its property
 };
 
 } // namespace
@@ -126,7 +135,10 @@ int main(int argc, char** argv)
     xcb_connection_t* display = xcb_connect(nullptr, nullptr);
     if (xcb_connection_has_error(display))
         return EXIT_FAILURE;
-    Owner(display, text.str(), argc > 2 ? std::atoi(argv[2]) : 0).serve();
+    std::vector<std::string> formats(argv + std::min(argc, 3), argv + argc);
+    if (formats.empty())
+        formats.emplace_back("UTF8_STRING");
+    Owner(display, text.str(), argc > 2 ? std::atoi(argv[2]) : 0, formats).serve();
     xcb_disconnect(display);
     return EXIT_SUCCESS;
 }

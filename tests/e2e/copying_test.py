@@ -1,0 +1,224 @@
+"""What other programs get of charts and lists, and PlotVue, which goes on with the captured screen."""
+
+import re
+import subprocess
+
+from accessible import SpokenTest, appeared, focused
+from desktop import CHART, LIST, NEED_DATA, PRODUCT, SCREEN, START, main, sample, soon
+
+FIGURES = b"""\tSales\tProjected
+OCT98\t101211.69\t0
+NOV98\t86365.82\t0
+DEC98\t79981.06\t0
+JAN99\t84673.95\t0
+FEB99\t82511.07\t0
+MAR99\t98870.39\t0
+APR99\t108881.07\t0
+MAY99\t108055.06\t0
+JUN99\t89927.07\t0
+JUL99\t84557.38\t0
+AUG99\t93934.66\t0
+SEP99\t115258.92\t0
+OCT99\t43755.05\t79554.6363636364
+""".replace(b"\n", b"\r\n")
+TEXT, PNG = "UTF8_STRING", "image/png"
+COPY_PICTURE, COPY_FIGURES = "ctrl+c", "ctrl+shift+c"
+
+
+class Copying(SpokenTest):
+    def open(self, name, title=CHART):
+        self.desktop.copy(sample(name))
+        self.start(title)
+        return self.application().shown(title)
+
+    def press(self, key, target):
+        """Presses the key that copies; returns what a program pastes then that takes the format."""
+        self.desktop.key(key)
+        return soon("it is copied", lambda: self.desktop.pasted(SCREEN) is not None and self.desktop.pasted(target))
+
+    def identified(self, picture, *questions):
+        """What another program finds in the picture."""
+        return subprocess.run(["identify", "-format", " ".join(questions), "-"], input=picture,
+                              stdout=subprocess.PIPE, check=True).stdout.decode()
+
+    def test_figures_are_pasted_as_a_table(self):
+        self.open("product")
+        self.assertEqual(self.press(COPY_FIGURES, TEXT), FIGURES)
+
+    def test_figures_have_the_decimal_sign_of_the_desktop(self):
+        self.desktop.env["LC_ALL"] = "de_DE.UTF-8"
+        self.addCleanup(self.desktop.env.pop, "LC_ALL")
+        self.open("product")
+        self.assertEqual(self.press(COPY_FIGURES, TEXT), FIGURES.replace(b".", b","))
+
+    def test_a_picture_is_pasted_on_white_at_twice_its_size(self):
+        window = self.open("product")
+        box = window.first("chart").handle.get_extents(0)
+        picture = self.press(COPY_PICTURE, PNG)
+        self.assertEqual(self.identified(picture, "%m", "%w", "%h", "%[pixel:p{0,0}]"),
+                         f"PNG {2 * box.width} {2 * box.height} srgb(255,255,255)")
+        self.assertEqual(self.desktop.pasted(SCREEN), PRODUCT)
+        self.assertIsNone(self.desktop.pasted(TEXT))
+
+    def test_rows_are_pasted_as_a_table(self):
+        table = self.open("vendors", LIST).first("table")
+        rows, columns = table.rows_and_columns()
+        pasted = self.press("ctrl+Insert", TEXT).decode()
+        lines = [line.split("\t") for line in pasted.removesuffix("\r\n").split("\r\n")]
+        self.assertEqual(lines[0], ["Rank", "EOM FIFO", "Vendor Name", "Product Category", "Stock Months"])
+        self.assertEqual(lines[1:], [[table.cell(row, column).name for column in range(columns)]
+                                     for row in range(rows)])
+        self.assertEqual(lines[25], ["25", "3757", "NORTHERN FILTER COMPANY", "MOTOR OIL", "1.0"])
+
+    def test_a_menu_opens_by_mouse_and_keys(self):
+        self.open("product")
+        window = self.desktop.windows()[CHART]
+        openings = (lambda: self.desktop.output("xdotool", "mousemove", "--window", window, "300", "300", "click", "3"),
+                    lambda: self.desktop.key("Menu"), lambda: self.desktop.key("shift+F10"))
+        for opening in openings:
+            self.desktop.copy(PRODUCT)
+            with appeared("popup menu") as menus:
+                opening()
+                soon("a menu opens", menus)
+            self.assertEqual(self.press("f", TEXT), FIGURES)
+
+    def test_the_entries_of_a_menu_are_announced(self):
+        self.open("product")
+        with appeared("popup menu") as menus, focused("menu item") as entries:
+            self.desktop.key("shift+F10")
+            soon("a menu opens", menus)
+            for name in ("Copy Picture", "Copy Figures", "Save Picture…"):
+                self.desktop.key("Down")
+                soon(f"{name} is announced", lambda: entries()[-1:] == [name])
+
+    def test_the_chart_goes_on_with_the_captured_screen_after_a_copy_in_this_and_another_plotvue(self):
+        for key, target in ((COPY_PICTURE, PNG), (COPY_FIGURES, TEXT)):
+            with self.subTest(key):
+                chart = self.open("product").first("chart")
+                first = self.process
+                self.press(key, target)
+                self.assertEqual(len(chart.children()), 13)
+                self.desktop.key("Tab", "Up")
+                soon("24 months are charted", lambda: len(chart.children()) == 25)
+                self.desktop.key("F5")
+                self.desktop.window(CHART)
+
+                self.start()
+                other = self.application().shown(CHART).first("chart")
+                self.assertEqual(other.name, chart.name)
+                soon("another PlotVue charts the same", lambda: len(other.children()) == 13)
+                self.press(key, target)  # and copies what it charts
+                self.assertEqual(self.desktop.pasted(SCREEN), PRODUCT)
+                self.process.kill()
+                self.process.wait()
+                self.process = first
+                self.process.kill()
+                self.process.wait()
+
+    def test_the_list_goes_on_with_the_captured_screen_after_a_copy(self):
+        window = self.open("vendors", LIST)
+        table = window.first("table")
+        vendors = [table.cell(row, 2).name for row in range(3)]
+        self.press("ctrl+c", TEXT)
+        self.desktop.key("Down", "Return")
+        charts = self.charted(vendors[1])
+        for key, target in ((COPY_PICTURE, PNG), (COPY_FIGURES, TEXT)):
+            self.press(key, target)
+            self.assertEqual(self.desktop.pasted(SCREEN), sample("vendors"))
+            for step, row in (("Page_Down", 2), ("Page_Up", 1)):
+                self.desktop.key(step)
+                self.charted(vendors[row])
+        self.desktop.key("Escape")
+        soon("the charts are gone", lambda: not charts.has("SHOWING"))
+        self.desktop.key("ctrl+p")
+        self.desktop.window("Print")
+        self.desktop.key("Escape")
+        self.desktop.gone("Print")
+        self.desktop.window(LIST)
+        self.desktop.key("Escape")
+        self.desktop.window(START)
+        (self.desktop.home / "pvuscrn.txt").unlink()
+        self.desktop.key("F5")
+        self.desktop.window(LIST)
+        self.assertEqual((self.desktop.home / "pvuscrn.txt").read_bytes(), b'"' + sample("vendors") + b'"\r\n')
+
+    def charted(self, name):
+        """Waits until a chart of that name has the focus; returns its window."""
+        def there():
+            for window in self.application().children():
+                focus = window.focused() if window.has("SHOWING") else None
+                if focus and focus.role == "chart" and name in focus.name:
+                    return window
+            return None
+        return soon(f"{name} is charted", there)
+
+    def test_a_text_box_copies_what_is_selected_and_keeps_the_captured_screen(self):
+        self.open("vendors", LIST)
+        self.desktop.key("Tab", "Tab", "Tab", "Tab")  # Tips, Print, Exit, the analysis
+        self.desktop.key("ctrl+a")
+        text = self.press("ctrl+c", TEXT)
+        self.assertTrue(text.startswith(b"VENDOR INVENTORY ANALYSIS"))
+        self.assertEqual(self.desktop.pasted(SCREEN), sample("vendors"))
+
+    def test_what_was_no_screen_stays_none(self):
+        self.open("product")
+        self.desktop.copy(b"a letter")
+        self.press(COPY_FIGURES, TEXT)
+        self.assertEqual(self.desktop.pasted(SCREEN), b"a letter")
+        self.desktop.key("Escape")
+        self.desktop.window(START)
+        self.desktop.key("F5")
+        self.needs_data()
+
+    def test_the_start_window_copies_nothing(self):
+        self.open("product")
+        self.desktop.key("Escape")
+        self.desktop.window(START)
+        self.desktop.key("Tab", "Tab", "Down", "ctrl+c", "ctrl+Insert", "Menu")
+        self.desktop.key("F5")  # when this is done, so are the others
+        self.desktop.window(CHART)
+        self.assertIsNone(self.desktop.pasted(SCREEN))
+        self.assertEqual(self.desktop.held(5), PRODUCT)
+
+    def test_a_copy_is_gone_with_plotvue_where_no_clipboard_manager_takes_it(self):
+        self.open("product")
+        self.press(COPY_FIGURES, TEXT)
+        self.leave()
+        self.assertEqual(self.errors(), "")
+        self.assertIsNone(self.desktop.pasted(TEXT))
+
+    def save_as(self, name):
+        self.desktop.key("ctrl+s")
+        self.desktop.window("Save Picture")
+        self.desktop.output("xdotool", "type", str(name))
+        self.desktop.key("Return")
+
+    def test_pictures_are_saved(self):
+        self.open("product")
+        folder = self.desktop.home / "saved"
+        folder.mkdir()
+        before = sorted(self.desktop.home.rglob("*"))
+        for name, begins in (("a.png", b"\x89PNG"), ("b.pdf", b"%PDF")):
+            self.save_as(folder / name)
+            self.desktop.gone("Save Picture")
+            soon("it is written", (folder / name).exists)
+            self.assertTrue((folder / name).read_bytes().startswith(begins))
+        self.assertRegex(self.identified((folder / "a.png").read_bytes(), "%m", "%w", "%h"), r"^PNG \d{4} \d{4}$")
+        self.assertEqual(len(re.findall(rb"/Subtype\s*/Image", (folder / "b.pdf").read_bytes())), 0)
+        self.assertEqual(sorted(self.desktop.home.rglob("*")), sorted([*before, folder / "a.png", folder / "b.pdf"]))
+
+    def test_a_picture_that_cannot_be_saved_is_told_and_plotvue_goes_on(self):
+        window = self.open("product")
+        self.save_as("/sys/a.png")
+        box = self.application().shown(LIST, "alert")
+        self.assertRegex(box.first("label").name, r"^The picture cannot be saved as /sys/a.png \(\w+.*\)\.$")
+        self.desktop.key("Return")
+        self.desktop.window(CHART)
+        self.desktop.key("F5")
+        self.desktop.window(CHART)
+        self.assertTrue(window.has("SHOWING"))
+        self.still_runs()
+
+
+if __name__ == "__main__":
+    main()
