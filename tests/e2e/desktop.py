@@ -25,6 +25,7 @@ def sample(name):
 
 
 PRODUCT = sample("product")
+HOLD = 0.05  # how long a hand presses a mouse button, in seconds
 
 
 class NotInTime(AssertionError):
@@ -41,6 +42,11 @@ def soon(what, condition, seconds=20):
         if time.monotonic() > end:
             raise NotInTime(f"{what}: not within {seconds} seconds")
         time.sleep(0.05)
+
+
+def near(one, other):
+    """Whether the two places are the same to a few pixels."""
+    return max(abs(one[0] - other[0]), abs(one[1] - other[1])) < 5
 
 
 class Desktop:
@@ -164,9 +170,36 @@ class Desktop:
     def gone(self, title):
         soon(f"the window {title!r} goes", lambda: title not in self.windows())
 
-    def height(self, window):
+    def geometry(self, window):
+        """Left, top, width and height, without the window manager's frame."""
         geometry = self.output("xdotool", "getwindowgeometry", "--shell", window)
-        return int(re.search(r"HEIGHT=(\d+)", geometry)[1])
+        return [int(re.search(rf"\b{what}=(-?\d+)", geometry)[1]) for what in ("X", "Y", "WIDTH", "HEIGHT")]
+
+    def height(self, window):
+        return self.geometry(window)[3]
+
+    def put(self, window, where, place):
+        """Moves the window until what `where` finds in it is at that place of the screen."""
+        left = top = 0
+        while not near(now := where(), place):
+            # The window manager puts the window's frame there, so that the first move is not exact.
+            left, top = left + place[0] - now[0], top + place[1] - now[1]
+            self.output("xdotool", "windowmove", window, str(left), str(top))
+            soon("the window is moved", lambda: where() != now)  # noqa: B023
+
+    def click(self, place):
+        """Presses the mouse's button at that place of the screen."""
+        self.output("xdotool", "mousemove", *map(str, place), "mousedown", "1", "sleep", str(HOLD), "mouseup", "1")
+
+    def double_click(self, place, apart, comes):
+        """Clicks, waits until a window has come, and clicks again, so many seconds after the first time or a little
+        later. Returns the time from one press to the next at most."""
+        began = time.monotonic()
+        self.click(place)
+        soon("a window comes", comes)
+        time.sleep(max(0, began + apart - time.monotonic()))
+        self.click(place)
+        return time.monotonic() - began - HOLD
 
     def key(self, *keys):
         """Presses the keys, one after the other, for whatever has the focus."""

@@ -12,6 +12,7 @@ from wine import (  # isort: skip
     CHART, DEFAULT_PRINTER, LIST, NEED_DATA, PRODUCT, START, NotInTime, WineTest, ended, sample, soon)
 from printserver import PrintServer  # isort: skip
 
+SYSTEMS_TIME = 0.5  # for a double-click, from one press to the next
 BARS = bytes((0x24, 0x58, 0xB0))  # the first series' colour
 
 
@@ -93,15 +94,15 @@ class Clicks(WineTest):
             return before if before.count(BARS) > 300 and before == self.picture(window) else None
         return soon("bars are drawn and stay", still)
 
-    def click(self, window, right, bottom):
-        """Presses the mouse's button so far from the window's right and lower edge, for as long as a hand does."""
-        geometry = dict(line.split("=") for line in self.desktop.output(
-            "xdotool", "getwindowgeometry", "--shell", window).split())
-        x, y = int(geometry["WIDTH"]) - right, int(geometry["HEIGHT"]) - bottom
-        self.desktop.output("xdotool", "mousemove", "--window", window, str(x), str(y))
-        for verb in ("mousedown", "mouseup"):
-            time.sleep(0.05)
-            self.desktop.output("xdotool", verb, "1")
+    def exit_of_chart(self, window):
+        """Where its Exit button is: in the lower right corner."""
+        left, top, width, height = self.desktop.geometry(window)
+        return left + width - 60, top + height - 30
+
+    def exit_of_start(self, window):
+        """Where its Exit button is: the second from the lower left corner."""
+        left, top, _, height = self.desktop.geometry(window)
+        return left + 140, top + height - 24
 
     def chosen(self):
         """What the small file says of the row that is shown."""
@@ -149,9 +150,42 @@ class Clicks(WineTest):
         first = self.charted(window)
         self.desktop.key("Tab", "Up")
         soon("24 months are charted", lambda: self.charted(window) != first)
-        self.click(window, 60, 30)  # Exit is in the lower right corner
+        self.desktop.click(self.exit_of_chart(window))
         self.window(START)
         self.desktop.gone(CHART)
+
+    def exit_double_clicked(self, apart):
+        """Whether the clicks were fast enough. In the start-up window the Exit button is at the same place."""
+        place = self.exit_of_chart(self.start(CHART))
+        self.desktop.key("Escape")
+        start = self.window(START)
+        self.desktop.put(start, lambda: self.exit_of_start(start), place)
+        self.desktop.key("F5")
+        self.window(CHART)
+        surely = self.desktop.double_click(place, apart, lambda: START in self.desktop.windows()) < SYSTEMS_TIME
+        if surely:
+            self.window(START)
+            self.desktop.key("F5")
+            self.window(CHART)
+            self.desktop.key("Escape")
+            self.window(START)
+            self.desktop.click(place)
+            self.ends()
+        return surely
+
+    def test_a_double_click_on_exit_leads_to_the_start_window_and_no_further(self):
+        self.copy(PRODUCT)
+        for apart in (0.2, 0.35):
+            with self.subTest(apart=apart):
+                for _ in range(10):  # the machine may be too busy for two clicks in that time
+                    try:
+                        surely = self.exit_double_clicked(apart)
+                    finally:
+                        self.process.kill()
+                        self.process.wait()
+                    if surely:
+                        break
+                self.assertTrue(surely)
 
     def test_refresh_charts_what_was_copied_since(self):
         self.copy(PRODUCT)

@@ -2,6 +2,7 @@
 // the printer dialog and the functions that end the process.
 #pragma once
 
+#include "platform/desktop/doubleclicks.h"
 #include "platform/desktop/menus.h"
 #include "platform/desktop/presenter.h"
 #include "platform/desktop/printing.h"
@@ -39,6 +40,7 @@ private:
     // copied.
     void leave(int status);
 
+    DoubleClicks doubleClicks_;
     Presenter presenter_;
     Menus menus_{*this};
     Printing printing_;
