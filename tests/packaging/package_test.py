@@ -21,8 +21,9 @@ def field(name):
 
 
 def installed(pattern):
-    [file] = root.glob(pattern)
-    return file
+    files = list(root.glob(pattern))
+    assert len(files) == 1, f"{pattern} is {files or 'not there'}"
+    return files[0]
 
 
 class Package(unittest.TestCase):
@@ -36,7 +37,8 @@ class Package(unittest.TestCase):
         self.assertEqual(files, FILES)
 
     def test_it_depends_on_the_library_that_prints(self):
-        self.assertIn("libcups2", re.split(r"[ ,|]+", field("Depends")))  # it is loaded on the first print
+        depends = re.findall(r"(?:^|[,|] *)([^ ,]+)", field("Depends"))
+        self.assertIn("libcups2", depends)  # it is loaded on the first print
 
     def test_its_menu_entry_has_an_icon(self):
         entry = configparser.RawConfigParser()
