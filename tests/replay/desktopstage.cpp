@@ -38,10 +38,10 @@ protected:
 
 class DesktopStage : public Stage {
 public:
+    // Several stages may follow each other with one application.
     DesktopStage(int& argc, char** argv)
+        : application_(QApplication::instance() ? nullptr : std::make_unique<QApplication>(argc, argv))
     {
-        if (!QApplication::instance()) // several stages may follow each other with one application
-            application_.emplace(argc, argv);
         QLocale::setDefault(QLocale::c()); // which writes the decimal point as the platform in memory does
     }
 
@@ -73,7 +73,7 @@ public:
     void copy(const Form& form, Name chartOrGrid) override { copyFromWidget(form, chartOrGrid); }
 
 private:
-    std::optional<QApplication> application_;
+    std::unique_ptr<QApplication> application_; // before the platform, which needs it
     AnsweringDesktop platform_;
 };
 
