@@ -24,7 +24,9 @@ from wine import Wine  # noqa: E402
 SAMPLES = ["startup"] + sorted(path.stem for path in (ROOT / "samples").glob("*.txt"))
 # The keys that open the first row of a list. In a chart window they open nothing.
 OPEN_ROW = ["Down", "Return"]
-README = ["product", "monthtomonth", "monthtomonth-chart", "pastdue-chart", "salesmencategories", "glhistory"]
+# Samples whose window is also shown with its context menu.
+MENUS = ["product", "monthtomonth"]
+README = ["product", "product-menu", "monthtomonth", "monthtomonth-chart", "pastdue-chart", "salesmencategories", "glhistory"]
 
 DARK = """[Colors:Window]
 BackgroundNormal=49,54,59
@@ -140,6 +142,12 @@ def take(display, sample, folder, directory, extra, wanted=None):
         save(before[-1], sample)
         if sample == "startup":
             return names
+        if sample in MENUS:
+            display.run("xdotool", "key", "Menu")
+            time.sleep(0.3 * display.slowness)
+            save(before[-1], sample + "-menu")
+            display.run("xdotool", "key", "Escape")
+            time.sleep(0.3 * display.slowness)
         for key in OPEN_ROW:
             display.run("xdotool", "key", key)
             time.sleep(0.3 * display.slowness)
@@ -187,7 +195,7 @@ def main():
         raise SystemExit("Build the release preset first: ./run does it.")
     with Display() as display, tempfile.TemporaryDirectory() as directory:
         if not everything:
-            for sample in sorted({name.removesuffix("-chart") for name in README}):
+            for sample in sorted({name.removesuffix("-chart").removesuffix("-menu") for name in README}):
                 take(display, sample, ROOT / "docs", directory, {}, wanted=README)
             return
         pathlib.Path(directory, "kdeglobals").write_text(DARK)

@@ -26,8 +26,8 @@ MAY_INCLUDE = {
 
 TOOLKIT = re.compile(r"(Qt?[A-Z]\w*(/.*)?|qt?[a-z0-9_]+\.h|cups/.*|fontconfig/.*|xcb/.*|X11/.*)$")
 TOOLKIT_ROOMS = ("src/platform/desktop/", "src/main.cpp", "tests/desktop/", "tests/replay/desktop",
-                 "tests/faults/owner.cpp", "tests/e2e/sessionmanager.cpp", "tests/windows/printer.cpp",
-                 "bench/")
+                 "tests/e2e/clipboardmanager.cpp", "tests/e2e/sessionmanager.cpp", "tests/faults/owner.cpp",
+                 "tests/windows/printer.cpp", "bench/")
 
 SYSTEM = re.compile(r"(unistd|fcntl|windows|winspool|aclapi)\.h$|sys/")
 OF_ONE_SYSTEM = re.compile(r"_(unix|windows)\.cpp$")

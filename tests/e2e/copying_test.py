@@ -1,26 +1,13 @@
 """What other programs get of charts and lists, and PlotVue, which goes on with the captured screen."""
 
+import os
 import re
+import signal
 import subprocess
 
 from accessible import SpokenTest, appeared, focused
-from desktop import CHART, LIST, NEED_DATA, PRODUCT, SCREEN, START, main, sample, soon
+from desktop import CHART, FIGURES, LIST, NEED_DATA, PRODUCT, SCREEN, START, ended, main, sample, soon
 
-FIGURES = b"""\tSales\tProjected
-OCT98\t101211.69\t0
-NOV98\t86365.82\t0
-DEC98\t79981.06\t0
-JAN99\t84673.95\t0
-FEB99\t82511.07\t0
-MAR99\t98870.39\t0
-APR99\t108881.07\t0
-MAY99\t108055.06\t0
-JUN99\t89927.07\t0
-JUL99\t84557.38\t0
-AUG99\t93934.66\t0
-SEP99\t115258.92\t0
-OCT99\t43755.05\t79554.6363636364
-""".replace(b"\n", b"\r\n")
 TEXT, PNG = "UTF8_STRING", "image/png"
 COPY_PICTURE, COPY_FIGURES = "ctrl+c", "ctrl+shift+c"
 
@@ -186,6 +173,32 @@ class Copying(SpokenTest):
         self.leave()
         self.assertEqual(self.errors(), "")
         self.assertIsNone(self.desktop.pasted(TEXT))
+
+    def manager(self, file, format_):
+        """A clipboard manager that writes what it takes to the file."""
+        manager = self.desktop.launch(os.environ["CLIPBOARD_MANAGER"], str(file), format_, stdout=subprocess.PIPE)
+        manager.stdout.readline()  # it runs
+        return manager
+
+    def test_a_clipboard_manager_takes_a_copy_when_plotvue_ends(self):
+        taken = self.desktop.home / "taken"
+        for format_, content in ((TEXT, FIGURES), (SCREEN, PRODUCT)):
+            self.open("product")
+            manager = self.manager(taken, format_)
+            self.press(COPY_FIGURES, TEXT)
+            self.leave()
+            self.assertEqual(self.errors(), "")
+            self.assertEqual(ended(manager), 0)
+            self.assertEqual(taken.read_bytes(), content)
+            taken.unlink()
+
+    def test_a_clipboard_manager_that_hangs_does_not_keep_plotvue(self):
+        self.open("product")
+        manager = self.manager("unused", TEXT)
+        self.press(COPY_FIGURES, TEXT)
+        manager.send_signal(signal.SIGSTOP)
+        self.leave()
+        manager.kill()
 
     def save_as(self, name):
         self.desktop.key("ctrl+s")

@@ -27,6 +27,23 @@ def sample(name):
 PRODUCT = sample("product")
 HOLD = 0.05  # how long a hand presses a mouse button, in seconds
 
+# What "Copy Figures" of its chart gives.
+FIGURES = b"""\tSales\tProjected
+OCT98\t101211.69\t0
+NOV98\t86365.82\t0
+DEC98\t79981.06\t0
+JAN99\t84673.95\t0
+FEB99\t82511.07\t0
+MAR99\t98870.39\t0
+APR99\t108881.07\t0
+MAY99\t108055.06\t0
+JUN99\t89927.07\t0
+JUL99\t84557.38\t0
+AUG99\t93934.66\t0
+SEP99\t115258.92\t0
+OCT99\t43755.05\t79554.6363636364
+""".replace(b"\n", b"\r\n")
+
 
 class NotInTime(AssertionError):
     """What was waited for did not happen in time."""

@@ -1,6 +1,7 @@
 """plotvue.exe as a person uses it: what is copied is charted, keys and mouse do what they should."""
 
 import contextlib
+import struct
 import subprocess
 import sys
 import tempfile
@@ -9,7 +10,7 @@ import unittest
 from pathlib import Path
 
 from wine import (  # isort: skip
-    CHART, DEFAULT_PRINTER, LIST, NEED_DATA, PRODUCT, START, NotInTime, WineTest, ended, sample, soon)
+    CHART, DEFAULT_PRINTER, FIGURES, LIST, NEED_DATA, PRODUCT, SCREEN, START, NotInTime, WineTest, ended, sample, soon)
 from printserver import PrintServer  # isort: skip
 
 SYSTEMS_TIME = 0.5  # for a double-click, from one press to the next
@@ -54,10 +55,10 @@ class Clicks(WineTest):
                 return soon("the text can be pasted", lambda: self.pasted() == text, 5)
         soon("Wine takes what is copied", taken)
 
-    def pasted(self):
-        """What a Windows program would get."""
+    def pasted(self, *format_):
+        """What a Windows program would get: the text, or the bytes in this format."""
         file = self.directory / "pasted"
-        self.desktop.windows_program(copier, "--paste", f"Z:{file}")
+        self.desktop.windows_program(copier, "--paste", f"Z:{file}", *format_)
         held = file.read_bytes()
         file.unlink()
         return held
@@ -246,6 +247,59 @@ class Clicks(WineTest):
 
     def numbers(self):
         return self.desktop.output("xdotool", "search", "--onlyvisible", "--class", "plotvue").split()
+
+    def test_figures_and_pictures_are_pasted_by_other_programs_and_the_screen_stays(self):
+        self.copy(PRODUCT)
+        self.charted(self.start(CHART))
+        self.press("ctrl+shift+c", "figures are copied", lambda: self.pasted(SCREEN) == PRODUCT + b"\0")
+        self.assertEqual(self.pasted(), FIGURES)
+        self.desktop.key("F5")
+        self.press("ctrl+Insert", "a picture is copied", lambda: self.pasted("PNG"))
+        self.assertTrue(self.pasted("PNG").startswith(b"\x89PNG\r\n\x1a\n\0\0\0\rIHDR"))
+        self.assertEqual(self.pasted(), b"")
+        width, height = struct.unpack(">II", self.pasted("PNG")[16:24])
+        size, *sides, planes, bits, compression = struct.unpack("<IiiHHI", self.pasted("DIB")[:20])
+        self.assertEqual((size, sides, planes, bits, compression), (40, [width, height], 1, 24, 0))
+        self.assertEqual(self.pasted(SCREEN), PRODUCT + b"\0")
+        self.desktop.key("Tab", "Up", "Escape")
+        self.window(START)
+        self.desktop.key("F5")
+        self.window(CHART)
+
+    def test_what_was_copied_outlives_plotvue_and_is_charted_by_the_next(self):
+        self.copy(sample("vendors"))
+        self.start(LIST)
+        self.press("ctrl+c", "rows are copied", lambda: self.pasted(SCREEN) == sample("vendors") + b"\0")
+        rows = self.pasted()
+        self.assertTrue(rows.startswith(b"Rank\tEOM FIFO\tVendor Name\tProduct Category\tStock Months\r\n1\t97787\t"))
+        self.desktop.key("Escape")
+        self.window(START)
+        self.desktop.key("Escape")
+        self.ends()
+        self.assertEqual(self.pasted(), rows)
+        (self.directory / "pvuscrn.txt").unlink()
+        self.start(LIST)
+        self.assertEqual((self.directory / "pvuscrn.txt").read_bytes(), b'"' + sample("vendors") + b'"\r\n')
+
+    def test_a_context_menu_opens_by_keys(self):
+        self.copy(PRODUCT)
+        window = self.start(CHART)
+        self.charted(window)
+        for key in ("Menu", "shift+F10"):
+            self.press(key, "a menu opens", lambda: len(self.numbers()) == 2)
+            self.press("Escape", "it closes", lambda: self.numbers() == [window])
+
+    def test_a_picture_is_saved(self):
+        self.copy(PRODUCT)
+        self.charted(self.start(CHART))
+        for name, begins in (("a.png", b"\x89PNG"), ("b.pdf", b"%PDF")):
+            self.desktop.key("ctrl+s")
+            self.window("Save Picture")
+            file = self.directory / name
+            self.desktop.output("xdotool", "type", "--delay", "30", str(file).replace("/", "\\"))
+            self.press("Return", "it is written", lambda: file.exists() and file.read_bytes().startswith(begins))
+            self.desktop.gone("Save Picture")
+            self.window(CHART)
 
     def test_an_empty_clipboard_needs_data(self):
         self.empty_clipboard()

@@ -4,6 +4,9 @@
 // copier FILE SECONDS    the same, and keeps the clipboard open for that time, so that no other program can
 //                        read it
 // copier --paste FILE    writes the text of the clipboard to FILE, in UTF-8
+// copier --paste FILE FORMAT    writes the bytes that the clipboard holds in a registered format, or as
+// CF_DIB if
+//                        FORMAT is DIB; none if it holds none
 // copier                 empties the clipboard
 #include "capture/utf8.h"
 
@@ -41,12 +44,28 @@ bool paste(const char* file)
     return static_cast<bool>(std::ofstream(file, std::ios::binary) << plotvue::toUtf8(text));
 }
 
+bool pasteBytes(const char* file, std::string_view format)
+{
+    if (!OpenClipboard(nullptr))
+        return false;
+    std::ofstream out(file, std::ios::binary);
+    HANDLE held = GetClipboardData(format == "DIB" ? CF_DIB : RegisterClipboardFormatA(format.data()));
+    if (const auto* bytes = held ? static_cast<const char*>(GlobalLock(held)) : nullptr) {
+        out.write(bytes, static_cast<std::streamsize>(GlobalSize(held)));
+        GlobalUnlock(held);
+    }
+    CloseClipboard();
+    return static_cast<bool>(out);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     if (argc == 3 && std::string_view(argv[1]) == "--paste")
         return paste(argv[2]) ? EXIT_SUCCESS : EXIT_FAILURE;
+    if (argc == 4 && std::string_view(argv[1]) == "--paste")
+        return pasteBytes(argv[2], argv[3]) ? EXIT_SUCCESS : EXIT_FAILURE;
     // Only a program that opens the clipboard for a window can put a text there.
     HWND window = CreateWindowExA(0, "STATIC", "copier", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
     if (!window || !OpenClipboard(window) || !EmptyClipboard())

@@ -11,7 +11,7 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
 from desktop import (  # noqa: E402, F401: the tests here use them
-    CHART, LIST, NEED_DATA, PRODUCT, START, Desktop, DesktopTest, NotInTime, ended, main, sample, soon)
+    CHART, FIGURES, LIST, NEED_DATA, PRODUCT, SCREEN, START, Desktop, DesktopTest, NotInTime, ended, main, sample, soon)
 
 # Without these, Wine shows bitmap fonts and a serif. A Windows machine has the fonts that its dialogs use.
 SETTINGS = r"""Windows Registry Editor Version 5.00
