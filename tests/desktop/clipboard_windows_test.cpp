@@ -52,7 +52,7 @@ private:
 TEST_F(Clipboard, TextIsUnchangedApartFromLineEnds)
 {
     copy(u"a\nb\r\nc\rd\n\n\r\r\ne\xD800");
-    EXPECT_EQ(readClipboard(), u"a\r\nb\r\nc\rd\r\n \r\n\r\r\ne\xD800");
+    EXPECT_EQ(readClipboard(), u"a\r\nb\r\nc\rd\r\n \r\n\r\r\ne\xD800\r\n");
 }
 
 TEST_F(Clipboard, TextEndsAtItsFirstNull)
