@@ -110,7 +110,7 @@ TEST(ChartPainting, AFigureAboveABarIsAsWideAsItsPlace)
     content.series = {{1111111, 1111111, 1111111, 0}};
     chart.setChart(content);
     std::set<chart::TextRole> sizes;
-    for (int width = 420; width > 280; width -= 4) {
+    for (int width = 600; width > 150; width -= 4) { // for wide fonts and narrow ones
         chart.resize(width, 400);
         const QImage screen = chart.grab().toImage();
         const chart::Layout& layout = chart.chartLayout();
