@@ -119,7 +119,11 @@ def take(display, sample, folder, directory, extra, wanted=None):
     def save(window, name):
         if wanted is None or name in wanted:
             folder.mkdir(parents=True, exist_ok=True)
-            display.run("import", "-window", window, "-strip", str(folder / (name + ".png")), check=True)
+            # A picture of the screen, because a menu is a window of its own.
+            place = dict(line.split("=") for line in display.run(
+                "xdotool", "getwindowgeometry", "--shell", window).stdout.split())
+            display.run("import", "-window", "root", "-crop", "{WIDTH}x{HEIGHT}+{X}+{Y}".format(**place), "+repage", "-strip",
+                        str(folder / (name + ".png")), check=True)
             names.append(name)
 
     text = None if sample == "startup" else ROOT / "samples" / (sample + ".txt")

@@ -88,10 +88,12 @@ protected:
         QApplication::sendEvent(&widget, &event); // also runs the shortcuts of the widget that has the focus
     }
 
-    static QString pasted() { return QGuiApplication::clipboard()->text(); }
+    // With LF for CR LF, as the toolkit gives it on Windows.
+    static QString pasted() { return QGuiApplication::clipboard()->text().replace("\r\n", "\n"); }
 
     const Text screen = u"QXM31H\r\nthe \xD800 screen \n";
     const Text mended = u"QXM31H\r\nthe \xD800 screen \r\n";
+    const QString unchanged = toQString(u"QXM31H\nthe \xD800 screen \n");
     Built every;
 };
 
@@ -113,7 +115,7 @@ TEST_F(Menus, TakeEveryKeyOfTheDesktopForCopying)
     for (const QKeySequence& key : QKeySequence::keyBindings(QKeySequence::Copy)) {
         QGuiApplication::clipboard()->setText(toQString(screen));
         press(grid(), key[0].key(), key[0].keyboardModifiers());
-        EXPECT_EQ(pasted(), "Rank\tName\tTotal\r\n1\tACME\t1,234.50\r\n");
+        EXPECT_EQ(pasted(), "Rank\tName\tTotal\n1\tACME\t1,234.50\n");
         press(chart(), key[0].key(), key[0].keyboardModifiers());
         EXPECT_EQ(pasted(), "") << "a picture is no text";
         EXPECT_EQ(readClipboard(), mended);
@@ -174,10 +176,10 @@ TEST_F(Menus, CopyFiguresWithTheDecimalSignOfTheDesktop)
 {
     fillChart();
     entry(chart(), "Copy Figures").trigger();
-    EXPECT_EQ(pasted(), "\tSales\r\nSEP99\t-1234.5\r\nOCT99\t2\r\n");
+    EXPECT_EQ(pasted(), "\tSales\nSEP99\t-1234.5\nOCT99\t2\n");
     QLocale::setDefault(QLocale(QLocale::German));
     entry(chart(), "Copy Figures").trigger();
-    EXPECT_EQ(pasted(), "\tSales\r\nSEP99\t-1234,5\r\nOCT99\t2\r\n");
+    EXPECT_EQ(pasted(), "\tSales\nSEP99\t-1234,5\nOCT99\t2\n");
 }
 
 TEST_F(Menus, CopyRowsAsTheyAreShown)
@@ -185,7 +187,7 @@ TEST_F(Menus, CopyRowsAsTheyAreShown)
     fillGrid();
     QLocale::setDefault(QLocale(QLocale::German));
     entry(grid(), "Copy Rows").trigger();
-    EXPECT_EQ(pasted(), "Rank\tName\tTotal\r\n1\tACME\t1,234.50\r\n");
+    EXPECT_EQ(pasted(), "Rank\tName\tTotal\n1\tACME\t1,234.50\n");
 }
 
 TEST_F(Menus, KeepTheCapturedScreen)
@@ -198,7 +200,7 @@ TEST_F(Menus, KeepTheCapturedScreen)
                                &entry(grid(), "Copy Rows"), &entry(the<QLineEdit>(), "Copy")};
     for (QAction* copy : copies) {
         copy->trigger();
-        EXPECT_NE(pasted(), toQString(screen));
+        EXPECT_NE(pasted(), unchanged);
         EXPECT_EQ(readClipboard(), mended);
         EXPECT_EQ(platform.clipboardText(), mended);
     }
@@ -221,12 +223,12 @@ TEST_F(Menus, WhereThereIsNothingToCopyLeaveTheClipboardAlone)
     EXPECT_FALSE(entry(grid(), "Copy Rows").isEnabled());
     EXPECT_FALSE(entry(the<QLineEdit>(), "Copy").isEnabled());
     press(chart(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(pasted(), toQString(screen));
+    EXPECT_EQ(pasted(), unchanged);
     for (const QKeySequence& key : QKeySequence::keyBindings(QKeySequence::Copy))
         for (QWidget* widget : {static_cast<QWidget*>(&grid()), static_cast<QWidget*>(&the<QListWidget>()),
                                 static_cast<QWidget*>(&the<QLineEdit>())}) {
             press(*widget, key[0].key(), key[0].keyboardModifiers());
-            EXPECT_EQ(pasted(), toQString(screen));
+            EXPECT_EQ(pasted(), unchanged);
         }
     fillChart();
     fillGrid();
@@ -240,7 +242,7 @@ TEST_F(Menus, ListsWithoutAMenuCopyNothing)
     list.setCurrentRow(0);
     for (const QKeySequence& key : QKeySequence::keyBindings(QKeySequence::Copy)) {
         press(list, key[0].key(), key[0].keyboardModifiers());
-        EXPECT_EQ(pasted(), toQString(screen));
+        EXPECT_EQ(pasted(), unchanged);
     }
 }
 
@@ -266,7 +268,7 @@ TEST_F(Menus, CopyNothingOnceTheProcessIsOver)
     platform.run([] { throw Failure{u"It does not fit."}; });
     entry(chart(), "Copy Figures").trigger();
     entry(chart(), "Copy Picture").trigger();
-    EXPECT_EQ(pasted(), toQString(screen));
+    EXPECT_EQ(pasted(), unchanged);
 }
 
 } // namespace
