@@ -4,6 +4,7 @@
 #include "platform/desktop/savepicture.h"
 #include "platform/desktop/shown.h"
 
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
@@ -121,6 +122,20 @@ TEST_F(SavePicture, AddsTheExtensionOfTheChosenFilter)
     saveAs("Sales 1.5", "PDF document (*.pdf)");
     EXPECT_EQ(files(), QStringList({"a.png", "b.pdf", "Sales 1.5.pdf"}));
     EXPECT_TRUE(contentOf("b.pdf").startsWith("%PDF-"));
+}
+
+TEST_F(SavePicture, ChangesTheExtensionWithTheFilter)
+{
+    once<QFileDialog>([this](QFileDialog& dialog) {
+        auto& types = *dialog.findChild<QComboBox*>("fileTypeCombo");
+        types.setCurrentIndex(1);
+        emit types.activated(1); // as when the user selects it
+        proposed = dialog.findChild<QLineEdit*>()->text();
+        dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+    });
+    savePicture(chart, folder);
+    EXPECT_EQ(proposed, "Sales, Product 4711.pdf");
+    EXPECT_TRUE(contentOf(proposed).startsWith("%PDF-"));
 }
 
 TEST_F(SavePicture, AsksBeforeItReplacesAFile)

@@ -291,17 +291,15 @@ class Clicks(WineTest):
 
     def test_a_picture_is_saved(self):
         self.copy(PRODUCT)
-        for name, begins in (("a.png", b"\x89PNG"), ("b.pdf", b"%PDF")):
-            self.charted(self.start(CHART))
-            self.desktop.key("ctrl+s")
-            self.window("Save Picture")
-            file = self.directory / name
-            self.desktop.key("shift+End")  # Wine does not select the proposed name, as Windows does
-            self.desktop.output("xdotool", "type", "--delay", "30", "Z:" + str(file).replace("/", "\\"))
-            self.press("Return", "it is written", lambda: file.exists() and file.read_bytes().startswith(begins))
-            self.desktop.gone("Save Picture")
-            self.process.kill()
-            self.process.wait()
+        self.charted(self.start(CHART))
+        self.desktop.key("ctrl+s")
+        self.window("Save Picture")
+        file = self.directory / "a.png"
+        self.desktop.key("shift+End")  # Wine does not select the proposed name, as Windows does
+        self.desktop.output("xdotool", "type", "--delay", "30", "Z:" + str(file).replace("/", "\\"))
+        self.press("Return", "it is written", lambda: file.exists() and file.read_bytes().startswith(b"\x89PNG"))
+        self.desktop.gone("Save Picture")
+        self.assertEqual(list(self.directory.iterdir()), [file])
 
     def test_an_empty_clipboard_needs_data(self):
         self.empty_clipboard()
