@@ -187,13 +187,17 @@ class Desktop:
     def gone(self, title):
         soon(f"the window {title!r} goes", lambda: title not in self.windows())
 
-    def geometry(self, window):
-        """Left, top, width and height, without the window manager's frame."""
+    def size(self, window):
         geometry = self.output("xdotool", "getwindowgeometry", "--shell", window)
-        return [int(re.search(rf"\b{what}=(-?\d+)", geometry)[1]) for what in ("X", "Y", "WIDTH", "HEIGHT")]
+        return [int(re.search(rf"{what}=(\d+)", geometry)[1]) for what in ("WIDTH", "HEIGHT")]
 
     def height(self, window):
-        return self.geometry(window)[3]
+        return self.size(window)[1]
+
+    def point_at(self, window, x, y):
+        """Moves the mouse there in the window; returns the place on the screen."""
+        self.output("xdotool", "mousemove", "--window", window, str(x), str(y))
+        return tuple(map(int, re.findall(r"[xy]:(\d+)", self.output("xdotool", "getmouselocation"))))
 
     def put(self, window, where, place):
         """Moves the window until what `where` finds in it is at that place of the screen."""
@@ -202,7 +206,7 @@ class Desktop:
             # The window manager puts the window's frame there, so that the first move is not exact.
             left, top = left + place[0] - now[0], top + place[1] - now[1]
             self.output("xdotool", "windowmove", window, str(left), str(top))
-            soon("the window is moved", lambda: where() != now)  # noqa: B023
+            soon("the window is moved", lambda: where() != now)
 
     def click(self, place):
         """Presses the mouse's button at that place of the screen."""
