@@ -65,6 +65,8 @@ TEST(Clipboard, TextInUtf8IsPreferred)
     EXPECT_EQ(readClipboard(), u"c");
     offer({{"text/plain;charset=iso-8859-1", "a"}, {"text/plain", "b"}});
     EXPECT_EQ(readClipboard(), u"b");
+    offer({{"text/plain;charset=iso-8859-1", "a"}, {"text/plain;charset=utf-8", "c"}});
+    EXPECT_EQ(readClipboard(), u"c");
 }
 
 TEST(Clipboard, TheScreenThatACopyCarriesComesFirstAndIsNotMendedAgain)

@@ -184,8 +184,7 @@ void DesktopPlatform::leave(int status)
     std::fflush(nullptr);
     if (!clipboardNeedsHandover())
         endProcess(status);
-    QCoreApplication::exit(status);
-    // For a process that is still starting: there is no event loop yet that could be left.
+    // Queued, because a process that is still starting has no event loop yet that could be left.
     QMetaObject::invokeMethod(
         qApp, [status] { QCoreApplication::exit(status); }, Qt::QueuedConnection);
 }

@@ -142,8 +142,6 @@ void GridTable::keyPressEvent(QKeyEvent* event)
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && currentIndex().isValid())
         emit rowChosen(currentIndex().row() + 1);
-    else if (event->matches(QKeySequence::Copy))
-        event->ignore(); // the toolkit would copy a cell where there are no rows to be copied
     else
         QTableView::keyPressEvent(event);
 }
