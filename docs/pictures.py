@@ -18,8 +18,8 @@ import time
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 PROGRAM = ROOT / "build/release/src/plotvue"
 FOR_WINDOWS = ROOT / "build/windows/plotvue.exe"
-sys.path.insert(0, str(ROOT / "tests/windows"))
-from wine import Wine  # noqa: E402
+sys.path.append(str(ROOT))
+from tests.display.wine import Wine  # noqa: E402
 
 SAMPLES = ["startup"] + sorted(path.stem for path in (ROOT / "samples").glob("*.txt"))
 # The keys that open the first row of a list. In a chart window they open nothing.

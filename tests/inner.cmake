@@ -43,7 +43,7 @@ if(WIN32)
   # FirstSize needs a screen with a scale of its own, and Copies a clipboard with bare line feeds, which the toolkit does
   # not write on Windows.
   add_test(NAME desktop COMMAND desktoptests --gtest_brief=1 --gtest_filter=-*FirstSize*:*Copies*)
-  set_tests_properties(desktop PROPERTIES RESOURCE_LOCK desktop TIMEOUT 300)
+  set_tests_properties(desktop PROPERTIES RESOURCE_LOCK display TIMEOUT 300)
   return()
 endif()
 set(offscreen "QT_QPA_PLATFORM=offscreen:configfile=${CMAKE_CURRENT_SOURCE_DIR}/desktop/screen.json")

@@ -7,8 +7,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-TESTS = Path(__file__).resolve().parents[1]
-VERDICT = TESTS / "verdict.py"
+VERDICT = Path(__file__).resolve().parents[1] / "verdict.py"
 
 # Stands for ctest: writes these results, if there are any, and ends with this status.
 CTEST = """#!/bin/bash
@@ -93,8 +92,7 @@ class Verdict(unittest.TestCase):
         self.must_say(1, 1)
 
     def test_a_second_try_is_told(self):
-        self.run_verdict("test", "one", sys.executable, "-c",
-                         f"import sys; sys.path.append({str(TESTS)!r}); from verdict import remark; remark('Tried twice.')")
+        self.run_verdict("test", "one", sys.executable, "-c", "from tests.verdict import remark; remark('Tried twice.')")
         self.assertEqual(self.run_verdict("sum").stdout.splitlines()[-2:], ["Tried twice.", "1 passed, 0 failed"])
 
 

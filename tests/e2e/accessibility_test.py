@@ -2,8 +2,8 @@
 
 import re
 
-from accessible import SpokenTest, appeared, renamed
-from desktop import CHART, NEED_DATA, PRODUCT, SAMPLES, START, main, sample, soon
+from tests.display.accessible import SpokenTest, appeared, renamed
+from tests.display.display import CHART, NEED_DATA, PRODUCT, SAMPLES, START, main, sample, soon
 
 GROUPS = ["categoriessalesmen", "salesmencategories"]
 RANKED = {
@@ -23,7 +23,7 @@ POINT = re.compile(r"[^:]+: .*\d")
 class Accessibility(SpokenTest):
     def setUp(self):
         super().setUp()
-        self.desktop.copy(None)
+        self.display.copy(None)
         self.start()
         self.root = self.application()
         self.acknowledge(NEED_DATA, "^Clipboard contains no data$")
@@ -48,7 +48,7 @@ class Accessibility(SpokenTest):
              if window.handle != other.handle and window.has("SHOWING")), None))
 
     def open(self, name):
-        self.desktop.copy(sample(name))
+        self.display.copy(sample(name))
         self.start_window.first("push button", "Refresh").press()
         window = self.shows_beside(self.start_window)
         soon("the start window goes", lambda: not self.start_window.has("SHOWING"))
@@ -56,7 +56,7 @@ class Accessibility(SpokenTest):
 
     def open_drilldown(self, window):
         soon("the grid has the focus", lambda: window.first("table").has("FOCUSED"))
-        self.desktop.key("Return")
+        self.display.key("Return")
         return self.shows_beside(window)
 
     def close(self, window):
@@ -177,18 +177,18 @@ class Accessibility(SpokenTest):
         earlier = "This chart is of an earlier copy. Press Refresh to chart the copied screen."
         window = self.open("product")
         self.close(window)
-        self.desktop.copy(PRODUCT.replace(b"DIESEL", b"KEROSN"))
+        self.display.copy(PRODUCT.replace(b"DIESEL", b"KEROSN"))
         for _ in range(2):
             with appeared("alert") as names:
                 self.start_window.first("push button", "Refresh").press()
                 soon("the notice is announced", lambda: earlier in names())
             self.assertEqual(window.first("alert").name, earlier)
             self.close(window)
-        self.desktop.key("F5")
+        self.display.key("F5")
         soon("the chart shows", lambda: window.has("SHOWING"))
         self.assertIn("DIESEL", window.first("chart").name)
-        self.desktop.focused(self.desktop.window(CHART))
-        self.desktop.key("F5")
+        self.display.focused(self.display.window(CHART))
+        self.display.key("F5")
         soon("the notice goes", lambda: "alert" not in [node.role for node in window.walk()])
         self.assertIn("KEROSN", window.first("chart").name)
         self.close(window)
@@ -206,7 +206,7 @@ class Accessibility(SpokenTest):
         lines = PRODUCT.split(b"\r\n")
         newest = next(i for i, line in enumerate(lines) if b"-----" in line[:28]) + 1
         lines[newest] = b"XXX" + lines[newest][3:]
-        self.desktop.copy(b"\r\n".join(lines))
+        self.display.copy(b"\r\n".join(lines))
         self.start_window.first("push button", "Refresh").press()
         self.button_of_box("PlotVue", r"^[A-Z].*\.$").press()
         self.ends(1)

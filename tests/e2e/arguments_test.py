@@ -2,7 +2,7 @@
 
 import subprocess
 
-from desktop import DesktopTest, main
+from tests.display.display import DisplayTest, main
 
 SENTENCE = b"PlotVue takes no arguments: it charts the screen on the clipboard.\n"
 ARGUMENTS = (["product.txt"], ["-style", "windows"], ["-platform", "offscreen"], ["-session", "1a_2b"], ["--help"],
@@ -15,17 +15,17 @@ def said(program, arguments, env):
     return ran.returncode, ran.stdout, ran.stderr
 
 
-class Arguments(DesktopTest):
+class Arguments(DisplayTest):
     def refuses_all(self):
         for arguments in ARGUMENTS:
             with self.subTest(arguments):
-                self.assertEqual(said(self.program, arguments, self.desktop.env), (2, b"", SENTENCE))
+                self.assertEqual(said(self.program, arguments, self.display.env), (2, b"", SENTENCE))
 
     def test_one_sentence_refuses_them(self):
         self.refuses_all()
 
     def test_also_without_a_display(self):
-        del self.desktop.env["DISPLAY"]
+        del self.display.env["DISPLAY"]
         self.refuses_all()
 
 

@@ -1,10 +1,10 @@
 """A double-click opens or leaves a window, and its second click operates nothing in the window that it brought up."""
 
-from accessible import SpokenTest
-from desktop import CHART, LIST, PRODUCT, START, main, near, sample, soon
+from tests.display.accessible import SpokenTest
+from tests.display.display import CHART, LIST, PRODUCT, START, main, near, sample, soon
 from gi.repository import Atspi
 
-SYSTEMS_TIME = 0.4  # from one press to the next: the toolkit's own, because this desktop sets none
+SYSTEMS_TIME = 0.4  # from one press to the next: the toolkit's own, because this display sets none
 ATTEMPTS = 20  # the machine may be too busy for two clicks in that time
 
 
@@ -15,7 +15,7 @@ def centre(node):
 
 class DoubleClick(SpokenTest):
     def numbers(self):
-        return self.desktop.output("xdotool", "search", "--onlyvisible", "--class", "plotvue").split()
+        return self.display.output("xdotool", "search", "--onlyvisible", "--class", "plotvue").split()
 
     def attempt(self, once):
         def alone(apart):
@@ -39,52 +39,52 @@ class DoubleClick(SpokenTest):
             return next((number for number in self.numbers() if number != listed), None)
 
         def chart_window():
-            self.desktop.focused(soon("the chart has a window", opened))
+            self.display.focused(soon("the chart has a window", opened))
             return soon("it is known", lambda: next(
                 (w for w in self.application().children() if w.has("SHOWING") and w.handle != rows.handle), None))
 
-        self.desktop.key("Down", "Return")
+        self.display.key("Down", "Return")
         option = chart_window().first("radio button", "G/P %")
-        self.desktop.put(opened(), lambda: centre(option), place)
-        self.desktop.key("Escape")
+        self.display.put(opened(), lambda: centre(option), place)
+        self.display.key("Escape")
         soon("the chart goes", lambda: not opened())
-        self.desktop.focused(listed)
-        surely = self.desktop.double_click(place, apart, opened) < SYSTEMS_TIME
+        self.display.focused(listed)
+        surely = self.display.double_click(place, apart, opened) < SYSTEMS_TIME
         if surely:
             window = chart_window()
-            self.desktop.key("Next")
+            self.display.key("Next")
             soon("the next row is charted", lambda: "KESTREL AIR TAXI" in window.first("chart").name)
             self.assertTrue(near(centre(window.first("radio button", "G/P %")), place))
             self.assertEqual(window.first("chart").name.split(",")[0], "Sales")
-            self.desktop.click(place)
+            self.display.click(place)
             soon("a third click counts", lambda: window.first("chart").name.startswith("Profit%,"))
         return surely
 
     def test_on_a_row_opens_its_chart_and_chooses_no_option_there(self):
-        self.desktop.copy(sample("profitrank"))
+        self.display.copy(sample("profitrank"))
         self.attempt(self.row_double_clicked)
 
     def exit_double_clicked(self, apart):
         self.start(CHART)
         place = centre(self.application().shown(CHART).first("push button", "Exit"))
-        self.desktop.key("Escape")
-        start = self.desktop.window(START)
+        self.display.key("Escape")
+        start = self.display.window(START)
         exit_again = self.application().shown(START).first("push button", "Exit")
-        self.desktop.put(start, lambda: centre(exit_again), place)
+        self.display.put(start, lambda: centre(exit_again), place)
         self.charts(PRODUCT)
-        surely = self.desktop.double_click(place, apart, lambda: START in self.desktop.windows()) < SYSTEMS_TIME
+        surely = self.display.double_click(place, apart, lambda: START in self.display.windows()) < SYSTEMS_TIME
         if surely:
-            self.desktop.window(START)
+            self.display.window(START)
             self.charts(PRODUCT)
-            self.desktop.key("Escape")
-            self.desktop.window(START)
+            self.display.key("Escape")
+            self.display.window(START)
             self.assertTrue(near(centre(self.application().shown(START).first("push button", "Exit")), place))
-            self.desktop.click(place)
+            self.display.click(place)
             self.ends()
         return surely
 
     def test_on_exit_leads_to_the_start_window_and_no_further(self):
-        self.desktop.copy(PRODUCT)
+        self.display.copy(PRODUCT)
         self.attempt(self.exit_double_clicked)
 
 

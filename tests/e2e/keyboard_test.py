@@ -1,17 +1,17 @@
 """The program without a mouse; which control has the focus is asked as assistive technology asks."""
 
-from accessible import SpokenTest
-from desktop import CHART, LIST, START, main, sample, soon
+from tests.display.accessible import SpokenTest
+from tests.display.display import CHART, LIST, START, main, sample, soon
 
 
 class Keyboard(SpokenTest):
     def open(self, name, title=CHART):
-        self.desktop.copy(sample(name))
+        self.display.copy(sample(name))
         self.start()
         return self.shown(title)
 
     def shown(self, title):
-        self.desktop.window(title)
+        self.display.window(title)
         return self.application().shown(title)
 
     def focus_is(self, window, role, name):
@@ -26,7 +26,7 @@ class Keyboard(SpokenTest):
 
     def tab_goes_through(self, window, *controls):
         for role, name in controls:
-            self.desktop.key("Tab")
+            self.display.key("Tab")
             self.focus_is(window, role, name)
 
     def charted(self, name):
@@ -41,8 +41,8 @@ class Keyboard(SpokenTest):
         return soon(f"{name} is charted", there)
 
     def gone_to_the_start_window(self):
-        self.desktop.window(START)
-        self.desktop.gone(CHART)
+        self.display.window(START)
+        self.display.gone(CHART)
 
     def test_tab_goes_through_a_chart_window_in_reading_order(self):
         window = self.open("product")
@@ -54,7 +54,7 @@ class Keyboard(SpokenTest):
 
     def test_tab_goes_through_the_start_window_in_reading_order(self):
         self.open("product")
-        self.desktop.key("Escape")
+        self.display.key("Escape")
         window = self.shown(START)
         self.focus_is(window, "push button", "Refresh")
         self.tab_goes_through(window, ("push button", "Exit"), ("list item", "Sales Journal History"),
@@ -70,10 +70,10 @@ class Keyboard(SpokenTest):
         window = self.open("product")
         chart = window.first("chart")
         self.assertEqual(len(chart.children()), 13)
-        self.desktop.key("Tab", "Up")
+        self.display.key("Tab", "Up")
         self.focus_is(window, "radio button", "24 Month")
         soon("24 months are charted", lambda: len(chart.children()) == 25)
-        self.desktop.key("Down")
+        self.display.key("Down")
         self.focus_is(window, "radio button", "12 Month")
         soon("12 months are charted", lambda: len(chart.children()) == 13)
 
@@ -81,64 +81,64 @@ class Keyboard(SpokenTest):
         window = self.open("product")
         points = [point.name for point in window.first("chart").children()]
         for key, point in (("Right", 0), ("Right", 1), ("End", -1), ("Left", -2), ("Home", 0), ("Left", 0)):
-            self.desktop.key(key)
+            self.display.key(key)
             self.focus_is(window, "list item", points[point])
 
     def test_escape_hides_the_read_out_and_then_leaves(self):
         window = self.open("product")
         chart = window.first("chart")
-        self.desktop.key("Right")
+        self.display.key("Right")
         self.focus_is(window, "list item", chart.children()[0].name)
-        self.desktop.key("Escape")
+        self.display.key("Escape")
         self.focus_is(window, "chart", chart.name)
-        self.assertIn(CHART, self.desktop.windows())
-        self.desktop.key("Escape")
+        self.assertIn(CHART, self.display.windows())
+        self.display.key("Escape")
         self.gone_to_the_start_window()
-        self.desktop.key("Escape")
+        self.display.key("Escape")
         self.ends()
 
     def test_enter_on_a_row_opens_the_drill_down_that_steps_through_the_list(self):
         window = self.open("vendors", LIST)
         table = window.first("table")
         vendors = [table.cell(row, 2).name for row in range(3)]
-        self.desktop.key("Down", "Return")
+        self.display.key("Down", "Return")
         drilldown = self.charted(vendors[1])
         for key, row in (("Page_Down", 2), ("Page_Up", 1), ("alt+Left", 0), ("Page_Down", 1)):
-            self.desktop.key(key)
+            self.display.key(key)
             self.charted(vendors[row])
         chart, age = (node.name for node in drilldown.walk() if node.role == "chart")
         self.tab_goes_through(drilldown, ("chart", age), ("radio button", "Sales"), ("push button", "Back"),
                               ("push button", "Down"), ("push button", "Print"), ("push button", "Close"),
                               ("chart", chart))
-        self.desktop.key("Escape")
+        self.display.key("Escape")
         self.focus_is(window, "table", table.name)
 
     def test_refresh_by_key(self):
         for key in ("F5", "alt+r"):
             with self.subTest(key):
                 self.open("product")
-                self.desktop.copy(None)
-                self.desktop.key(key)
+                self.display.copy(None)
+                self.display.key(key)
                 self.gone_to_the_start_window()
                 self.process.kill()
                 self.process.wait()
 
     def test_exit_by_key(self):
         self.open("product")
-        self.desktop.key("alt+x")
+        self.display.key("alt+x")
         self.gone_to_the_start_window()
 
     def test_print_by_key_opens_a_dialog_that_escape_closes(self):
         self.open("product")
-        before = sorted(self.desktop.home.iterdir())
+        before = sorted(self.display.home.iterdir())
         for key in ("ctrl+p", "alt+p"):
             with self.subTest(key):
-                self.desktop.key(key)
-                self.desktop.window("Print")
-                self.desktop.key("Escape")
-                self.desktop.gone("Print")
-                self.desktop.window(CHART)
-        self.assertEqual(sorted(self.desktop.home.iterdir()), before)
+                self.display.key(key)
+                self.display.window("Print")
+                self.display.key("Escape")
+                self.display.gone("Print")
+                self.display.window(CHART)
+        self.assertEqual(sorted(self.display.home.iterdir()), before)
 
     def test_tooltips_name_the_shortcuts(self):
         window = self.open("product")

@@ -1,20 +1,20 @@
-"""The desktop session ends while the real program runs: it ends too, and the next session does not start it."""
+"""The session ends while the real program runs: it ends too, and the next session does not start it."""
 
 import os
 import subprocess
 
-from desktop import CHART, PRODUCT, DesktopTest, main
+from tests.display.display import CHART, PRODUCT, DisplayTest, main
 
 NEVER = b"3\n"
 
 
-class Logout(DesktopTest):
+class Logout(DisplayTest):
     def log_out(self, save):
         """The session ends and has its programs save that much; returns when the program wants to be restarted."""
-        manager = self.desktop.launch(os.environ["SESSION_MANAGER_PROGRAM"], stdin=subprocess.PIPE,
+        manager = self.display.launch(os.environ["SESSION_MANAGER_PROGRAM"], stdin=subprocess.PIPE,
                                       stdout=subprocess.PIPE)
-        self.desktop.env["SESSION_MANAGER"] = manager.stdout.readline().decode().strip()
-        self.desktop.copy(PRODUCT)
+        self.display.env["SESSION_MANAGER"] = manager.stdout.readline().decode().strip()
+        self.display.copy(PRODUCT)
         self.start(CHART)
         manager.stdin.write(save + b"\n")
         manager.stdin.flush()

@@ -1,27 +1,27 @@
 """Printing from the real program to a real print server."""
 
-from desktop import CHART, main, soon
-from printserver import PrintTest
+from tests.display.display import CHART, main, soon
+from tests.display.printserver import PrintTest
 
 
 class Printing(PrintTest):
     def test_three_copies_on_the_second_printer_are_three_jobs(self):
         self.open_dialog()
         self.print_copies("3")
-        self.desktop.gone("Print")
+        self.display.gone("Print")
         soon("three jobs are printed", lambda: len(self.server.completed("second")) >= 3)
 
         jobs = self.server.completed("second")
         self.assertEqual(len(jobs), 3)
         self.assertEqual(self.server.completed("first"), [])
         self.server.check_pages(self, jobs)
-        self.assertIn("second", self.desktop.output("lpstat", "-d"))
+        self.assertIn("second", self.display.output("lpstat", "-d"))
         self.still_runs()
 
     def test_a_cancelled_dialog_prints_nothing(self):
         self.open_dialog()
         self.cancel()
-        self.desktop.window(CHART)
+        self.display.window(CHART)
         self.assertEqual(self.server.completed("first") + self.server.completed("second"), [])
         self.still_runs()
 

@@ -2,9 +2,9 @@
 
 from contextlib import suppress
 
-import terminals
-from accessible import SpokenTest
-from desktop import SAMPLES, NotInTime, main, soon
+from tests.e2e import terminals
+from tests.display.accessible import SpokenTest
+from tests.display.display import SAMPLES, NotInTime, main, soon
 
 LINES, COLUMNS = 24, 80
 SCREENS = ("product", "glhistory", "active", "glexpense", "pastdue")
@@ -34,18 +34,18 @@ def words(chart):
     return [chart.name, *(point.name for point in chart.children())]
 
 
-def charted(desktop):
+def charted(display):
     """The words of the chart that the program opens when it starts, or of its list and the chart of the first row."""
-    process = desktop.start()
+    process = display.start()
     try:
-        application = desktop.application(process)
+        application = display.application(process)
         opened = first(application, "chart", "table")
         if opened.role == "chart":
             return words(opened)
         rows, columns = opened.rows_and_columns()
         cells = [opened.cell(row, column).name for row in range(rows) for column in range(columns)]
         soon("the list has the focus", lambda: opened.has("FOCUSED"))
-        desktop.key("Return")
+        display.key("Return")
         return cells + words(first(application, "chart"))
     finally:
         process.kill()
@@ -58,14 +58,14 @@ class Terminals(SpokenTest):
         super().setUpClass()
         cls.intact = {}
         for sample in SCREENS:
-            cls.desktop.copy("".join(line + "\r\n" for line in page(sample)).encode())
-            cls.intact[sample] = charted(cls.desktop)
-        cls.desktop.copy(None)
+            cls.display.copy("".join(line + "\r\n" for line in page(sample)).encode())
+            cls.intact[sample] = charted(cls.display)
+        cls.display.copy(None)
 
     def copied(self, copy, lines):
         """The text that the terminal copies; it is asked again while it may still be painting."""
         def held():
-            return (self.desktop.held(2) or b"").decode()
+            return (self.display.held(2) or b"").decode()
 
         for _ in range(5):
             copy()
@@ -83,11 +83,11 @@ class Terminals(SpokenTest):
                 with self.subTest(terminal.__name__, sample=sample, line_ends="painted" if painted else "null"):
                     lines = [line.ljust(COLUMNS) if painted else line.rstrip() for line in page(sample)]
                     lines += [" " * COLUMNS if painted else ""] * (LINES - len(lines))
-                    with terminal(self.desktop, lines) as copy:
+                    with terminal(self.display, lines) as copy:
                         text = self.copied(copy, lines)
                         keeps = painted and terminal is terminals.xterm
                         self.assertEqual(" \n" in text, keeps, "blanks at the ends of lines")
-                        found = charted(self.desktop)
+                        found = charted(self.display)
                     self.assertEqual(found, self.intact[sample])
                 if not found:
                     return  # the other samples would take as long to fail

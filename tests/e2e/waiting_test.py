@@ -1,7 +1,7 @@
 """A screen that is too short to be read: a box says so, whatever window is visible, and can end the program."""
 
-from accessible import Atspi, SpokenTest
-from desktop import CHART, LIST, PRODUCT, main, soon
+from tests.display.accessible import Atspi, SpokenTest
+from tests.display.display import CHART, LIST, PRODUCT, main, soon
 
 BOX = LIST  # it has the title of the list windows
 SHORT = b"".join(PRODUCT.splitlines(keepends=True)[:11])
@@ -10,7 +10,7 @@ BAR = "#2458B0"
 
 class Waiting(SpokenTest):
     def start_with(self, capture):
-        self.desktop.copy(capture)
+        self.display.copy(capture)
         self.start()
 
     def start_window(self):
@@ -21,14 +21,14 @@ class Waiting(SpokenTest):
     def chart(self):
         """A chart, and a screen that is too short on the clipboard."""
         self.start_with(PRODUCT)
-        self.desktop.window(CHART)
+        self.display.window(CHART)
         window = self.application().shown(CHART)
-        self.desktop.copy(SHORT)
+        self.display.copy(SHORT)
         return window
 
     def box(self, lines="11 lines"):
         """Waits for the box, checks what it says and returns it."""
-        self.desktop.window(BOX)
+        self.display.window(BOX)
         box = self.application().shown(BOX, role="alert")
         words = " ".join(node.name for node in box.walk() if node.role == "label")
         for part in (f" {lines},", " 24;", "at least 20 ", "keep the blanks"):
@@ -44,39 +44,39 @@ class Waiting(SpokenTest):
 
     def bars(self, window):
         """How many pixels of the window have the bars' colour."""
-        picture = self.desktop.output("import", "-silent", "-window", window, "-depth", "8", "txt:-")
+        picture = self.display.output("import", "-silent", "-window", window, "-depth", "8", "txt:-")
         return picture.count(BAR)
 
     def click(self, node):
         place = Atspi.Component.get_extents(node.handle, Atspi.CoordType.SCREEN)
-        self.desktop.output("xdotool", "mousemove", str(place.x + place.width // 2),
+        self.display.output("xdotool", "mousemove", str(place.x + place.width // 2),
                             str(place.y + place.height // 2), "click", "1")
 
     def test_at_the_start_the_box_is_alone(self):
         self.start_with(SHORT)
         self.box()
-        self.assertEqual(list(self.desktop.windows()), [BOX])
-        self.desktop.key("Return")
+        self.assertEqual(list(self.display.windows()), [BOX])
+        self.display.key("Return")
         self.fails()
 
     def test_one_line(self):
         self.start_with(b"QXM31H          10\r\n")
         self.box("1 line")
-        self.desktop.key("space")
+        self.display.key("space")
         self.fails()
 
     def test_empty_lines_do_not_count_and_blank_ones_do(self):
         self.start_with(b"QXM31H          10\r\n\r\nPRODUCT:\r\n \r\n\r\n")
         self.box("3 lines")
-        self.desktop.key("Escape")
+        self.display.key("Escape")
         self.fails()
 
     def test_at_refresh_in_the_start_up_window(self):
         self.start_window()
-        self.desktop.copy(SHORT)
-        self.desktop.key("F5")
+        self.display.copy(SHORT)
+        self.display.key("F5")
         self.box()
-        self.desktop.key("Escape")
+        self.display.key("Escape")
         self.fails()
 
     def test_by_mouse_at_an_option_with_a_chart_open(self):
@@ -87,9 +87,9 @@ class Waiting(SpokenTest):
 
     def test_by_the_title_bar_of_the_box(self):
         self.chart()
-        self.desktop.key("F5")
+        self.display.key("F5")
         self.box()
-        self.desktop.key("alt+F4")
+        self.display.key("alt+F4")
         self.fails()
 
     def test_by_assistive_technology_which_runs_nothing_under_the_box(self):
@@ -99,21 +99,21 @@ class Waiting(SpokenTest):
         window.first("push button", "Exit").press()
         window.first("push button", "Refresh").press()
         self.assertEqual(box.description(), box.description())  # asked after them, it answers after them
-        self.assertEqual(sorted(self.desktop.windows()), [BOX, CHART])
+        self.assertEqual(sorted(self.display.windows()), [BOX, CHART])
         box.first("push button", "Close PlotVue").press()
         self.fails()
 
     def test_the_chart_under_the_box_stays_painted(self):
         self.chart()
-        self.desktop.key("F5")
+        self.display.key("F5")
         self.box()
-        number = self.desktop.windows()[CHART]
-        box = self.desktop.windows()[BOX]
-        self.desktop.output("xdotool", "windowmove", box, "0", "0")
-        self.desktop.output("xdotool", "windowsize", number, "820", "600")
+        number = self.display.windows()[CHART]
+        box = self.display.windows()[BOX]
+        self.display.output("xdotool", "windowmove", box, "0", "0")
+        self.display.output("xdotool", "windowsize", number, "820", "600")
         soon("the chart is painted in its new size",
-             lambda: self.desktop.height(number) == 600 and self.bars(number) > 5000)
-        self.desktop.key("Return")
+             lambda: self.display.height(number) == 600 and self.bars(number) > 5000)
+        self.display.key("Return")
         self.fails()
 
 

@@ -1,4 +1,4 @@
-"""The program on a Wayland desktop, where only the window with the focus may read the clipboard."""
+"""The program on a Wayland display, where only the window with the focus may read the clipboard."""
 
 import json
 import os
@@ -8,10 +8,10 @@ import tempfile
 import time
 from pathlib import Path
 
-from desktop import CHART, NEED_DATA, PRODUCT, SCREEN, START, Desktop, DesktopTest, main, soon
+from tests.display.display import CHART, NEED_DATA, PRODUCT, SCREEN, START, Display, DisplayTest, main, soon
 
 
-class WaylandDesktop(Desktop):
+class WaylandDisplay(Display):
     """A compositor without a screen, with a keyboard. It does not run as root: then the user nobody runs everything."""
 
     def __enter__(self):
@@ -86,44 +86,44 @@ class WaylandDesktop(Desktop):
         soon(f"the window {title!r} has the focus", lambda: self.windows().get(title))
 
 
-class Wayland(DesktopTest):
-    desktop_class = WaylandDesktop
+class Wayland(DisplayTest):
+    display_class = WaylandDisplay
 
     def test_a_capture_at_the_start_opens_its_window_alone(self):
-        self.desktop.copy(PRODUCT)
+        self.display.copy(PRODUCT)
         self.start(CHART)
         time.sleep(1.5)  # longer than the program waits for the focus
-        self.assertEqual(list(self.desktop.windows()), [CHART])
+        self.assertEqual(list(self.display.windows()), [CHART])
         self.still_runs()
 
     def test_a_capture_that_comes_later_is_charted_by_refresh(self):
         self.start(NEED_DATA)
         self.needs_data()
         self.charts(PRODUCT)
-        self.desktop.gone(START)
+        self.display.gone(START)
         self.leave()
 
     def test_what_is_copied_is_pasted_and_the_screen_stays(self):
-        self.desktop.copy(PRODUCT)
+        self.display.copy(PRODUCT)
         self.start(CHART)
-        self.desktop.key("ctrl+shift+c")
-        soon("figures are copied", lambda: self.desktop.pasted(SCREEN))
-        self.assertTrue(self.desktop.pasted("text/plain;charset=utf-8").startswith(
+        self.display.key("ctrl+shift+c")
+        soon("figures are copied", lambda: self.display.pasted(SCREEN))
+        self.assertTrue(self.display.pasted("text/plain;charset=utf-8").startswith(
             b"\tSales\tProjected\r\nOCT98\t101211.69\t0\r\n"))
-        self.desktop.key("F5", "ctrl+c")
-        soon("a picture is copied", lambda: self.desktop.pasted("image/png"))
-        self.assertTrue(self.desktop.pasted("image/png").startswith(b"\x89PNG"))
-        self.assertEqual(self.desktop.pasted(SCREEN), PRODUCT)
-        self.desktop.key("F5")
-        self.desktop.key("Escape")
-        self.desktop.window(START)
-        self.desktop.key("F5")
-        self.desktop.window(CHART)
+        self.display.key("F5", "ctrl+c")
+        soon("a picture is copied", lambda: self.display.pasted("image/png"))
+        self.assertTrue(self.display.pasted("image/png").startswith(b"\x89PNG"))
+        self.assertEqual(self.display.pasted(SCREEN), PRODUCT)
+        self.display.key("F5")
+        self.display.key("Escape")
+        self.display.window(START)
+        self.display.key("F5")
+        self.display.window(CHART)
 
-        other = self.desktop.start()
+        other = self.display.start()
         self.addCleanup(other.wait)
         self.addCleanup(other.kill)
-        soon("another PlotVue charts it, too", lambda: [title for title, _ in self.desktop.all_windows()] == [CHART, CHART])
+        soon("another PlotVue charts it, too", lambda: [title for title, _ in self.display.all_windows()] == [CHART, CHART])
         self.still_runs()
 
 

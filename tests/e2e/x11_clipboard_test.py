@@ -3,8 +3,8 @@
 import signal
 import time
 
-from accessible import SpokenTest
-from desktop import CHART, NEED_DATA, PRODUCT, START, main, sample, soon
+from tests.display.accessible import SpokenTest
+from tests.display.display import CHART, NEED_DATA, PRODUCT, START, main, sample, soon
 
 PICTURE = b"\x89PNG\r\n\x1a\n" + bytes(64)
 LARGE = 5_000_000  # more than one transfer carries: it comes in pieces
@@ -13,12 +13,12 @@ LARGE = 5_000_000  # more than one transfer carries: it comes in pieces
 class X11Clipboard(SpokenTest):
     def own(self, target, content):
         """Another program offers the content as this type and no other; returns the program."""
-        path = self.desktop.home / "content"
+        path = self.display.home / "content"
         path.write_bytes(content)
-        owner = self.desktop.launch("xclip", "-quiet", "-selection", "clipboard", "-t", target, "-in", str(path))
+        owner = self.display.launch("xclip", "-quiet", "-selection", "clipboard", "-t", target, "-in", str(path))
         self.addCleanup(owner.wait)
         self.addCleanup(owner.kill)
-        soon(f"the clipboard offers {target}", lambda: target in self.desktop.output(
+        soon(f"the clipboard offers {target}", lambda: target in self.display.output(
             "xclip", "-selection", "clipboard", "-t", "TARGETS", "-out").split())
         return owner
 
@@ -110,7 +110,7 @@ class X11Clipboard(SpokenTest):
         owner.send_signal(signal.SIGSTOP)
         self.start()
         began = time.monotonic()
-        self.desktop.window(NEED_DATA)
+        self.display.window(NEED_DATA)
         self.assertLess(time.monotonic() - began, 7)
         self.needs_data()
         owner.kill()
@@ -122,8 +122,8 @@ class X11Clipboard(SpokenTest):
         self.start(CHART)
         owner.kill()
         owner.wait()
-        self.desktop.key("F5")
-        self.desktop.window(START)
+        self.display.key("F5")
+        self.display.window(START)
 
 
 if __name__ == "__main__":

@@ -8,8 +8,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "replay"))
-from replay import SAMPLES, Replay  # noqa: E402
+from tests.replay.replay import SAMPLES, Replay
 
 LIST, CHARTS = "frmM2Mpft", "frmM2MpftA"
 SCRATCH, ENTRIES, CHOSEN = "pvuscrn.txt", "plotvue.txt", "plotvue1.txt"

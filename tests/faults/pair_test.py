@@ -1,33 +1,29 @@
 """Two of the real program on one display and in one directory."""
 
-import sys
-from pathlib import Path
-
-sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
-from accessible import SpokenTest  # noqa: E402
-from desktop import ended, main, sample, soon  # noqa: E402
+from tests.display.accessible import SpokenTest
+from tests.display.display import ended, main, sample, soon
 
 
 class Pair(SpokenTest):
     @classmethod
     def setUpClass(cls):
         super().setUpClass()
-        cls.desktop.copy(sample("vendors"))
+        cls.display.copy(sample("vendors"))
 
     def start_with_focus(self):
         process = self.start()
-        window = self.desktop.application(process).shown("PlotVue")
-        number = soon("it has a window", lambda: self.desktop.output(
+        window = self.display.application(process).shown("PlotVue")
+        number = soon("it has a window", lambda: self.display.output(
             "xdotool", "search", "--all", "--onlyvisible", "--pid", str(process.pid), "--name", "PlotVue").strip())
-        self.desktop.output("xdotool", "windowactivate", number)
-        soon("it has the focus", lambda: self.desktop.output("xdotool", "getwindowfocus").strip() == number)
+        self.display.output("xdotool", "windowactivate", number)
+        soon("it has the focus", lambda: self.display.output("xdotool", "getwindowfocus").strip() == number)
         table = window.first("table")
         self.vendors = [" ".join((table.cell(row, 2).name, table.cell(row, 3).name)) for row in range(5)]
         return process
 
     def drill_down(self, process):
         """The process's window with charts and the name of its first chart, or None for both."""
-        for window in self.desktop.application(process).children():
+        for window in self.display.application(process).children():
             charts = [node.name for node in window.walk() if node.role == "chart"] if window.has("SHOWING") else []
             if charts:
                 return window, charts[0]
@@ -43,10 +39,10 @@ class Pair(SpokenTest):
 
     def test_both_step_through_the_one_list(self):
         one = self.start_with_focus()
-        self.desktop.key("Return")
+        self.display.key("Return")
         self.shows(one, 0)
         two = self.start_with_focus()
-        self.desktop.key("Down", "Down", "Return")
+        self.display.key("Down", "Down", "Return")
         self.shows(two, 2)
         self.shows(one, 0)
         # Both step on from the row that was chosen last, whichever of them chose it.
@@ -63,16 +59,16 @@ class Pair(SpokenTest):
 
     def test_each_reaches_the_end_of_the_list_for_itself(self):
         one = self.start_with_focus()
-        self.desktop.key("Return")
+        self.display.key("Return")
         self.shows(one, 0)
         two = self.start_with_focus()
-        self.desktop.key("Return")
+        self.display.key("Return")
         self.shows(two, 0)
         self.press(two, "Back")
-        self.desktop.application(two).shown("PlotVue", "alert")
+        self.display.application(two).shown("PlotVue", "alert")
         self.press(one, "Down")
         self.shows(one, 1)
-        self.desktop.key("Return")
+        self.display.key("Return")
         soon("its charts are closed", lambda: self.drill_down(two)[0] is None)
         one.terminate()
         ended(one)

@@ -1,13 +1,10 @@
 """The real program when its print server halts or goes away: the chart stays, and no message is shown."""
 
 import signal
-import sys
 import time
-from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
-from desktop import CHART, START, main, soon  # noqa: E402
-from printserver import PrintTest  # noqa: E402
+from tests.display.display import CHART, START, main, soon
+from tests.display.printserver import PrintTest
 
 
 class Printing(PrintTest):
@@ -20,13 +17,13 @@ class Printing(PrintTest):
 
     def goes_on(self):
         """Only the chart is shown; it can be refreshed, also with what is copied next."""
-        self.desktop.window(CHART)
-        self.assertEqual(list(self.desktop.windows()), [CHART])
-        self.desktop.key("F5")
-        self.desktop.window(CHART)
-        self.desktop.copy(None)
-        self.desktop.key("F5")
-        self.desktop.window(START)
+        self.display.window(CHART)
+        self.assertEqual(list(self.display.windows()), [CHART])
+        self.display.key("F5")
+        self.display.window(CHART)
+        self.display.copy(None)
+        self.display.key("F5")
+        self.display.window(START)
         self.still_runs()
 
     def test_a_server_that_is_gone(self):
@@ -38,8 +35,8 @@ class Printing(PrintTest):
     def test_a_server_that_goes_while_the_printer_is_chosen(self):
         self.open_dialog()
         self.stop_server()
-        self.desktop.key("alt+p")
-        self.desktop.gone("Print")
+        self.display.key("alt+p")
+        self.display.gone("Print")
         self.goes_on()
         self.assertEqual(self.spooled(), 0)
 
@@ -48,16 +45,16 @@ class Printing(PrintTest):
         self.print_copies("9", "9")
         soon("the first copy is sent", self.spooled)
         self.stop_server()
-        self.desktop.gone("Print")
+        self.display.gone("Print")
         self.goes_on()
         self.assertLess(self.spooled(), 99)
 
     def test_a_server_that_halts_and_goes_on(self):
         self.server.process.send_signal(signal.SIGSTOP)
-        self.desktop.key("ctrl+p")
+        self.display.key("ctrl+p")
         time.sleep(2)  # the dialog waits for the server's printers
         self.server.process.send_signal(signal.SIGCONT)
-        self.desktop.window("Print")
+        self.display.window("Print")
         self.cancel()
         self.goes_on()
 

@@ -1,8 +1,6 @@
 """The small files cannot be read, or hold something else: the session ends with a plain sentence, or the list does."""
 
-import unittest
-
-from files import BACK, BARE, CHARTS, CHOSEN, DOWN, ENTRIES, LIST, Files, main
+from tests.faults.files import BACK, BARE, CHARTS, CHOSEN, DOWN, ENTRIES, Files, main
 
 PROFIT = f"choose {CHARTS} optSales 1"
 CANNOT_BE_OPENED, CANNOT_BE_READ, TOO_EARLY = r"cannot be opened \(.+\)", r"cannot be read \(.+\)", "ends too early"

@@ -1,86 +1,82 @@
 """The real program leaves nothing behind: no settings, no temporary files, only the three small files."""
 
-import sys
-from pathlib import Path
-
-sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
-from desktop import LIST, PRODUCT, START, DesktopTest, main, sample, soon  # noqa: E402
-from printserver import PrintServer  # noqa: E402
+from tests.display.display import LIST, PRODUCT, START, DisplayTest, main, sample, soon
+from tests.display.printserver import PrintServer
 
 VENDORS = sample("vendors")
 TO_FILE, SAVE = "Print To File ...", "Save Picture"  # titles of dialogs
 
 
-class Traces(DesktopTest):
+class Traces(DisplayTest):
     def setUp(self):
         super().setUp()
-        self.server = PrintServer(self.desktop, ["paper"])
+        self.server = PrintServer(self.display, ["paper"])
         self.addCleanup(self.server.close)
-        top = self.desktop.home / "top"
+        top = self.display.home / "top"
         self.home, self.temporary, self.configuration, self.runtime, self.here, self.saved = (
             top / name for name in ("home", "tmp", "config", "run", "here", "saved"))
         for folder in (top, self.home, self.temporary, self.configuration, self.runtime, self.here, self.saved):
             folder.mkdir(mode=0o700)
 
     def start_with(self, **session):
-        self.desktop.copy(VENDORS)
+        self.display.copy(VENDORS)
         folders = {"HOME": self.home, "TMPDIR": self.temporary, **session}
         variables = [f"{name}={folder}" for name, folder in folders.items()]
-        self.process = self.desktop.launch("env", f"--chdir={self.here}", "--unset=XDG_RUNTIME_DIR", *variables,
+        self.process = self.display.launch("env", f"--chdir={self.here}", "--unset=XDG_RUNTIME_DIR", *variables,
                                            self.program)
-        self.rows = self.desktop.window(LIST)
+        self.rows = self.display.window(LIST)
 
     def chart_a_row(self):
-        self.desktop.key("Return")
+        self.display.key("Return")
         soon("a row is charted", lambda: (self.here / "plotvue.txt").exists())
         self.chart = soon("the chart has the focus",
-                          lambda: self.desktop.focus() not in ("", self.rows) and self.desktop.focus())
-        self.desktop.key("Page_Down")
+                          lambda: self.display.focus() not in ("", self.rows) and self.display.focus())
+        self.display.key("Page_Down")
 
     def finish_printing(self):
-        self.desktop.key("alt+p")
-        self.desktop.gone("Print")
-        self.desktop.focused(self.chart)
+        self.display.key("alt+p")
+        self.display.gone("Print")
+        self.display.focused(self.chart)
 
     def print_on_paper(self):
-        self.desktop.key("ctrl+p")
-        self.desktop.window("Print")
+        self.display.key("ctrl+p")
+        self.display.window("Print")
         self.finish_printing()
         soon("it is printed", lambda: self.server.completed("paper"))
 
     def choose_file(self):
         """Opens the dialog for files from the dialog for printers."""
-        self.desktop.key("space")
-        self.desktop.window(TO_FILE)
+        self.display.key("space")
+        self.display.window(TO_FILE)
 
     def print_to_file(self, file):
-        self.desktop.key("ctrl+p")
-        printer = self.desktop.window("Print")
-        self.desktop.key("alt+n", "End")  # the last printer is a file
-        self.desktop.key(*["Tab"] * 3)
+        self.display.key("ctrl+p")
+        printer = self.display.window("Print")
+        self.display.key("alt+n", "End")  # the last printer is a file
+        self.display.key(*["Tab"] * 3)
         self.choose_file()
-        self.desktop.key("Escape")
-        self.desktop.focused(printer)
+        self.display.key("Escape")
+        self.display.focused(printer)
         self.choose_file()
-        self.desktop.output("xdotool", "type", str(file))
-        self.desktop.key("Return")
-        self.desktop.focused(printer)
+        self.display.output("xdotool", "type", str(file))
+        self.display.key("Return")
+        self.display.focused(printer)
         self.finish_printing()
         self.assertTrue(soon("the file is written", lambda: file.exists() and file.read_bytes()).startswith(b"%PDF"))
 
     def save_picture(self, file):
-        self.desktop.key("ctrl+s")
-        self.desktop.window(SAVE)
-        self.desktop.output("xdotool", "type", str(file))
-        self.desktop.key("Return")
-        self.desktop.focused(self.chart)
+        self.display.key("ctrl+s")
+        self.display.window(SAVE)
+        self.display.output("xdotool", "type", str(file))
+        self.display.key("Return")
+        self.display.focused(self.chart)
         soon("the picture is written", file.exists)
 
     def leave_all(self):
-        self.desktop.key("Escape")
-        self.desktop.focused(self.rows)
-        self.desktop.key("Escape")
-        self.desktop.window(START)
+        self.display.key("Escape")
+        self.display.focused(self.rows)
+        self.display.key("Escape")
+        self.display.window(START)
         self.charts(PRODUCT)
         self.leave()
 

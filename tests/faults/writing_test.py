@@ -3,7 +3,8 @@
 import os
 import unittest
 
-from files import BACK, BARE, CHARTS, CHOSEN, DOWN, ENTRIES, FULL, LIST, MAY_MOUNT, ROW, SCRATCH, Files, disk_of, main
+from tests.faults.files import (
+    BACK, BARE, CHARTS, CHOSEN, DOWN, ENTRIES, FULL, LIST, MAY_MOUNT, ROW, SCRATCH, Files, disk_of, main)
 
 CANNOT_BE_CREATED = r"cannot be created \(.+\)"
 CANNOT_BE_WRITTEN = rf"cannot be written \({FULL}\)"

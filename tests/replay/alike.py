@@ -1,4 +1,3 @@
-#!/usr/bin/python3 -B
 """alike.py PROGRAM STORY: checks that PROGRAM has the same output and files in memory and on the desktop.
 
 STORY is a script, or a capture, which is played with tours (tour.py). The expected output of a script is in the file
@@ -14,8 +13,8 @@ import sys
 import tempfile
 from pathlib import Path
 
-from replay import ENVIRONMENT, parsed, working_directory
-from tour import tours
+from tests.replay.replay import ENVIRONMENT, parsed, working_directory
+from tests.replay.tour import tours
 
 PATIENCE = 150  # seconds, enough for a busy machine
 

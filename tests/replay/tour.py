@@ -6,7 +6,7 @@ is displayed. If an action ends the session, the next tour skips it, until one t
 
 import itertools
 
-from replay import Replay, working_directory
+from tests.replay.replay import Replay, working_directory
 
 ANOTHER_SCREEN = "captures/product-accents.txt"
 

@@ -4,7 +4,8 @@ error leads to a file or a pipe."""
 import os
 import tempfile
 
-from wine import LIST, WineTest, main  # isort: skip
+from tests.display.display import LIST, main
+from tests.display.wine import WineTest
 
 BOX = LIST  # both have the same title
 SENTENCE = b"PlotVue takes no arguments: it charts the screen on the clipboard.\r\n"
@@ -15,12 +16,12 @@ class Arguments(WineTest):
 
     def refuse(self, *arguments, **streams):
         """Starts the program with these arguments and closes the box."""
-        self.process = self.desktop.launch("wine", self.program, *arguments, **streams)
+        self.process = self.display.launch("wine", self.program, *arguments, **streams)
         self.addCleanup(self.process.wait)
         self.addCleanup(self.process.kill)
-        self.desktop.window(BOX)
-        self.assertEqual(list(self.desktop.windows()), [BOX])
-        self.desktop.key("Return")
+        self.display.window(BOX)
+        self.assertEqual(list(self.display.windows()), [BOX])
+        self.display.key("Return")
         self.ends(2)
 
     def test_a_box_refuses_a_file(self):

@@ -9,9 +9,9 @@ import time
 import unittest
 from pathlib import Path
 
-from wine import (  # isort: skip
-    CHART, DEFAULT_PRINTER, FIGURES, LIST, NEED_DATA, PRODUCT, SCREEN, START, NotInTime, WineTest, ended, sample, soon)
-from printserver import PrintServer  # isort: skip
+from tests.display.display import CHART, FIGURES, LIST, NEED_DATA, PRODUCT, SCREEN, START, NotInTime, ended, sample, soon
+from tests.display.printserver import PrintServer
+from tests.display.wine import DEFAULT_PRINTER, WineTest
 
 SYSTEMS_TIME = 0.5  # for a double-click, from one press to the next
 BARS = bytes((0x24, 0x58, 0xB0))  # the first series' colour
@@ -27,7 +27,7 @@ class Clicks(WineTest):
     def start(self, title):
         # Not a pipe, because processes that Wine starts in the background would keep it open.
         self.printed = self.enterContext(tempfile.TemporaryFile())
-        self.process = self.desktop.start(directory=self.directory, stderr=self.printed)
+        self.process = self.display.start(directory=self.directory, stderr=self.printed)
         self.addCleanup(self.process.wait)
         self.addCleanup(self.process.kill)
         return self.window(title)
@@ -38,13 +38,13 @@ class Clicks(WineTest):
 
     def window(self, title):
         """Waits for the window; under Wine the program hears of its focus a moment later than X does."""
-        number = self.desktop.window(title)
+        number = self.display.window(title)
         time.sleep(0.5)
         return number
 
     def copy(self, capture):
         """An X program copies, and Wine has noticed."""
-        self.until_pasted(lambda: self.desktop.copy(capture), capture)
+        self.until_pasted(lambda: self.display.copy(capture), capture)
 
     def until_pasted(self, copy, text):
         """Calls `copy` until a Windows program would get the text: Wine misses a change of the clipboard now and then,
@@ -58,7 +58,7 @@ class Clicks(WineTest):
     def pasted(self, *format_):
         """What a Windows program would get: the text, or the bytes in this format."""
         file = self.directory / "pasted"
-        self.desktop.windows_program(copier, "--paste", f"Z:{file}", *format_)
+        self.display.windows_program(copier, "--paste", f"Z:{file}", *format_)
         held = file.read_bytes()
         file.unlink()
         return held
@@ -69,22 +69,22 @@ class Clicks(WineTest):
         file.write_bytes(text)
         self.leave_x_clipboard()
         if not seconds:
-            self.until_pasted(lambda: self.desktop.windows_program(copier, f"Z:{file}"), text)
+            self.until_pasted(lambda: self.display.windows_program(copier, f"Z:{file}"), text)
             return None
-        return self.desktop.launch("wine", copier, f"Z:{file}", *map(str, seconds))
+        return self.display.launch("wine", copier, f"Z:{file}", *map(str, seconds))
 
     def leave_x_clipboard(self):
         """No X program owns it any more, and Wine has noticed: later it would take what is copied there for gone."""
-        self.desktop.copy(None)
-        soon("nobody owns the clipboard", lambda: not self.desktop.held(5))
+        self.display.copy(None)
+        soon("nobody owns the clipboard", lambda: not self.display.held(5))
         time.sleep(1)
 
     def empty_clipboard(self):
         self.leave_x_clipboard()
-        self.desktop.windows_program(copier)
+        self.display.windows_program(copier)
 
     def picture(self, window):
-        return subprocess.run(["import", "-window", window, "-depth", "8", "rgb:-"], env=self.desktop.env,
+        return subprocess.run(["import", "-window", window, "-depth", "8", "rgb:-"], env=self.display.env,
                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False, timeout=20).stdout
 
     def charted(self, window):
@@ -97,12 +97,12 @@ class Clicks(WineTest):
 
     def exit_of_chart(self, window):
         """Points at its Exit button, in the lower right corner; returns the place on the screen."""
-        width, height = self.desktop.size(window)
-        return self.desktop.point_at(window, width - 60, height - 24)
+        width, height = self.display.size(window)
+        return self.display.point_at(window, width - 60, height - 24)
 
     def exit_of_start(self, window):
         """Points at its Exit button, the second from the lower left corner; returns the place on the screen."""
-        return self.desktop.point_at(window, 140, self.desktop.height(window) - 24)
+        return self.display.point_at(window, 140, self.display.height(window) - 24)
 
     def chosen(self):
         """What the small file says of the row that is shown."""
@@ -110,17 +110,17 @@ class Clicks(WineTest):
         return file.read_bytes() if file.exists() else b""
 
     def press(self, key, what, condition):
-        self.desktop.key(key)
+        self.display.key(key)
         return soon(what, condition)
 
     def test_what_an_x_program_copies_is_charted_and_exit_leads_out(self):
         self.copy(PRODUCT)
         window = self.start(CHART)
         self.charted(window)
-        self.desktop.key("Escape")
+        self.display.key("Escape")
         self.window(START)
-        self.desktop.gone(CHART)
-        self.desktop.key("Escape")
+        self.display.gone(CHART)
+        self.display.key("Escape")
         self.ends()
         self.assertEqual([file.name for file in self.directory.iterdir()], [])
 
@@ -140,7 +140,7 @@ class Clicks(WineTest):
         busy = self.copy_in_windows(PRODUCT, 15)
         time.sleep(1)
         self.start(NEED_DATA)
-        self.desktop.key("Escape")
+        self.display.key("Escape")
         self.window(START)
         busy.kill()
 
@@ -148,28 +148,28 @@ class Clicks(WineTest):
         self.copy(PRODUCT)
         window = self.start(CHART)
         first = self.charted(window)
-        self.desktop.key("Tab", "Up")
+        self.display.key("Tab", "Up")
         soon("24 months are charted", lambda: self.charted(window) != first)
-        self.desktop.click(self.exit_of_chart(window))
+        self.display.click(self.exit_of_chart(window))
         self.window(START)
-        self.desktop.gone(CHART)
+        self.display.gone(CHART)
 
     def exit_double_clicked(self, apart):
         """Whether the clicks were fast enough. In the start-up window the Exit button is at the same place."""
         chart = self.start(CHART)
-        self.desktop.output("xdotool", "windowsize", chart, "640", "560")  # so that both windows fit on the screen
-        soon("the window is smaller", lambda: self.desktop.size(chart) == [640, 560])
+        self.display.output("xdotool", "windowsize", chart, "640", "560")  # so that both windows fit on the screen
+        soon("the window is smaller", lambda: self.display.size(chart) == [640, 560])
         place = self.exit_of_chart(chart)
-        self.desktop.key("Escape")
+        self.display.key("Escape")
         start = self.window(START)
-        self.desktop.put(start, lambda: self.exit_of_start(start), place)
-        self.desktop.key("F5")
+        self.display.put(start, lambda: self.exit_of_start(start), place)
+        self.display.key("F5")
         self.window(CHART)
-        surely = self.desktop.double_click(place, apart, lambda: START in self.desktop.windows()) < SYSTEMS_TIME
+        surely = self.display.double_click(place, apart, lambda: START in self.display.windows()) < SYSTEMS_TIME
         if surely:
             self.window(START)
             self.still_runs()
-            self.desktop.click(place)
+            self.display.click(place)
             self.ends()
         return surely
 
@@ -192,52 +192,52 @@ class Clicks(WineTest):
         window = self.start(CHART)
         first = self.charted(window)
         self.copy(PRODUCT.replace(b" 93934.66", b" 13934.66"))
-        self.desktop.key("F5")
+        self.display.key("F5")
         soon("the other figures are charted", lambda: self.charted(window) != first)
-        self.desktop.key("Escape")
+        self.display.key("Escape")
         self.window(START)
         self.copy(sample("vendors"))
-        self.desktop.key("F5")
+        self.display.key("F5")
         self.window(LIST)
 
     def printing_dialog(self):
         """Opens the printing dialog over a chart, with two printers; returns their print server."""
-        server = PrintServer(self.desktop, ["first", "second"])
+        server = PrintServer(self.display, ["first", "second"])
         self.addCleanup(server.close)
         self.copy(PRODUCT)
         self.charted(self.start(CHART))
-        self.desktop.key("ctrl+p")
+        self.display.key("ctrl+p")
         self.window("Print")
         return server
 
     def test_copies_are_printed_on_the_printer_that_the_dialog_names(self):
         server = self.printing_dialog()
-        self.desktop.key("Down", "alt+c", "End", "BackSpace", "2", "Return")
+        self.display.key("Down", "alt+c", "End", "BackSpace", "2", "Return")
         jobs = soon("two jobs are printed", lambda: len(found := server.completed("second")) >= 2 and found)
-        self.desktop.gone("Print")
+        self.display.gone("Print")
         self.assertEqual(len(jobs), 2)
         self.assertEqual(server.completed("first"), [])
         server.check_pages(self, jobs)
-        default = self.desktop.windows_program("reg", "query", DEFAULT_PRINTER)
+        default = self.display.windows_program("reg", "query", DEFAULT_PRINTER)
         self.assertIn(b"second", default)
 
     def test_a_cancelled_printing_dialog_prints_nothing(self):
         server = self.printing_dialog()
-        self.desktop.key("Down", "Escape")
-        self.desktop.gone("Print")
+        self.display.key("Down", "Escape")
+        self.display.gone("Print")
         self.window(CHART)
-        self.desktop.key("Escape")
+        self.display.key("Escape")
         self.window(START)
         self.assertEqual(server.completed("first") + server.completed("second"), [])
 
     def test_a_row_is_clicked_and_down_and_back_step_through_the_list(self):
         self.copy(sample("vendors"))
         window = self.start(LIST)
-        self.desktop.key("Down", "Return")
+        self.display.key("Down", "Return")
         soon("the row's key is written", self.chosen)
         chart = soon("the chart has a window of its own", lambda: next(
             (number for number in self.numbers() if number != window), None))
-        soon("it has the focus", lambda: self.desktop.output("xdotool", "getwindowfocus").strip() == chart)
+        soon("it has the focus", lambda: self.display.output("xdotool", "getwindowfocus").strip() == chart)
         self.charted(chart)
         first = self.chosen()
         self.press("Page_Down", "Down goes to the next row", lambda: self.chosen() != first)
@@ -245,14 +245,14 @@ class Clicks(WineTest):
         self.press("Escape", "the chart goes", lambda: self.numbers() == [window])
 
     def numbers(self):
-        return self.desktop.output("xdotool", "search", "--onlyvisible", "--class", "plotvue").split()
+        return self.display.output("xdotool", "search", "--onlyvisible", "--class", "plotvue").split()
 
     def test_figures_and_pictures_are_pasted_by_other_programs_and_the_screen_stays(self):
         self.copy(PRODUCT)
         self.charted(self.start(CHART))
         self.press("ctrl+shift+c", "figures are copied", lambda: self.pasted(SCREEN) == PRODUCT + b"\0")
         self.assertEqual(self.pasted(), FIGURES)
-        self.desktop.key("F5")
+        self.display.key("F5")
         self.press("ctrl+Insert", "a picture is copied", lambda: self.pasted("PNG"))
         self.assertTrue(self.pasted("PNG").startswith(b"\x89PNG\r\n\x1a\n\0\0\0\rIHDR"))
         self.assertEqual(self.pasted(), b"")
@@ -260,9 +260,9 @@ class Clicks(WineTest):
         size, *sides, planes, bits, compression = struct.unpack("<IiiHHI", self.pasted("DIB")[:20])
         self.assertEqual((size, sides, planes, bits, compression), (40, [width, height], 1, 24, 0))
         self.assertEqual(self.pasted(SCREEN), PRODUCT + b"\0")
-        self.desktop.key("Tab", "Up", "Escape")
+        self.display.key("Tab", "Up", "Escape")
         self.window(START)
-        self.desktop.key("F5")
+        self.display.key("F5")
         self.window(CHART)
 
     def test_what_was_copied_outlives_plotvue_and_is_charted_by_the_next(self):
@@ -271,9 +271,9 @@ class Clicks(WineTest):
         self.press("ctrl+c", "rows are copied", lambda: self.pasted(SCREEN) == sample("vendors") + b"\0")
         rows = self.pasted()
         self.assertTrue(rows.startswith(b"Rank\tEOM FIFO\tVendor Name\tProduct Category\tStock Months\r\n1\t97787\t"))
-        self.desktop.key("Escape")
+        self.display.key("Escape")
         self.window(START)
-        self.desktop.key("Escape")
+        self.display.key("Escape")
         self.ends()
         self.assertEqual(self.pasted(), rows)
         (self.directory / "pvuscrn.txt").unlink()
@@ -291,23 +291,23 @@ class Clicks(WineTest):
     def test_a_picture_is_saved(self):
         self.copy(PRODUCT)
         self.charted(self.start(CHART))
-        self.desktop.key("ctrl+s")
+        self.display.key("ctrl+s")
         self.window("Save Picture")
         file = self.directory / "a.png"
-        self.desktop.key("shift+End")  # Wine does not select the proposed name, as Windows does
-        self.desktop.output("xdotool", "type", "--delay", "30", "Z:" + str(file).replace("/", "\\"))
+        self.display.key("shift+End")  # Wine does not select the proposed name, as Windows does
+        self.display.output("xdotool", "type", "--delay", "30", "Z:" + str(file).replace("/", "\\"))
         self.press("Return", "it is written", lambda: file.exists() and file.read_bytes().startswith(b"\x89PNG"))
-        self.desktop.gone("Save Picture")
+        self.display.gone("Save Picture")
         self.assertEqual(list(self.directory.iterdir()), [file])
 
     def test_an_empty_clipboard_needs_data(self):
         self.empty_clipboard()
         self.start(NEED_DATA)
-        self.desktop.key("Escape")
+        self.display.key("Escape")
         self.window(START)
 
         def left():  # under Wine a key is lost now and then after a box
-            self.desktop.key("Escape")
+            self.display.key("Escape")
             time.sleep(1)
             return self.process.poll() is not None
         soon("PlotVue ends", left)
@@ -316,7 +316,7 @@ class Clicks(WineTest):
     def test_a_short_screen_is_waited_for_until_the_box_is_closed(self):
         self.copy_in_windows(b"\r\n".join(PRODUCT.split(b"\r\n")[:15]))
         self.start(LIST)
-        self.desktop.key("Return")
+        self.display.key("Return")
         self.ends(1)
         self.assertEqual(self.errors(),
                          "PlotVue: the copied screen has fewer than 20 lines; PlotVue waits for the rest.\r\n")
@@ -325,7 +325,7 @@ class Clicks(WineTest):
         (self.directory / "pvuscrn.txt").mkdir()
         self.copy(sample("vendors"))
         self.start(LIST)
-        self.desktop.key("Return")
+        self.display.key("Return")
         self.ends(1)
         self.assertRegex(self.errors(),
                          r"^PlotVue: The file pvuscrn.txt in the working directory cannot be created \([^\r\n]+\)\.\r\n$")

@@ -5,12 +5,9 @@ import contextlib
 import os
 import subprocess
 import sys
-from pathlib import Path
 
-from wine import INSIDE, Wine
-
-sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "faults"))
-from files import CHOSEN, ENTRIES, MAY_MOUNT, ROW, SCRATCH, Files, main, unittest  # noqa: E402
+from tests.display.wine import INSIDE, Wine
+from tests.faults.files import CHOSEN, ENTRIES, MAY_MOUNT, ROW, SCRATCH, Files, main, unittest
 
 MOUNTED = "PLOTVUE_MOUNTED"  # set in the process with the mount table of its own
 FULL = r"cannot be written \(Disk full\)"  # as Wine names it
@@ -20,9 +17,9 @@ FULL = r"cannot be written \(Disk full\)"  # as Wine names it
 class FullDisk(Files):
     def setUp(self):
         super().setUp()
-        os.environ.pop(INSIDE, None)  # the desktop that is there already does not see the disk
-        desktop = self.enterContext(Wine(manager=None))
-        os.environ.update({name: value for name, value in desktop.env.items() if name != INSIDE})
+        os.environ.pop(INSIDE, None)  # the display that is there already does not see the disk
+        display = self.enterContext(Wine(manager=None))
+        os.environ.update({name: value for name, value in display.env.items() if name != INSIDE})
 
     @contextlib.contextmanager
     def disk_of(self, pages):
@@ -48,5 +45,5 @@ class FullDisk(Files):
 if __name__ == "__main__":
     if MAY_MOUNT and MOUNTED not in os.environ:
         os.environ[MOUNTED] = "1"
-        os.execvp("unshare", ("unshare", "--map-root-user", "--mount", sys.executable, "-B", *sys.argv))
+        os.execvp("unshare", ("unshare", "--map-root-user", "--mount", *sys.orig_argv))
     main()

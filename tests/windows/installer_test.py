@@ -6,7 +6,8 @@ import time
 import unittest
 from pathlib import Path
 
-from wine import NotInTime, WineTest, soon
+from tests.display.display import NotInTime, soon
+from tests.display.wine import WineTest
 
 LISTED = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\PlotVue"
 PROGRAM = "plotvue.exe"
@@ -15,13 +16,13 @@ PROGRAM = "plotvue.exe"
 class Installer(WineTest):
     def setUp(self):
         super().setUp()
-        self.addCleanup(self.desktop.launch, "wine", "taskkill", "/f", "/im", PROGRAM)
-        self.drive = Path(self.desktop.env["WINEPREFIX"], "drive_c")
+        self.addCleanup(self.display.launch, "wine", "taskkill", "/f", "/im", PROGRAM)
+        self.drive = Path(self.display.env["WINEPREFIX"], "drive_c")
         (self.user,) = (folder for folder in (self.drive / "users").iterdir() if folder.name != "Public")
         self.local = self.user / "AppData/Local"
         self.installed = self.local / "Programs/PlotVue"
         self.starts = self.local / "PlotVue"
-        self.desktop.windows_program("cmd", "/c", "exit")  # whatever Wine lays down with its first program
+        self.display.windows_program("cmd", "/c", "exit")  # whatever Wine lays down with its first program
         self.before = self.files()
 
     def files(self):
@@ -29,17 +30,17 @@ class Installer(WineTest):
         return sorted(path for path in self.user.rglob("*") if "~nsu" not in str(path))
 
     def listed(self):
-        names = self.desktop.windows_program("reg", "query", LISTED.rpartition("\\")[0]).decode().split()
+        names = self.display.windows_program("reg", "query", LISTED.rpartition("\\")[0]).decode().split()
         return any(name.endswith(r"\Uninstall\PlotVue") for name in names)
 
     def install(self):
-        self.desktop.windows_program(setup, "/S")
+        self.display.windows_program(setup, "/S")
         self.assertTrue((self.installed / PROGRAM).is_file())
 
     def remove(self):
         def gone():  # a copy of it goes on by itself; it refuses while PlotVue is still ending
             if (self.installed / "uninstall.exe").exists():
-                self.desktop.windows_program(self.installed / "uninstall.exe", "/S")
+                self.display.windows_program(self.installed / "uninstall.exe", "/S")
                 time.sleep(2)
             return not self.installed.exists()
         soon("the program goes", gone, 40)
@@ -49,12 +50,12 @@ class Installer(WineTest):
         before = self.working()
         self.start_entry()
         folder = soon("a start has its folder", lambda: self.working() - before).pop()
-        soon("a window comes", self.desktop.windows)
+        soon("a window comes", self.display.windows)
         return folder
 
     def start_entry(self):
         (entry,) = self.user.rglob("Start Menu/Programs/PlotVue.lnk")
-        self.desktop.windows_program("start", "/unix", entry)
+        self.display.windows_program("start", "/unix", entry)
 
     def working(self):
         return {path for path in self.starts.glob("*") if path.is_dir()}
@@ -62,8 +63,8 @@ class Installer(WineTest):
     def leave(self):
         """Esc closes the box that needs data, and leaves the start-up window."""
         def over():
-            if self.desktop.windows():
-                self.desktop.key("Escape")
+            if self.display.windows():
+                self.display.key("Escape")
             return not self.working()
         soon("every PlotVue ends, and its folder goes", over)
 
@@ -80,7 +81,7 @@ class Installer(WineTest):
         two = self.from_menu()
         self.assertNotEqual(one, two)
         with self.assertRaises(NotInTime, msg="what runs is not removed"):
-            self.desktop.windows_program(self.installed / "uninstall.exe", "/S")
+            self.display.windows_program(self.installed / "uninstall.exe", "/S")
             soon("the program goes", lambda: not (self.installed / PROGRAM).exists(), 3)
         self.leave()
         soon("nothing of the folders is left", lambda: not self.starts.exists())
@@ -93,22 +94,22 @@ class Installer(WineTest):
         self.install()
         left = self.from_menu()
         (left / "plotvue.txt").write_text("left")
-        self.desktop.windows_program("taskkill", "/f", "/im", PROGRAM)
-        soon("it is gone", lambda: not self.desktop.windows())
+        self.display.windows_program("taskkill", "/f", "/im", PROGRAM)
+        soon("it is gone", lambda: not self.display.windows())
         self.assertTrue(left.is_dir())
         (self.starts / "other").mkdir()
         self.start_entry()
         soon("the folders are swept",
              lambda: not (self.starts / "other").exists() and not (left / "plotvue.txt").exists())
-        soon("a window comes", self.desktop.windows)
+        soon("a window comes", self.display.windows)
         self.assertEqual(len(self.working()), 1)
         self.leave()
         self.remove()
 
     def test_started_by_hand_it_works_where_it_is_started(self):
-        shutil.copy(program, self.desktop.home / PROGRAM)
-        process = self.desktop.start(PROGRAM)
-        soon("a window comes", self.desktop.windows)
+        shutil.copy(program, self.display.home / PROGRAM)
+        process = self.display.start(PROGRAM)
+        soon("a window comes", self.display.windows)
         time.sleep(1)
         self.assertFalse(self.starts.exists())
         process.kill()

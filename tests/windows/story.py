@@ -1,4 +1,3 @@
-#!/usr/bin/python3 -B
 """story.py PLATFORM STORY PROGRAM HERE: under Wine, PROGRAM prints on PLATFORM what HERE, the same program built for
 this system, prints in memory, and writes the same files. STORY is a script or a capture, as for replay/alike.py."""
 
@@ -7,12 +6,10 @@ import sys
 import tempfile
 from pathlib import Path
 
-TESTS = Path(__file__).resolve().parents[1]
-sys.path[:0] = [str(TESTS), str(TESTS / "replay")]
-from alike import check_alike, played  # noqa: E402
-from tour import tours  # noqa: E402
-from verdict import remark  # noqa: E402
-from wine import Wine  # noqa: E402
+from tests.display.wine import Wine
+from tests.replay.alike import check_alike, played
+from tests.replay.tour import tours
+from tests.verdict import remark
 
 PATIENCE = 120
 
@@ -33,10 +30,10 @@ def main():
             one = played([here], script, top / f"here{number}", patience=PATIENCE)
             # On a busy machine Wine loses its clipboard now and then; a difference of PlotVue's comes every time.
             for attempt in ("first", "second"):
-                with Wine() as desktop:
+                with Wine() as display:
                     printed, files = played(["wine", program, f"--platform={platform}"],
                                             script, top / f"wine{number}{attempt}",
-                                            {**os.environ, **desktop.env}, PATIENCE)
+                                            {**os.environ, **display.env}, PATIENCE)
                 # A text stream of Windows ends its lines with CR LF.
                 other = printed.replace(b"\r\n", b"\n"), files
                 if one == other:

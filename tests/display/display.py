@@ -1,4 +1,4 @@
-"""A virtual desktop with a window manager and a clipboard, and the program on it; the user's desktop is left alone."""
+"""A virtual display with a window manager and a clipboard, and the program on it; the user's display is left alone."""
 
 import os
 import re
@@ -66,7 +66,7 @@ def near(one, other):
     return max(abs(one[0] - other[0]), abs(one[1] - other[1])) < 5
 
 
-class Desktop:
+class Display:
     """An X display of its own, with a temporary home directory. Use with `with`: it ends what it started."""
 
     def __init__(self, program, manager="openbox", screen="1280x900x24"):
@@ -236,29 +236,29 @@ def ended(process, seconds=20):
         raise NotInTime("the program did not end") from None
 
 
-class DesktopTest(unittest.TestCase):
-    """Tests of the program on a desktop: a new one for each test, or one for all tests of a class that is `shared`."""
+class DisplayTest(unittest.TestCase):
+    """Tests of the program on a display: a new one for each test, or one for all tests of a class that is `shared`."""
 
-    desktop_class = Desktop
+    display_class = Display
     shared = False
     program = None
 
     @classmethod
     def setUpClass(cls):
         if cls.shared:
-            cls.desktop = cls.enterClassContext(cls.desktop_class(cls.program))
+            cls.display = cls.enterClassContext(cls.display_class(cls.program))
 
     def setUp(self):
         if not self.shared:
-            self.desktop = self.enterContext(self.desktop_class(self.program))
+            self.display = self.enterContext(self.display_class(self.program))
 
     def start(self, title=None):
         """Starts the program, which ends with the test, and waits for its window of that title, if one is given."""
-        self.process = self.desktop.start()
+        self.process = self.display.start()
         self.addCleanup(self.process.wait)
         self.addCleanup(self.process.kill)
         if title:
-            self.desktop.window(title)
+            self.display.window(title)
         return self.process
 
     def still_runs(self):
@@ -273,28 +273,28 @@ class DesktopTest(unittest.TestCase):
 
     def charts(self, capture):
         """Copies the capture, a monthly screen, while a window is up; Refresh charts it."""
-        self.desktop.copy(capture)
-        self.desktop.key("F5")
-        self.desktop.window(CHART)
+        self.display.copy(capture)
+        self.display.key("F5")
+        self.display.window(CHART)
 
     def needs_data(self):
         """The program says that there is no data, and shows the start-up window then."""
-        self.desktop.window(NEED_DATA)
-        self.desktop.key("Return")
-        self.desktop.gone(NEED_DATA)
-        self.desktop.window(START)
+        self.display.window(NEED_DATA)
+        self.display.key("Return")
+        self.display.gone(NEED_DATA)
+        self.display.window(START)
 
     def leave(self):
         """Escape leads from a chart or list to the start-up window, and ends the program there."""
-        self.desktop.key("Escape")
-        self.desktop.window(START)
-        self.desktop.key("Escape")
+        self.display.key("Escape")
+        self.display.window(START)
+        self.display.key("Escape")
         self.ends()
 
 
 def main():
     """Runs the tests of the file that is run; its last argument is the program."""
-    DesktopTest.program = sys.argv.pop()
+    DisplayTest.program = sys.argv.pop()
     unittest.main(verbosity=2)
 
 

@@ -1,6 +1,6 @@
-"""Wine on a virtual desktop of its own, and Windows programs on it; nothing of the user's is touched.
+"""Wine on a virtual display of its own, and Windows programs on it; nothing of the user's is touched.
 
-    tests/windows/wine.py COMMAND...    runs the command there; `wine` in it is this Wine
+    python3 -m tests.display.wine COMMAND...    runs the command there; `wine` in it is this Wine
 """
 
 import os
@@ -9,9 +9,7 @@ import sys
 import tempfile
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
-from desktop import (  # noqa: E402, F401: the tests here use them
-    CHART, FIGURES, LIST, NEED_DATA, PRODUCT, SCREEN, START, Desktop, DesktopTest, NotInTime, ended, main, sample, soon)
+from tests.display.display import Display, DisplayTest
 
 # Without these, Wine shows bitmap fonts and a serif. A Windows machine has the fonts that its dialogs use.
 SETTINGS = r"""Windows Registry Editor Version 5.00
@@ -27,10 +25,10 @@ SETTINGS = r"""Windows Registry Editor Version 5.00
 "Managed"="N"
 """
 DEFAULT_PRINTER = r"HKCU\Software\Microsoft\Windows NT\CurrentVersion\Windows"
-INSIDE = "PLOTVUE_WINE"  # set for programs that run on such a desktop; they use it
+INSIDE = "PLOTVUE_WINE"  # set for programs that run on such a display; they use it
 
 
-class Wine(Desktop):
+class Wine(Display):
     def __init__(self, program=None, **options):
         super().__init__(program, **options)
 
@@ -79,10 +77,10 @@ class Wine(Desktop):
         return self.launch("wine", str(program or self.program), cwd=directory or self.home, **options)
 
 
-class WineTest(DesktopTest):
-    desktop_class = Wine
+class WineTest(DisplayTest):
+    display_class = Wine
 
 
 if __name__ == "__main__":
-    with Wine() as desktop:
-        sys.exit(subprocess.run(sys.argv[1:], env={**os.environ, **desktop.env}, check=False).returncode)
+    with Wine() as display:
+        sys.exit(subprocess.run(sys.argv[1:], env={**os.environ, **display.env}, check=False).returncode)

@@ -5,7 +5,7 @@ import subprocess
 import tempfile
 from pathlib import Path
 
-from desktop import CHART, PRODUCT, DesktopTest, soon
+from tests.display.display import CHART, PRODUCT, DisplayTest, soon
 
 BACKEND = """#!/bin/sh
 # backend JOB USER TITLE COPIES OPTIONS [FILE]
@@ -59,9 +59,9 @@ Shared No
 
 
 class PrintServer:
-    """A print server that the programs on the desktop use; it ends with the desktop."""
+    """A print server that the programs on the display use; it ends with the display."""
 
-    def __init__(self, desktop, queues):
+    def __init__(self, display, queues):
         # Not below the home directory: the server's helpers run as another user when the test runs as root.
         self.directory = tempfile.TemporaryDirectory(prefix="plotvue-cups-", dir="/tmp")
         top = Path(self.directory.name)
@@ -80,13 +80,13 @@ class PrintServer:
         (top / "etc/cups-files.conf").write_text(CUPS_FILES.format(top=top, user=user))
         (top / "etc/printers.conf").write_text("".join(QUEUE.format(name=name) for name in queues))
 
-        self.desktop = desktop
+        self.display = display
         self.log = top / "log/error"
-        desktop.env.update(CUPS_SERVER=f"{top}/socket", CUPS_SERVERROOT=f"{top}/etc")
-        self.process = desktop.launch("/usr/sbin/cupsd", "-f", "-c", f"{top}/etc/cupsd.conf",
+        display.env.update(CUPS_SERVER=f"{top}/socket", CUPS_SERVERROOT=f"{top}/etc")
+        self.process = display.launch("/usr/sbin/cupsd", "-f", "-c", f"{top}/etc/cupsd.conf",
                                       "-s", f"{top}/etc/cups-files.conf")
         soon("the print server answers",
-             lambda: "scheduler is running" in desktop.output("lpstat", "-r"))
+             lambda: "scheduler is running" in display.output("lpstat", "-r"))
 
     def close(self):
         self.process.terminate()
@@ -95,7 +95,7 @@ class PrintServer:
 
     def completed(self, queue):
         """The names of the queue's completed jobs."""
-        listing = self.desktop.output("lpstat", "-W", "completed", "-o", queue)
+        listing = self.display.output("lpstat", "-W", "completed", "-o", queue)
         return [line.split()[0] for line in listing.splitlines()]
 
     def copies(self, job):
@@ -121,29 +121,29 @@ class PrintServer:
         return pages
 
 
-class PrintTest(DesktopTest):
+class PrintTest(DisplayTest):
     """Tests with a chart on the screen and two printers, of which the first is the default."""
 
     def setUp(self):
         super().setUp()
-        self.server = PrintServer(self.desktop, ["first", "second"])
+        self.server = PrintServer(self.display, ["first", "second"])
         self.addCleanup(self.server.close)
-        self.desktop.copy(PRODUCT)
+        self.display.copy(PRODUCT)
         self.start(CHART)
 
     def open_dialog(self):
-        self.desktop.key("ctrl+p")
-        return self.desktop.window("Print")
+        self.display.key("ctrl+p")
+        return self.display.window("Print")
 
     def cancel(self):
-        self.desktop.key("Escape")
-        self.desktop.gone("Print")
+        self.display.key("Escape")
+        self.display.gone("Print")
 
     def print_copies(self, *digits):
         """Prints so many copies on the second printer, by the keys of the dialog that is open."""
-        dialog = self.desktop.window("Print")
-        height = self.desktop.height(dialog)
-        self.desktop.key("alt+o")  # more options
-        soon("the dialog shows its options", lambda: self.desktop.height(dialog) > height)
-        self.desktop.key("alt+n", "Down")  # the next printer
-        self.desktop.key(*["Tab"] * 6, *digits, "alt+p")  # the number of copies has no key of its own
+        dialog = self.display.window("Print")
+        height = self.display.height(dialog)
+        self.display.key("alt+o")  # more options
+        soon("the dialog shows its options", lambda: self.display.height(dialog) > height)
+        self.display.key("alt+n", "Down")  # the next printer
+        self.display.key(*["Tab"] * 6, *digits, "alt+p")  # the number of copies has no key of its own

@@ -4,7 +4,7 @@ import os
 from contextlib import contextmanager
 
 import gi
-from desktop import Desktop, DesktopTest, soon
+from tests.display.display import Display, DisplayTest, soon
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
@@ -12,8 +12,8 @@ from gi.repository import Atspi, GLib  # noqa: E402
 GONE = ("No such object", "no longer exists", "was not provided by any", "disconnected from message bus")
 
 
-class SpokenDesktop(Desktop):
-    """A desktop with an accessibility bus. A test process can have only one: its client library connects only once."""
+class SpokenDisplay(Display):
+    """A display with an accessibility bus. A test process can have only one: its client library connects only once."""
 
     def __enter__(self):
         super().__enter__()
@@ -47,13 +47,13 @@ class SpokenDesktop(Desktop):
         return application
 
 
-class SpokenTest(DesktopTest):
-    desktop_class = SpokenDesktop
+class SpokenTest(DisplayTest):
+    display_class = SpokenDisplay
     shared = True
 
     def application(self):
         """The program's accessible object."""
-        return self.desktop.application(self.process)
+        return self.display.application(self.process)
 
 
 @contextmanager

@@ -3,20 +3,18 @@
 import os
 import signal
 import subprocess
-import sys
 import time
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "e2e"))
-from desktop import (  # noqa: E402
-    CHART, LIST, NEED_DATA, PRODUCT, SCREEN, START, Desktop, DesktopTest, ended, main, sample, soon)
+from tests.display.display import (
+    CHART, LIST, NEED_DATA, PRODUCT, SCREEN, Display, DisplayTest, ended, main, sample, soon)
 
 GAINS = sample("monthtomonth")
 TEXTS = "text/plain;charset=utf-8", "UTF8_STRING", "text/plain", "STRING", "TEXT"
 LONG = PRODUCT + b"no screen at all\r\n" * 300_000  # is sent in many pieces
 
 
-class OnTheDesktop(DesktopTest):
+class OnTheDisplay(DisplayTest):
     def charts_the_next_capture(self):
         self.charts(PRODUCT)
         self.still_runs()
@@ -24,17 +22,17 @@ class OnTheDesktop(DesktopTest):
 
     def still_held(self, capture, owner=None):
         """The clipboard still has its owner and holds what was copied."""
-        self.assertIsNone((owner or self.desktop.owner).poll())
-        held = subprocess.run(["xclip", "-selection", "clipboard", "-out"], env=self.desktop.env,
+        self.assertIsNone((owner or self.display.owner).poll())
+        held = subprocess.run(["xclip", "-selection", "clipboard", "-out"], env=self.display.env,
                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, timeout=20, check=True).stdout
         self.assertTrue(held == capture)  # too long to be shown
 
     def halting_owner(self, capture, pieces, *formats):
         """Another program holds the capture, in these formats, and halts after so many pieces of its answer."""
-        path = self.desktop.home / "long"
+        path = self.display.home / "long"
         path.write_bytes(capture)
-        owner = self.desktop.launch(os.environ["OWNER"], str(path), str(pieces), *formats)
-        soon("it holds the clipboard", lambda: (formats or ["UTF8_STRING"])[0] in self.desktop.output(
+        owner = self.display.launch(os.environ["OWNER"], str(path), str(pieces), *formats)
+        soon("it holds the clipboard", lambda: (formats or ["UTF8_STRING"])[0] in self.display.output(
             "xclip", "-selection", "clipboard", "-t", "TARGETS", "-out"))
         return owner
 
@@ -53,8 +51,8 @@ class OnTheDesktop(DesktopTest):
         owner = self.start_with_an_owner_that_halts(pieces=10)
         owner.send_signal(signal.SIGCONT)
         self.still_held(LONG, owner)
-        self.desktop.key("F5")
-        self.desktop.window(CHART)
+        self.display.key("F5")
+        self.display.window(CHART)
         self.still_held(LONG, owner)
         self.still_runs()
 
@@ -63,8 +61,8 @@ class OnTheDesktop(DesktopTest):
         self.charts_the_next_capture()
         owner.send_signal(signal.SIGCONT)
         self.assertEqual(ended(owner), 0)  # the clipboard is no longer its own
-        self.desktop.key("F5")
-        self.desktop.window(CHART)
+        self.display.key("F5")
+        self.display.window(CHART)
         self.still_held(PRODUCT)
 
     def test_an_owner_of_several_formats_that_halts_is_asked_for_one(self):
@@ -77,41 +75,41 @@ class OnTheDesktop(DesktopTest):
                 self.process.wait()
 
     def test_an_owner_that_is_gone_when_it_should_answer(self):
-        self.desktop.copy(PRODUCT)
-        os.kill(self.desktop.owner.pid, signal.SIGSTOP)
+        self.display.copy(PRODUCT)
+        os.kill(self.display.owner.pid, signal.SIGSTOP)
         self.start()
         time.sleep(1)  # by now it has asked and is waiting
-        self.desktop.owner.kill()
+        self.display.owner.kill()
         self.needs_data()
         self.charts_the_next_capture()
 
     def test_an_owner_that_is_gone_during_a_long_answer(self):
-        self.desktop.copy(b" " * 50_000_000)  # is sent in pieces; whole or not, it is no screen
+        self.display.copy(b" " * 50_000_000)  # is sent in pieces; whole or not, it is no screen
         self.start()
         time.sleep(0.5)
-        self.desktop.owner.kill()
+        self.display.owner.kill()
         self.needs_data()
         self.charts_the_next_capture()
 
     def test_the_display_is_closed(self):
         for capture, title in ((None, NEED_DATA), (PRODUCT, CHART)):
-            with self.subTest(title), Desktop(self.program) as desktop:
-                desktop.copy(capture)
-                process = desktop.start()
-                desktop.window(title)
-                desktop.started[0].kill()  # the display
+            with self.subTest(title), Display(self.program) as display:
+                display.copy(capture)
+                process = display.start()
+                display.window(title)
+                display.started[0].kill()  # the display
                 self.assertNotEqual(ended(process), 0)
 
     def test_no_display_at_all(self):
-        self.desktop.env["DISPLAY"] = ":4711"
+        self.display.env["DISPLAY"] = ":4711"
         self.assertNotEqual(ended(self.start()), 0)
 
     def test_a_folder_in_the_place_of_the_scratch_file(self):
-        (self.desktop.home / "pvuscrn.txt").mkdir()
-        self.desktop.copy(GAINS)
+        (self.display.home / "pvuscrn.txt").mkdir()
+        self.display.copy(GAINS)
         self.start(LIST)
         self.still_held(GAINS)
-        self.desktop.key("Return")
+        self.display.key("Return")
         self.ends(1)
         self.still_held(GAINS)
         self.assertRegex(self.errors(),
