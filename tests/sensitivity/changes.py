@@ -1,10 +1,10 @@
 """The changes that break PlotVue on purpose, one at a time."""
 
 import re
-from pathlib import Path
 from typing import NamedTuple
 
-ROOT = Path(__file__).resolve().parents[2]
+from building import ROOT
+
 SCREENS = ["history", "group", "ranked", "app"]
 LAYOUT = ["src/capture/lines.cpp", "src/capture/lines.h", "src/capture/month.cpp"]
 FILES = ["src/ranked/exchange.cpp", "src/ranked/smallfile.cpp", "src/ranked/smallfile_unix.cpp"]  # lay out no screen
