@@ -14,7 +14,7 @@ def built():
     for command in (["cmake", "-S", ROOT, "-B", build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release"],
                     ["cmake", "--build", build, "--target", "plotvue-sessions"]):
         subprocess.run(command, check=True, stdout=subprocess.DEVNULL)
-    return build / "tests/sessions/plotvue-sessions"
+    return build / "tests/plotvue-sessions"
 
 
 def empty_directory(prefix):
