@@ -4,9 +4,9 @@
 
 #include "app/application.h"
 #include "captures.h"
-#include "platform/desktop/chart/qtext.h"
-#include "platform/desktop/desktopplatform.h"
-#include "platform/desktop/desktopwindow.h"
+#include "desktop/chart/qtext.h"
+#include "desktop/desktopplatform.h"
+#include "desktop/desktopwindow.h"
 #include "rounds.h"
 
 #include <QApplication>

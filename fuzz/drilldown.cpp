@@ -1,9 +1,9 @@
 // The first line of the input is the chosen-row file, the rest is the list file. Every drill-down window
 // draws and steps.
+#include "files/exchange.h"
 #include "fuzz.h"
-#include "platform/recording/recording.h"
-#include "ranked/analyses.h"
-#include "ranked/exchange.h"
+#include "ranked/rankedscreens.h"
+#include "recording/recordingplatform.h"
 
 #include <filesystem>
 #include <fstream>

@@ -1,5 +1,5 @@
 // Reads any file, and checks that a text that was written is read back unchanged.
-#include "ranked/exchange.h"
+#include "files/exchange.h"
 
 #include "fuzz.h"
 

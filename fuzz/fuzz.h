@@ -22,14 +22,14 @@ inline Text textOf(const std::uint8_t* data, std::size_t size)
     return fromUtf8(bytesOf(data, size));
 }
 
-// Allows a reader to throw Failure or EndlessRead, and nothing else.
+// Allows a reader to throw Failure or TooFewLines, and nothing else.
 template <typename Read>
 void mayFail(Read read)
 {
     try {
         read();
     } catch (const Failure&) {
-    } catch (const EndlessRead&) {
+    } catch (const TooFewLines&) {
     }
 }
 

@@ -1,5 +1,5 @@
+#include "desktop/clipboard.h"
 #include "fuzz.h"
-#include "platform/desktop/clipboard.h"
 
 using namespace plotvue;
 

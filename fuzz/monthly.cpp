@@ -17,7 +17,7 @@ void read(const MonthlyScreen& screen, TextSpan capture)
     for (const Period& period : screen.periods)
         for (const DataType& type : screen.types)
             fuzz::mayFail([&] {
-                const MonthlySeries series =
+                const MonthlyFigures series =
                     readMonths(screen, capture, acceptance.identifier, period.months, type);
                 fuzz::always(series.values.size() == static_cast<std::size_t>(period.months) + 1);
                 fuzz::always(series.labels.size() == series.values.size());

@@ -1,6 +1,6 @@
 #include "fuzz.h"
-#include "ranked/analyses.h"
-#include "ranked/rankedscreen.h"
+#include "ranked/rankedfigures.h"
+#include "ranked/rankedscreens.h"
 
 #include <algorithm>
 
@@ -8,9 +8,9 @@ using namespace plotvue;
 
 namespace {
 
-void read(const RankedAnalysis& analysis, TextSpan capture)
+void read(const RankedScreen& analysis, TextSpan capture)
 {
-    const RankedScreen screen = readRanked(analysis, capture);
+    const RankedFigures screen = readRanked(analysis, capture);
     if (!screen.accepted)
         return;
     for (const auto& [control, text] : analysis.summary)
@@ -29,7 +29,7 @@ void read(const RankedAnalysis& analysis, TextSpan capture)
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const Text capture = fuzz::textOf(data, size);
-    for (const RankedAnalysis* analysis : {&frmM2Mpft, &frmProfRank, &frmPastdue, &frmVendInv, &frmRatio})
+    for (const RankedScreen* analysis : {&frmM2Mpft, &frmProfRank, &frmPastdue, &frmVendInv, &frmRatio})
         fuzz::mayFail([&] { read(*analysis, capture); });
     return 0;
 }

@@ -1,7 +1,7 @@
 #include "app/application.h"
-#include "platform/desktop/desktopplatform.h"
-#include "platform/desktop/process.h"
-#include "platform/desktop/toolkit.h"
+#include "desktop/desktopplatform.h"
+#include "desktop/process.h"
+#include "desktop/toolkit.h"
 
 int main(int argc, char* argv[])
 {

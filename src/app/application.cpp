@@ -1,6 +1,6 @@
 #include "app/application.h"
 
-#include "history/window.h"
+#include "history/historywindow.h"
 #include "ranked/listwindow.h"
 
 namespace plotvue {
@@ -10,16 +10,16 @@ namespace {
 // Makes the windows of a screen and returns the one that the screen opens.
 struct WindowMaker {
     Platform& platform;
-    Form& home;
-    std::vector<std::unique_ptr<Form>>& windows;
+    Window& home;
+    std::vector<std::unique_ptr<Window>>& windows;
     std::vector<DrillDownWindow*>& drillDowns;
 
-    Form& operator()(const MonthlyScreen* screen) const
+    Window& operator()(const MonthlyScreen* screen) const
     {
         return *windows.emplace_back(std::make_unique<HistoryWindow>(platform, home, *screen));
     }
-    Form& operator()(MakeWindow make) const { return *windows.emplace_back(make(platform, home)); }
-    Form& operator()(const Ranked& ranked) const
+    Window& operator()(MakeWindow make) const { return *windows.emplace_back(make(platform, home)); }
+    Window& operator()(const Ranked& ranked) const
     {
         auto drillDown = std::make_unique<DrillDownWindow>(platform, *ranked.drillDown);
         drillDowns.push_back(drillDown.get());
@@ -43,17 +43,17 @@ void Application::start()
     platform_.run([this] { startup_.show(); });
 }
 
-std::vector<Form*> Application::windows()
+std::vector<Window*> Application::windows()
 {
-    std::vector<Form*> all{&startup_};
+    std::vector<Window*> all{&startup_};
     for (const auto& window : others_)
         all.push_back(window.get());
     return all;
 }
 
-Form* Application::window(Name name)
+Window* Application::window(Name name)
 {
-    for (Form* window : windows())
+    for (Window* window : windows())
         if (window->name() == name)
             return window;
     return nullptr;

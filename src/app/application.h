@@ -15,18 +15,18 @@ public:
     void start();
 
     // Every window, loaded or not: the start-up window and those of each screen.
-    std::vector<Form*> windows();
+    std::vector<Window*> windows();
 
     // The window of that name; null when there is none.
-    Form* window(Name name);
+    Window* window(Name name);
 
     // The window that a screen opens.
-    Form& windowOf(const Screen& screen) { return *startup_.windows.at(&screen); }
+    Window& windowOf(const Screen& screen) { return *startup_.windows.at(&screen); }
 
 private:
     Platform& platform_;
     Startup startup_;
-    std::vector<std::unique_ptr<Form>> others_;
+    std::vector<std::unique_ptr<Window>> others_;
     std::vector<DrillDownWindow*> drillDowns_; // of others_
 };
 

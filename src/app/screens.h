@@ -4,16 +4,13 @@
 
 #include "group/frmqxm21cxs.h"
 #include "group/frmqxm21sxc.h"
-#include "history/screen.h"
-#include "ranked/analyses.h"
+#include "history/monthlyscreens.h"
+#include "ranked/rankedscreens.h"
 
 #include <array>
 #include <memory>
 
 namespace plotvue {
-
-extern const MonthlyScreen frmProduct, frmSalesman, frmCustomerE, frmCustP, frmCustP2, frmPware, frmSJHIST,
-    frmSite, frmDriver, frmTruck, frmCSTORE, frmGLexpense, frmGLarch, frmLateCharge, frmActive;
 
 // A row of the list in the start-up window. Several screens may share a row.
 struct SupportedRow {
@@ -21,10 +18,10 @@ struct SupportedRow {
     TextSpan caption;
 };
 
-using MakeWindow = std::unique_ptr<Form> (*)(Platform&, Form& home);
+using MakeWindow = std::unique_ptr<Window> (*)(Platform&, Window& home);
 
 struct Ranked {
-    const RankedAnalysis* list;
+    const RankedScreen* list;
     const DrillDownDesign* drillDown;
 };
 
@@ -37,10 +34,10 @@ struct Screen {
     constexpr bool ranked() const { return std::holds_alternative<Ranked>(window); }
 };
 
-template <typename Window>
-std::unique_ptr<Form> makeWindow(Platform& platform, Form& home)
+template <typename Kind>
+std::unique_ptr<Window> makeWindow(Platform& platform, Window& home)
 {
-    return std::make_unique<Window>(platform, home);
+    return std::make_unique<Kind>(platform, home);
 }
 
 inline constexpr SupportedRow customerSales{4, u"Customer Sales History"};

@@ -1,7 +1,7 @@
 #include "app/startup.h"
 
 #include "app/recognition.h"
-#include "ranked/exchange.h"
+#include "files/exchange.h"
 
 namespace plotvue {
 
@@ -66,7 +66,7 @@ void Startup::Form_Load()
 {
     show();
     const Screen* screen = IdentifyScreen();
-    Form& window = screen ? *windows.at(screen) : *this;
+    Window& window = screen ? *windows.at(screen) : *this;
     hide();
     window.show();
 }

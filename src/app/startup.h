@@ -2,18 +2,18 @@
 #pragma once
 
 #include "app/screens.h"
-#include "platform/form.h"
+#include "window/window.h"
 
 #include <map>
 
 namespace plotvue {
 
-class Startup : public Form {
+class Startup : public Window {
 public:
-    explicit Startup(Platform& platform) : Form(platform) {}
+    explicit Startup(Platform& platform) : Window(platform) {}
 
     // The window that each screen opens. All of them are needed before this window is first shown.
-    std::map<const Screen*, Form*> windows;
+    std::map<const Screen*, Window*> windows;
 
     Name name() const override { return "startup"; }
 

@@ -17,7 +17,7 @@ struct Failure {
 
 // Calls `read`, which reads a part of the capture. A failure that names no part yet gets this one.
 template <typename Read>
-decltype(auto) readLine(TextSpan part, Read read)
+decltype(auto) locateFailure(TextSpan part, Read read)
 {
     try {
         return read();
@@ -34,7 +34,7 @@ Text lineName(TextSpan capture, TextSpan part);
 // Calls `read`, which reads the capture. The sentence of a failure that names a part gets lineName() in
 // front. Lines count from 1, empty ones included.
 template <typename Read>
-decltype(auto) readCapture(TextSpan capture, Read read)
+decltype(auto) nameFailedLine(TextSpan capture, Read read)
 {
     try {
         return read();
@@ -44,7 +44,7 @@ decltype(auto) readCapture(TextSpan capture, Read read)
 }
 
 // Thrown where the reader of a monthly screen would never return: the text ended before it had its lines.
-struct EndlessRead {
+struct TooFewLines {
     int lines = 0; // of the text, without the empty ones
 };
 

@@ -61,7 +61,7 @@ void ScreenLines::requireAll() const
         ended = line.ends_with(carriageReturn);
         lines += line.size() > (ended ? 1 : 0) ? 1 : 0;
     }
-    throw EndlessRead{lines};
+    throw TooFewLines{lines};
 }
 
 } // namespace plotvue

@@ -29,7 +29,7 @@ public:
     // How many lines were cut before the text ran out: 19 for a whole capture.
     int count() const { return count_; }
 
-    // Throws EndlessRead when nothing is left of the text after line 19 or an earlier one.
+    // Throws TooFewLines when nothing is left of the text after line 19 or an earlier one.
     void requireAll() const;
 
 private:

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 namespace {
 
@@ -61,4 +61,4 @@ Text elided(Text text, double room, const std::function<double(TextSpan)>& width
     return cut(fits);
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

@@ -5,7 +5,7 @@
 
 #include <functional>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 // `text` without control characters and without leading and trailing blanks, cut to 500 characters, which is
 // more than fits in a line on any screen or page.
@@ -16,4 +16,4 @@ bool isBlank(TextSpan text); // whether it has only blanks and control character
 // even the ellipsis fits.
 Text elided(Text text, double room, const std::function<double(TextSpan)>& widthOf);
 
-} // namespace plotvue::chart
+} // namespace plotvue

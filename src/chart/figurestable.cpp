@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 namespace {
 
@@ -41,4 +41,4 @@ Text figuresTable(const PlotData& data, char16_t decimalSign)
     return table;
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

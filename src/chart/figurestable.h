@@ -3,7 +3,7 @@
 
 #include "chart/plotdata.h"
 
-namespace plotvue::chart {
+namespace plotvue {
 
 // Lines that end in CR LF, of cells separated by tabs: a heading with the names of the series, then a line
 // per point with its full label and a figure of each series, as plainNumber() writes it but with
@@ -11,4 +11,4 @@ namespace plotvue::chart {
 // components are one line. Empty if no series is shown.
 Text figuresTable(const PlotData& data, char16_t decimalSign);
 
-} // namespace plotvue::chart
+} // namespace plotvue

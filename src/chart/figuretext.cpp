@@ -6,7 +6,7 @@
 #include <cmath>
 #include <string_view>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 namespace {
 
@@ -50,4 +50,4 @@ int decimalsNeeded(double value, int max)
     return decimals;
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

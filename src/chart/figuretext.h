@@ -3,7 +3,7 @@
 
 #include "capture/text.h"
 
-namespace plotvue::chart {
+namespace plotvue {
 
 inline constexpr int maxDecimals = 9;
 
@@ -15,4 +15,4 @@ Text figureText(double value, int decimals);
 // The minimum number of decimals that write `value` without rounding it, but at most `max`.
 int decimalsNeeded(double value, int max);
 
-} // namespace plotvue::chart
+} // namespace plotvue

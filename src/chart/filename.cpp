@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 namespace {
 
@@ -71,4 +71,4 @@ Text fileName(TextSpan text)
     return isDevice(name) ? Text(programName) + u' ' + name : name;
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

@@ -3,11 +3,11 @@
 
 #include "capture/text.h"
 
-namespace plotvue::chart {
+namespace plotvue {
 
 // `text` as a file name without extension that every file system of Unix and Windows takes: without the
 // characters that they reserve, not a device of Windows, at most 80 characters long. "PlotVue" if nothing is
 // left.
 Text fileName(TextSpan text);
 
-} // namespace plotvue::chart
+} // namespace plotvue

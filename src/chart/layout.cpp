@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 Text LayoutInput::fitted(Text text, double room, TextRole role) const
 {
@@ -60,4 +60,4 @@ Layout layoutChart(const PlotData& data, Size paper, const Metrics& metrics, dou
     return layout;
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

@@ -4,7 +4,7 @@
 
 #include "chart/scale.h"
 
-namespace plotvue::chart {
+namespace plotvue {
 
 // Text sizes. A title that does not fit is set in smaller sizes down to BodyTitle, labels and values down to
 // Tiny.
@@ -111,4 +111,4 @@ struct Layout {
 // `deviceScale` is the number of device pixels per unit; 0 for printing, where nothing is snapped.
 Layout layoutChart(const PlotData& data, Size paper, const Metrics& metrics, double deviceScale);
 
-} // namespace plotvue::chart
+} // namespace plotvue

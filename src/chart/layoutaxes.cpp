@@ -8,7 +8,7 @@
 #include <numbers>
 #include <optional>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 namespace {
 
@@ -51,26 +51,26 @@ Labels readLabels(const LayoutInput& input)
 }
 
 struct LabelStyle {
-    enum class Form {
+    enum class Window {
         Whole,   // "OCT98"
         Broken,  // "OCT" over "98"
         Initials // in a chart of whole years: "J" over "98", "F", "M"
     };
-    Form form = Form::Whole;
+    Window form = Window::Whole;
     TextRole role = TextRole::Small;
     double gap = .5; // minimum gap between two labels, in em
     int step = 1;    // slots from one label to the next
 
-    int lines() const { return form == Form::Whole ? 1 : 2; }
+    int lines() const { return form == Window::Whole ? 1 : 2; }
 };
 
 // The lines of a label; the second is empty if there is only one.
-std::array<Text, 2> linesOf(const Text& label, LabelStyle::Form form)
+std::array<Text, 2> linesOf(const Text& label, LabelStyle::Window form)
 {
-    if (form == LabelStyle::Form::Whole)
+    if (form == LabelStyle::Window::Whole)
         return {label, {}};
     const std::size_t digits = std::min(label.find_first_of(u"0123456789"), label.size());
-    return {label.substr(0, form == LabelStyle::Form::Initials ? 1 : digits), label.substr(digits)};
+    return {label.substr(0, form == LabelStyle::Window::Initials ? 1 : digits), label.substr(digits)};
 }
 
 double widest(const LayoutInput& input, const Labels& labels, const LabelStyle& style)
@@ -79,7 +79,7 @@ double widest(const LayoutInput& input, const Labels& labels, const LabelStyle& 
     for (const Text& label : labels.texts) {
         const auto [first, second] = linesOf(label, style.form);
         width = std::max(width, input.metrics.width(first, style.role));
-        if (style.form == LabelStyle::Form::Broken) // a year below initials may be as wide as twelve slots
+        if (style.form == LabelStyle::Window::Broken) // a year below initials may be as wide as twelve slots
             width = std::max(width, input.metrics.width(second, style.role));
     }
     return width;
@@ -88,11 +88,11 @@ double widest(const LayoutInput& input, const Labels& labels, const LabelStyle& 
 // The first style in which every label fits. If there is none, the labels are thinned out.
 LabelStyle styleOfMonths(const LayoutInput& input, const Labels& labels, double slotWidth, double em)
 {
-    using Form = LabelStyle::Form;
-    const Form tighter = labels.january ? Form::Initials : Form::Broken;
+    using Window = LabelStyle::Window;
+    const Window tighter = labels.january ? Window::Initials : Window::Broken;
     const double gap = labels.january ? .1 : .25;
     for (const LabelStyle& style :
-         {LabelStyle{}, LabelStyle{Form::Whole, TextRole::Tiny, .25},
+         {LabelStyle{}, LabelStyle{Window::Whole, TextRole::Tiny, .25},
           LabelStyle{tighter, TextRole::Small, gap}, LabelStyle{tighter, TextRole::Tiny, gap}})
         if (widest(input, labels, style) + em * style.gap <= slotWidth)
             return style;
@@ -201,4 +201,4 @@ void placeAxes(const LayoutInput& input, Layout& layout, const Rect& inner, doub
     placeLabels(input, layout, labels, style, layout.plot.bottom() + em * .5 + belowBars, longest);
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

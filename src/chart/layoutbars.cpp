@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 namespace {
 
@@ -134,4 +134,4 @@ void placeBars(const LayoutInput& input, Layout& layout)
     }
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 namespace {
 
@@ -71,4 +71,4 @@ double placeLegend(const LayoutInput& input, Layout& layout, const Rect& inner, 
     return top + em * 1.5; // keeps the value of a bar that fills the plot away from the legend
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

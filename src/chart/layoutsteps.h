@@ -5,7 +5,7 @@
 
 #include <optional>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 struct LayoutInput {
     const PlotData& data;
@@ -30,4 +30,4 @@ std::optional<TextRole> sizeOfValues(const LayoutInput& input, const Layout& lay
 // Requires layout.plot and layout.scale.
 void placeBars(const LayoutInput& input, Layout& layout);
 
-} // namespace plotvue::chart
+} // namespace plotvue

@@ -7,7 +7,7 @@
 #include <array>
 #include <cmath>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 namespace {
 
@@ -24,7 +24,7 @@ constexpr std::array<Colour, 8> palette{{{0x24, 0x58, 0xB0},
 constexpr double largestValue = 1e300;
 constexpr int decimalsUnasked = 2;
 
-double counted(double value)
+double clamped(double value)
 {
     return std::isnan(value) ? 0 : std::clamp(value, -largestValue, largestValue);
 }
@@ -41,7 +41,7 @@ PlotData::PlotData(const Chart& chart) : chart_(chart)
 
 bool PlotData::nothingIn(const std::vector<double>& values) const
 {
-    return std::all_of(values.begin(), values.end(), [](double v) { return counted(v) == 0; });
+    return std::all_of(values.begin(), values.end(), [](double v) { return clamped(v) == 0; });
 }
 
 TextSpan PlotData::nameOf(int number, bool alone) const
@@ -139,7 +139,7 @@ std::optional<double> PlotData::value(std::size_t series, int slot) const
     const std::size_t i = components_ ? 0 : static_cast<std::size_t>(slot);
     if (slot < 0 || i >= values.size())
         return {};
-    return counted(values[i]);
+    return clamped(values[i]);
 }
 
 int PlotData::decimalsOfValues() const
@@ -147,7 +147,7 @@ int PlotData::decimalsOfValues() const
     int decimals = 0;
     for (const Series& s : series_)
         for (const double v : chart_.series[s.number])
-            decimals = std::max(decimals, decimalsNeeded(counted(v), decimalsUnasked));
+            decimals = std::max(decimals, decimalsNeeded(clamped(v), decimalsUnasked));
     return decimals;
 }
 
@@ -187,4 +187,4 @@ Text titlesInOneLine(const Chart& chart)
     return line;
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

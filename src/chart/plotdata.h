@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 // Refers to the chart, which must outlive it. Slots and series are counted from 0. These series are left out:
 // hidden ones; a projection that is zero everywhere; and, if another series has a name, a series without name
@@ -61,4 +61,4 @@ private:
 // The titles in the order in which they are drawn, joined by ", ".
 Text titlesInOneLine(const Chart& chart);
 
-} // namespace plotvue::chart
+} // namespace plotvue

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 namespace {
 
@@ -84,4 +84,4 @@ Scale scaleFor(Range reach, const ScaleWishes& wishes)
     return scale;
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

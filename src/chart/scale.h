@@ -3,7 +3,7 @@
 
 #include "chart/plotdata.h"
 
-namespace plotvue::chart {
+namespace plotvue {
 
 struct Range {
     double low = 0, high = 0; // low <= 0 <= high
@@ -30,4 +30,4 @@ struct ScaleWishes {
 };
 Scale scaleFor(Range reach, const ScaleWishes& wishes);
 
-} // namespace plotvue::chart
+} // namespace plotvue

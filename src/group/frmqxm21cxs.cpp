@@ -44,7 +44,7 @@ void frmQXM21CXS::drawGroups(TextSpan capture)
     for (int i = 0; i < maxGroups * valuesPerGroup; ++i)
         wanted.push_back(i % valuesPerGroup == type &&
                          (group == total || group == firstGroup + i / valuesPerGroup));
-    const GroupScreen screen = readCapture(capture, [&] { return readGroups(capture, wanted); });
+    const GroupFigures screen = nameFailedLine(capture, [&] { return readGroups(capture, wanted); });
 
     Text title(types.at(static_cast<std::size_t>(type)));
     title += u" - ";
@@ -70,7 +70,7 @@ void frmQXM21CXS::drawGroups(TextSpan capture)
     });
 }
 
-TextSpan frmQXM21CXS::nameGroups(const GroupScreen& screen)
+TextSpan frmQXM21CXS::nameGroups(const GroupFigures& screen)
 {
     const int group = chosenGroup();
     TextSpan chosen;

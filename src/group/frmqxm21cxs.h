@@ -2,7 +2,7 @@
 // grid of the values.
 #pragma once
 
-#include "group/window.h"
+#include "group/groupwindow.h"
 
 namespace plotvue {
 
@@ -19,7 +19,7 @@ protected:
 private:
     int chosenGroup() const { return controls().options("optSales")->chosenIn(1); }
     // Gives the group options their captions and returns the name of the chosen group.
-    TextSpan nameGroups(const GroupScreen& screen);
+    TextSpan nameGroups(const GroupFigures& screen);
     void fillGrid(const std::vector<Text>& labels, const std::vector<double>& values, TextSpan title);
 };
 

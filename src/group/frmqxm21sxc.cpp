@@ -37,7 +37,7 @@ void frmQXM21SXC::drawGroups(TextSpan capture)
     std::vector<bool> wanted;
     for (int i = 0; i < maxGroups * valuesPerGroup; ++i)
         wanted.push_back(i % valuesPerGroup == type.place);
-    const GroupScreen screen = readCapture(capture, [&] { return readGroups(capture, wanted); });
+    const GroupFigures screen = nameFailedLine(capture, [&] { return readGroups(capture, wanted); });
 
     const std::size_t slots = screen.salesmen.size() + 1;
     std::vector<std::vector<double>> series(maxGroups, std::vector<double>(slots));

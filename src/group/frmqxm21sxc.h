@@ -1,7 +1,7 @@
 // Salesman by category: the sales, profit or volume of each salesman, with a series for each group.
 #pragma once
 
-#include "group/window.h"
+#include "group/groupwindow.h"
 
 namespace plotvue {
 

@@ -55,14 +55,14 @@ Salesman readSalesman(TextSpan line, std::size_t values, const std::vector<bool>
 
 } // namespace
 
-GroupScreen readGroups(TextSpan capture, const std::vector<bool>& wanted)
+GroupFigures readGroups(TextSpan capture, const std::vector<bool>& wanted)
 {
     TextSpan rest = capture;
     nextLine(rest); // the heading
     const TextSpan groupLine = nextLine(rest);
-    GroupScreen screen;
+    GroupFigures screen;
     screen.subject = mid(nextLine(rest), 7, 9);
-    const int salesmen = readLine(groupLine, [&] {
+    const int salesmen = locateFailure(groupLine, [&] {
         screen.groups = countAfter(groupLine, u"GROUPS:", 2);
         const int count = countAfter(groupLine, u"SCOUNT:", 9);
         if (count < 0 || count > maxSalesmen)
@@ -74,7 +74,7 @@ GroupScreen readGroups(TextSpan capture, const std::vector<bool>& wanted)
     const auto values = static_cast<std::size_t>(std::clamp(screen.groups, 0, maxGroups) * valuesPerGroup);
     for (int i = 0; i < salesmen; ++i) {
         const TextSpan line = nextLine(rest);
-        screen.salesmen.push_back(readLine(line, [&] { return readSalesman(line, values, wanted); }));
+        screen.salesmen.push_back(locateFailure(line, [&] { return readSalesman(line, values, wanted); }));
     }
     return screen;
 }

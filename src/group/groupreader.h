@@ -17,7 +17,7 @@ struct Salesman {
     std::vector<double> values; // three for each group; 0 where the line is too short
 };
 
-struct GroupScreen {
+struct GroupFigures {
     TextSpan subject;            // columns 7 to 15 of line 3
     int groups = 0;              // the count on the screen; the values of 4 groups at most are read
     std::vector<TextSpan> names; // of the groups
@@ -31,6 +31,6 @@ inline constexpr int valuesPerGroup = 3;
 // the 12 values of a salesman; a value without its flag is not read and is 0.
 // Throws Failure when the count of salesmen is not 0 to 23, for a count that does not fit into 16 bits and
 // for a number that is too large for a double. The text spans point into the capture.
-GroupScreen readGroups(TextSpan capture, const std::vector<bool>& wanted);
+GroupFigures readGroups(TextSpan capture, const std::vector<bool>& wanted);
 
 } // namespace plotvue

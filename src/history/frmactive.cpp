@@ -23,7 +23,7 @@ TextSpan lineOfBusiness(const ScreenLines&, const DataType& type)
 
 } // namespace
 
-extern const MonthlyScreen frmActive{
+const MonthlyScreen frmActive{
     .window = "frmActive",
     .words = {{u"QXMACTIVE"}},
     .blocks = twoHalves(5),

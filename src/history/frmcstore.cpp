@@ -22,7 +22,7 @@ TextSpan storeName(const ScreenLines& lines, const DataType&)
 
 } // namespace
 
-extern const MonthlyScreen frmCSTORE{
+const MonthlyScreen frmCSTORE{
     .window = "frmCSTORE",
     .words = {{u"YTD"}, {u"PCS05H1B", RequiredWord::Otherwise::End}},
     .day = 9,

@@ -12,7 +12,7 @@
 
 namespace plotvue {
 
-extern const MonthlyScreen frmCustomerE{
+const MonthlyScreen frmCustomerE{
     .window = "frmCustomerE",
     .words = {{u"QXM12E1"}},
     .shortPositions = ShortPositions::OfWords,

@@ -26,7 +26,7 @@ bool isAbsentOrNear(Position position)
 
 } // namespace
 
-extern const MonthlyScreen frmCustP{
+const MonthlyScreen frmCustP{
     .window = "frmCustP",
     .words = {{u"YTD"}, {u"QTY"}, {.word = u"PCAT", .accepts = isAbsentOrNear}, {u"QXM12P"}},
     .shortPositions = ShortPositions::OfWordsAndTitles,

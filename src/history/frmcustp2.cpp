@@ -31,7 +31,7 @@ TextSpan customer(const ScreenLines& lines, const DataType&)
 
 } // namespace
 
-extern const MonthlyScreen frmCustP2{
+const MonthlyScreen frmCustP2{
     .window = "frmCustP2",
     .words = {{u"YTD"}, {u"QTY"}, {u"QXM12P2"}},
     .shortPositions = ShortPositions::OfWordsAndTitles,

@@ -33,7 +33,7 @@ MonthlyScreen deliveryScreen(Name window, TextSpan identifier, TextSpan title, s
 
 } // namespace
 
-extern const MonthlyScreen frmDriver = deliveryScreen("frmDriver", u"QXM855DH", u"Driver: ", {0, 2, 1, 3, 4});
-extern const MonthlyScreen frmTruck = deliveryScreen("frmTruck", u"QXM855TH", u"Truck: ", {4, 3, 1, 2, 0});
+const MonthlyScreen frmDriver = deliveryScreen("frmDriver", u"QXM855DH", u"Driver: ", {0, 2, 1, 3, 4});
+const MonthlyScreen frmTruck = deliveryScreen("frmTruck", u"QXM855TH", u"Truck: ", {4, 3, 1, 2, 0});
 
 } // namespace plotvue

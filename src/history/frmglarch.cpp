@@ -11,7 +11,7 @@
 
 #include "capture/failure.h"
 #include "capture/number.h"
-#include "history/screen.h"
+#include "history/monthlyscreens.h"
 
 namespace plotvue {
 
@@ -34,7 +34,7 @@ MonthPlace placeInCalendar(const MonthlyScreen&, const ScreenLines&, int month)
 int yearAfterSlash(const ScreenLines& lines)
 {
     const TextSpan line = lines[yearLine];
-    return readLine(line, [&] {
+    return locateFailure(line, [&] {
         return toInt16(leadingNumber(mid(line, find(line, u"/") + 1, 4)), u"The first year on the screen");
     });
 }
@@ -64,7 +64,7 @@ void turn(std::vector<double>& values)
 
 } // namespace
 
-extern const MonthlyScreen frmGLarch{
+const MonthlyScreen frmGLarch{
     .window = "frmGLarch",
     .words = {{u"PFMGLARCH1"}},
     .place = placeInCalendar,

@@ -14,7 +14,7 @@
 
 namespace plotvue {
 
-extern const MonthlyScreen frmGLexpense{
+const MonthlyScreen frmGLexpense{
     .window = "frmGLexpense",
     .words = {{u"PFMEXP1"}},
     .blocks = {{.firstMonth = 1, .column = 1, .line = 7}, {.firstMonth = 13, .column = 41, .line = 7}},

@@ -53,7 +53,7 @@ double lost(const MonthRow& row)
 
 } // namespace
 
-extern const MonthlyScreen frmLateCharge{
+const MonthlyScreen frmLateCharge{
     .window = "frmLateCharge",
     .caption = u"Late Charge Analysis",
     .words = {{u"QXMLCHIST"}},

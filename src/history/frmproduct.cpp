@@ -41,7 +41,7 @@ TextSpan productName(const ScreenLines& lines, const DataType&)
 
 } // namespace
 
-extern const MonthlyScreen frmProduct{
+const MonthlyScreen frmProduct{
     .window = "frmProduct",
     .words = {{u"QXM31H"}},
     .day = 16,

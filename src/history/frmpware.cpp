@@ -15,7 +15,7 @@
 
 namespace plotvue {
 
-extern const MonthlyScreen frmPware{
+const MonthlyScreen frmPware{
     .window = "frmPware",
     .words = {{u"QXM32C"}},
     .day = 16,

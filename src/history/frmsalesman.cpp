@@ -15,7 +15,7 @@
 
 namespace plotvue {
 
-extern const MonthlyScreen frmSalesman{
+const MonthlyScreen frmSalesman{
     .window = "frmSalesman",
     .words = {{u"QXM21D", RequiredWord::Otherwise::GoOn}},
     .shortPositions = ShortPositions::OfWords,

@@ -13,7 +13,7 @@
 
 namespace plotvue {
 
-extern const MonthlyScreen frmSite{
+const MonthlyScreen frmSite{
     .window = "frmSite",
     .words = {{u"QTY", RequiredWord::Otherwise::GoOn}, {u"CRD812H", RequiredWord::Otherwise::End}},
     .day = -3,

@@ -12,7 +12,7 @@
 
 namespace plotvue {
 
-extern const MonthlyScreen frmSJHIST{
+const MonthlyScreen frmSJHIST{
     .window = "frmSJHIST",
     .words = {{u"QXMSJHIST"}},
     .day = 19,

@@ -18,7 +18,7 @@ MonthRow rowOf(const MonthlyScreen& screen, const ScreenLines& lines, int month)
 double dayAt(TextSpan capture, Position position)
 {
     const TextSpan field = mid(capture, position, 2);
-    return readLine(field, [&] { return leadingNumber(field); });
+    return locateFailure(field, [&] { return leadingNumber(field); });
 }
 
 } // namespace
@@ -41,8 +41,8 @@ Acceptance accept(const MonthlyScreen& screen, TextSpan capture)
     return result;
 }
 
-MonthlySeries readMonths(const MonthlyScreen& screen, TextSpan capture, Position identifier, int months,
-                         const DataType& type)
+MonthlyFigures readMonths(const MonthlyScreen& screen, TextSpan capture, Position identifier, int months,
+                          const DataType& type)
 {
     const double day = screen.day ? dayAt(capture, identifier + *screen.day) : 0;
 
@@ -50,7 +50,7 @@ MonthlySeries readMonths(const MonthlyScreen& screen, TextSpan capture, Position
     const int firstYear = screen.firstYear ? screen.firstYear(lines) : 0;
     lines.requireAll();
 
-    MonthlySeries series;
+    MonthlyFigures series;
     const auto slots = static_cast<std::size_t>(months) + 1;
     series.values.resize(slots);
     series.labels.resize(slots);
@@ -61,7 +61,7 @@ MonthlySeries readMonths(const MonthlyScreen& screen, TextSpan capture, Position
     for (int month = 1; month <= months; ++month) {
         const auto slot = static_cast<std::size_t>(months - month);
         const MonthRow row = rowOf(screen, lines, month);
-        readLine(row.line, [&] {
+        locateFailure(row.line, [&] {
             MonthLabel label = screen.label(row, months, firstYear);
             series.labels[slot] = std::move(label.onAxis);
             series.fullLabels[slot] = std::move(label.full);

@@ -1,7 +1,7 @@
 // Reads what a chart shows from the capture of a monthly screen.
 #pragma once
 
-#include "history/screen.h"
+#include "history/monthlyscreen.h"
 
 namespace plotvue {
 
@@ -17,7 +17,7 @@ struct Acceptance {
 Acceptance accept(const MonthlyScreen& screen, TextSpan capture);
 
 // The series have a slot for every month, from the oldest to the newest, and an empty one at the end.
-struct MonthlySeries {
+struct MonthlyFigures {
     std::vector<double> values;
     std::vector<double> second;           // empty where the screen has no second series
     std::vector<Text> labels, fullLabels; // on the axis, and without abbreviations
@@ -25,9 +25,9 @@ struct MonthlySeries {
 };
 
 // Reads the newest `months` months for one of the screen's data types. `identifier` is the position of the
-// screen identifier. Throws Failure where the screen cannot be charted, EndlessRead for a capture that ends
+// screen identifier. Throws Failure where the screen cannot be charted, TooFewLines for a capture that ends
 // within its first 19 lines.
-MonthlySeries readMonths(const MonthlyScreen& screen, TextSpan capture, Position identifier, int months,
-                         const DataType& type);
+MonthlyFigures readMonths(const MonthlyScreen& screen, TextSpan capture, Position identifier, int months,
+                          const DataType& type);
 
 } // namespace plotvue

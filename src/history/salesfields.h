@@ -1,7 +1,7 @@
 // What the sales history screens of the host have in common: the volume, the sales and the profit of a month.
 #pragma once
 
-#include "history/screen.h"
+#include "history/monthlyscreens.h"
 
 namespace plotvue {
 

@@ -26,8 +26,8 @@ Text compose(const std::vector<Piece>& pieces, const ScreenLines& lines, const D
 {
     Text title;
     for (const Piece& piece : pieces)
-        readLine(piece.line ? lines[piece.line] : TextSpan(),
-                 [&] { title += cut(piece, lines, type, positions); });
+        locateFailure(piece.line ? lines[piece.line] : TextSpan(),
+                      [&] { title += cut(piece, lines, type, positions); });
     return title;
 }
 

@@ -1,7 +1,7 @@
 // Puts titles together from pieces of the screen.
 #pragma once
 
-#include "history/screen.h"
+#include "history/monthlyscreen.h"
 
 namespace plotvue {
 

@@ -10,10 +10,10 @@ namespace plotvue {
 
 // The value of a control, and the callback that displays it.
 template <typename Value>
-class Shown {
+class Property {
 public:
-    explicit Shown(Value value = {}) : value_(std::move(value)) {}
-    Shown(const Shown&) = delete;
+    explicit Property(Value value = {}) : value_(std::move(value)) {}
+    Property(const Property&) = delete;
 
     const Value& operator*() const { return value_; }
     const Value* operator->() const { return &value_; }
@@ -92,13 +92,13 @@ public:
 
     const Declaration declaration; // the initial state of the controls
 
-    Shown<Text>& text(Name labelOrTextBox) { return texts_.at(labelOrTextBox); }
-    Shown<OptionGroup>& options(Name group) { return options_.at(group); }
-    Shown<Grid>& grid(Name name) { return grids_.at(name); }
-    Shown<Chart>& chart(Name name) { return charts_.at(name); }
+    Property<Text>& text(Name labelOrTextBox) { return texts_.at(labelOrTextBox); }
+    Property<OptionGroup>& options(Name group) { return options_.at(group); }
+    Property<Grid>& grid(Name name) { return grids_.at(name); }
+    Property<Chart>& chart(Name name) { return charts_.at(name); }
 
     // One line above the content: the window does not show what was last asked for. Empty: it does.
-    Shown<Text> notice;
+    Property<Text> notice;
 
     // The chosen options of each group, as OptionGroup::chosen.
     std::map<Name, std::vector<int>> chosenOptions() const;
@@ -119,10 +119,10 @@ private:
     void add(const GridBox& box);
     void use(Name control, int index);
 
-    std::map<Name, Shown<Text>> texts_;
-    std::map<Name, Shown<OptionGroup>> options_;
-    std::map<Name, Shown<Grid>> grids_;
-    std::map<Name, Shown<Chart>> charts_;
+    std::map<Name, Property<Text>> texts_;
+    std::map<Name, Property<OptionGroup>> options_;
+    std::map<Name, Property<Grid>> grids_;
+    std::map<Name, Property<Chart>> charts_;
     Handlers handlers_;
     std::function<void()> close_;
 };

@@ -80,7 +80,7 @@ struct GridBox {
 struct PictureBox { // a symbol for gain or loss beside a grid
     Name name;
     TextSpan spokenName;
-    enum class Shows { Gain, Loss } shows;
+    enum class Symbol { Gain, Loss } symbol;
 };
 
 struct Item;

@@ -9,7 +9,7 @@
 namespace plotvue {
 
 struct Event {
-    enum class Kind { Load, Show, Hide, Unload, Message, Print, Copy, Spin, Error, End } kind;
+    enum class Kind { Load, Show, Hide, Unload, Message, Print, Copy, Wait, Error, End } kind;
     Name window{};    // of Load, Show, Hide, Unload, Print
     TextSpan title{}; // of Message; empty if the box has no title
     TextSpan text{};  // of Message, Copy and Error

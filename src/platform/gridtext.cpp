@@ -45,7 +45,7 @@ Text cellText(TextSpan text)
             line += c;
         before = c;
     }
-    return chart::drawable(line);
+    return drawable(line);
 }
 
 Text rowsTable(const Grid& grid)

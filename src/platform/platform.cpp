@@ -10,7 +10,7 @@ void Platform::message(TextSpan title, TextSpan text)
     showMessage(title, text);
 }
 
-void Platform::print(Window& window, Name name)
+void Platform::print(NativeWindow& window, Name name)
 {
     printWindow(window);
     tell({.kind = Event::Kind::Print, .window = name});
@@ -34,10 +34,10 @@ void Platform::run(const std::function<void()>& handler)
         over_ = true;
         tell({.kind = Event::Kind::End});
         finish();
-    } catch (const EndlessRead& read) {
+    } catch (const TooFewLines& read) {
         over_ = true;
-        tell({.kind = Event::Kind::Spin});
-        spin(read.lines);
+        tell({.kind = Event::Kind::Wait});
+        waitForMoreLines(read.lines);
     } catch (const Failure& failure) {
         fail(failure.sentence);
     } catch (const std::bad_alloc&) {

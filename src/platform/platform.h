@@ -15,9 +15,9 @@ namespace plotvue {
 struct EndOfProcess {};
 
 // A window on the desktop.
-class Window {
+class NativeWindow {
 public:
-    virtual ~Window() = default;
+    virtual ~NativeWindow() = default;
     virtual void show() = 0; // brings a visible window to the front
     virtual void hide() = 0;
 };
@@ -30,17 +30,17 @@ public:
     virtual Text clipboardText() = 0;
 
     // Creates a hidden window that displays these controls.
-    virtual std::unique_ptr<Window> build(std::shared_ptr<Controls> controls) = 0;
+    virtual std::unique_ptr<NativeWindow> build(std::shared_ptr<Controls> controls) = 0;
 
     // Shows a message box with an OK button and waits until it is closed.
     void message(TextSpan title, TextSpan text);
 
     // Shows the printer dialog, makes the chosen printer the default and returns the number of copies. Throws
     // Failure if the dialog is cancelled or fails.
-    virtual double choosePrinter(Window& window) = 0;
+    virtual double choosePrinter(NativeWindow& window) = 0;
 
     // Prints the window's client area as one job. Throws Failure if that fails.
-    void print(Window& window, Name name);
+    void print(NativeWindow& window, Name name);
 
     // Puts the text on the clipboard for other programs; does nothing if it is empty. clipboardText() goes on
     // returning the captured screen that was there, in this PlotVue and in others. Throws Failure if the
@@ -50,19 +50,21 @@ public:
     [[noreturn]] void end() { throw EndOfProcess{}; }
 
     // Runs an event handler. An exception that it throws ends the process: EndOfProcess with status 0,
-    // EndlessRead through spin(), a Failure or any other exception with the error report. No further handler
-    // runs, because assistive technology can still operate the windows under the last message box.
+    // TooFewLines through waitForMoreLines(), a Failure or any other exception with the error report. No
+    // further handler runs, because assistive technology can still operate the windows under the last message
+    // box.
     void run(const std::function<void()>& handler);
 
     bool over() const { return over_; } // true once an exception of a handler has ended the process
 
 protected:
     virtual void showMessage(TextSpan title, TextSpan text) = 0;
-    virtual void printWindow(Window& window) = 0;
+    virtual void printWindow(NativeWindow& window) = 0;
     virtual void copyText(TextSpan text) = 0;
     virtual void reportError(TextSpan sentence) = 0; // shows the error and ends the process with status 1
-    virtual void spin(int lines) = 0; // waits for ever; `lines`: non-empty lines of the copied text
-    virtual void finish() = 0;        // ends the process with status 0
+    virtual void
+    waitForMoreLines(int lines) = 0; // waits for ever; `lines`: non-empty lines of the copied text
+    virtual void finish() = 0;       // ends the process with status 0
 
 private:
     void fail(TextSpan sentence);

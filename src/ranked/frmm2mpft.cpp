@@ -25,14 +25,14 @@ using To = LineField::To;
 
 constexpr Position previousColumn = 20; // of the previous profit on the "Mprofit" line
 
-void drawEntry(Controls& controls, const Record& record, int type)
+void drawEntry(Controls& controls, const EntryLines& record, int type)
 {
     draw(controls, record, type, record[2]);
 }
 
 } // namespace
 
-const RankedAnalysis frmM2Mpft = list(
+const RankedScreen frmM2Mpft = list(
     {
         .window = "frmM2Mpft",
         .caption = u"PlotVue!",
@@ -51,13 +51,13 @@ const RankedAnalysis frmM2Mpft = list(
                         .spokenName = u"Gains",
                         .format = u"Rank |Profit Gain|Customer|Customer Name                                 "
                                   u"|Product Group  "},
-                       PictureBox{"Picture1", u"Gains", PictureBox::Shows::Gain}),
+                       PictureBox{"Picture1", u"Gains", PictureBox::Symbol::Gain}),
                   grid(losses,
                        {.name = "MSFlexGrid2",
                         .spokenName = u"Losses",
                         .format = u"Rank |Profit Loss|Customer|Customer Name                                 "
                                   u"|Product Group  "},
-                       PictureBox{"Picture2", u"Losses", PictureBox::Shows::Loss})},
+                       PictureBox{"Picture2", u"Losses", PictureBox::Symbol::Loss})},
     },
     previousColumn);
 

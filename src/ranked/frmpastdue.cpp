@@ -12,8 +12,8 @@
 
 #include "capture/failure.h"
 #include "capture/number.h"
-#include "ranked/analyses.h"
-#include "ranked/rankedscreen.h"
+#include "ranked/rankedfigures.h"
+#include "ranked/rankedscreens.h"
 
 #include <algorithm>
 
@@ -35,19 +35,19 @@ double bucket(TextSpan line, int number)
 }
 
 // Before the first "Mlabel" line, a line with five crosses is an ageing line.
-void startWithCrosses(RankedScreen& screen)
+void startWithCrosses(RankedFigures& screen)
 {
     screen.texts[ageingKey] = u"xxxxx";
 }
 
-void countEntry(RankedScreen& screen, TextSpan)
+void countEntry(RankedFigures& screen, TextSpan)
 {
     ++screen.counts[0];
 }
 
 // Every line that holds the current month's label is taken for the current entry's ageing line. An "Mlabel"
 // line may be one, too.
-void takeAgeing(RankedScreen& screen, TextSpan line)
+void takeAgeing(RankedFigures& screen, TextSpan line)
 {
     if (!holds(line, mid(screen.texts[ageingKey], 1, 5)))
         return;
@@ -69,7 +69,7 @@ int bucketsIn(TextSpan captions)
     return j;
 }
 
-void draw(Controls& controls, const Record& record, int)
+void draw(Controls& controls, const EntryLines& record, int)
 {
     const TextSpan entry = record[1], captions = record[2];
     const int buckets = bucketsIn(captions);
@@ -106,11 +106,11 @@ void draw(Controls& controls, const Record& record, int)
 }
 
 using To = LineField::To;
-using Shows = GridColumn::Shows;
+using Content = GridColumn::Content;
 
 } // namespace
 
-const RankedAnalysis frmPastdue{
+const RankedScreen frmPastdue{
     .window = "frmPastdue",
     .heading = {{Label{.name = "txtHeader", .font = {.bold = true}}}},
     .title = u"RANKED PAST",
@@ -132,14 +132,14 @@ const RankedAnalysis frmPastdue{
                            u"Rank |Customer|Customer Name                                           |City   "
                            u"                           |ST |Total A/R |Past Due ",
                        .figures = {0, 1, 5, 6}},
-               .columns = {{Shows::RowNumber},
-                           {Shows::NumberSlot, customer},
-                           {Shows::TextSlot, customerName},
-                           {Shows::TextSlot, city},
-                           {Shows::TextSlot, state},
-                           {Shows::NumberSlot, total},
-                           {Shows::NumberSlot, pastDue}}}},
-    .summary = {{"txtHeader", [](const RankedScreen& screen) { return screen.texts[title]; }}},
+               .columns = {{Content::RowNumber},
+                           {Content::NumberSlot, customer},
+                           {Content::TextSlot, customerName},
+                           {Content::TextSlot, city},
+                           {Content::TextSlot, state},
+                           {Content::NumberSlot, total},
+                           {Content::NumberSlot, pastDue}}}},
+    .summary = {{"txtHeader", [](const RankedFigures& screen) { return screen.texts[title]; }}},
     .key = {.parts = {{.number = true, .gridColumn = 1, .slot = customer, .column = 14, .length = 5}},
             .lineStart = u"RANK:"},
     .linesAnEntry = 8,

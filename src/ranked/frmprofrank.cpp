@@ -25,7 +25,7 @@ constexpr Position previousColumn = 21; // of the previous profit on the "Mprofi
 
 // The last of the lines 2 to 5 that holds either marker; the second where none does, as when the list has a
 // row for a rank that the screen lacks.
-TextSpan componentLine(const Record& record)
+TextSpan componentLine(const EntryLines& record)
 {
     TextSpan found = record[2];
     for (std::size_t field = 3; field < record.size(); ++field)
@@ -34,14 +34,14 @@ TextSpan componentLine(const Record& record)
     return found;
 }
 
-void drawEntry(Controls& controls, const Record& record, int type)
+void drawEntry(Controls& controls, const EntryLines& record, int type)
 {
     draw(controls, record, type, componentLine(record));
 }
 
 } // namespace
 
-const RankedAnalysis frmProfRank = list(
+const RankedScreen frmProfRank = list(
     {
         .window = "frmProfRank",
         .title = u"RANKED PROFIT AN",

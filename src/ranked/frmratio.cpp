@@ -14,9 +14,9 @@
 // may name the ratio after "3A:". The sixth is a note on it; STD means the note that PlotVue has.
 
 #include "capture/number.h"
-#include "ranked/analyses.h"
 #include "ranked/monthcolumns.h"
-#include "ranked/rankedscreen.h"
+#include "ranked/rankedfigures.h"
+#include "ranked/rankedscreens.h"
 #include "ranked/ratiotexts.h"
 
 #include <algorithm>
@@ -38,17 +38,17 @@ TextSpan codeOf(TextSpan line)
 }
 
 // Ratios have no ranks: they are numbered as they come.
-void openNext(RankedScreen& screen, TextSpan)
+void openNext(RankedFigures& screen, TextSpan)
 {
     ++screen.currentRank;
 }
 
-void countEntry(RankedScreen& screen, TextSpan)
+void countEntry(RankedFigures& screen, TextSpan)
 {
     screen.counts[0] = screen.currentRank;
 }
 
-void nameByCode(RankedScreen& screen, TextSpan line)
+void nameByCode(RankedFigures& screen, TextSpan line)
 {
     screen.currentEntry().texts[name] = ratio(codeOf(line)).name;
 }
@@ -65,39 +65,39 @@ std::optional<TextSpan> ownName(TextSpan line)
     return bar ? mid(rest, 1, bar - 1) : withoutLast(rest);
 }
 
-void nameByLine(RankedScreen& screen, TextSpan line)
+void nameByLine(RankedFigures& screen, TextSpan line)
 {
     if (const auto own = ownName(line))
         screen.currentEntry().texts[name] = *own;
 }
 
 // The text after "4: ", "5: " or "6: ". Throws Failure where the line has fewer than 3 characters.
-TextSpan textOf(const Record& record, std::size_t line)
+TextSpan textOf(const EntryLines& record, std::size_t line)
 {
     return mid(record[line], 4, static_cast<Position>(record[line].size()) - 3);
 }
 
-Text formulaMessage(const Record& record)
+Text formulaMessage(const EntryLines& record)
 {
     return u"Formula in QXM: " + Text(textOf(record, 5)) + u"\r\r" + u"Current month data: " +
            Text(textOf(record, 4));
 }
 
-Text noteMessage(const Record& record)
+Text noteMessage(const EntryLines& record)
 {
     const TextSpan note = textOf(record, 6);
     const TextSpan bare = note.ends_with(carriageReturn) ? withoutLast(note) : note;
     return Text(bare == u"STD" ? ratioOrComponent(codeOf(record[2])).note : note);
 }
 
-double monthValue(const Record& record, int month)
+double monthValue(const EntryLines& record, int month)
 {
     const bool first = month <= monthsOnFirstLine;
     const int place = first ? month : month - monthsOnFirstLine;
     return leadingNumber(mid(record[first ? 1 : 2], 14 * place - 5, valueLength));
 }
 
-void draw(Controls& controls, const Record& record, int)
+void draw(Controls& controls, const EntryLines& record, int)
 {
     std::vector<double> values(monthColumns);
     std::vector<Text> labels(monthColumns);
@@ -124,11 +124,11 @@ void draw(Controls& controls, const Record& record, int)
 }
 
 using To = LineField::To;
-using Shows = GridColumn::Shows;
+using Content = GridColumn::Content;
 
 } // namespace
 
-const RankedAnalysis frmRatio{
+const RankedScreen frmRatio{
     .window = "frmRatio",
     .heading = {{Label{.name = "lblCompany", .font = {.bold = true}}}, {Label{.name = "lblA"}}},
     .title = u"FINANCIAL RATIO",
@@ -150,12 +150,12 @@ const RankedAnalysis frmRatio{
                            u"Ratio |Ratio Name                                   |Value                 "
                            u"|Benchmark        ",
                        .figures = {2, 3}},
-               .columns = {{Shows::TextSlot, code},
-                           {Shows::TextSlot, name},
-                           {Shows::TextSlot, valueText},
-                           {Shows::TextSlot, benchmarkText}}}},
-    .summary = {{"lblA", [](const RankedScreen& screen) { return screen.texts[title]; }},
-                {"lblCompany", [](const RankedScreen& screen) { return screen.texts[company]; }}},
+               .columns = {{Content::TextSlot, code},
+                           {Content::TextSlot, name},
+                           {Content::TextSlot, valueText},
+                           {Content::TextSlot, benchmarkText}}}},
+    .summary = {{"lblA", [](const RankedFigures& screen) { return screen.texts[title]; }},
+                {"lblCompany", [](const RankedFigures& screen) { return screen.texts[company]; }}},
     .key = {.parts = {{.number = false, .gridColumn = 0, .slot = code, .column = 3, .length = 4}},
             .lineStart = u"1:",
             .recordStart = u"1:"},

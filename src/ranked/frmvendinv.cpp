@@ -15,9 +15,9 @@
 
 #include "capture/failure.h"
 #include "capture/number.h"
-#include "ranked/analyses.h"
 #include "ranked/monthcolumns.h"
-#include "ranked/rankedscreen.h"
+#include "ranked/rankedfigures.h"
+#include "ranked/rankedscreens.h"
 
 #include <algorithm>
 #include <cmath>
@@ -35,12 +35,12 @@ constexpr Position bucketLength = 8;
 constexpr TextSpan bucketLabels = u"<30 Days31 - 60 61 - 90 91 - 120Over 120";
 
 // Ranks that the screen lacks get a row as well.
-void countHighestRank(RankedScreen& screen, TextSpan)
+void countHighestRank(RankedFigures& screen, TextSpan)
 {
     screen.counts[0] = std::max(screen.counts[0], screen.currentRank);
 }
 
-Text tips(const Record&)
+Text tips(const EntryLines&)
 {
     return u"This is your beginning of month inventory, grouped by Vendor and Product Category.  Items are\r"
            u"ranked by value.  The 'Stock Months' column shows the time, in months, needed to deplete\r"
@@ -75,7 +75,7 @@ void drawAges(Chart& ChartFX2, TextSpan line)
     ChartFX2.SetChartData(data);
 }
 
-void draw(Controls& controls, const Record& record, int type)
+void draw(Controls& controls, const EntryLines& record, int type)
 {
     const TextSpan entry = record[1];
     controls.chart("ChartFX2").change([&](Chart& ChartFX2) { drawAges(ChartFX2, record[2]); });
@@ -91,11 +91,11 @@ void draw(Controls& controls, const Record& record, int type)
 }
 
 using To = LineField::To;
-using Shows = GridColumn::Shows;
+using Content = GridColumn::Content;
 
 } // namespace
 
-const RankedAnalysis frmVendInv{
+const RankedScreen frmVendInv{
     .window = "frmVendInv",
     .heading = {{TextBox{.name = "txtHeader", .spokenName = u"Analysis"}},
                 {TextBox{.name = "txtHeader2", .spokenName = u"Summary"}}},
@@ -118,13 +118,13 @@ const RankedAnalysis frmVendInv{
                            u"Rank |EOM FIFO |Vendor Name                                  |Product Category  "
                            u"                                |Stock Months",
                        .figures = {0, 1, 4}},
-               .columns = {{Shows::RowNumber},
-                           {Shows::NumberSlot, fifoValue},
-                           {Shows::TextSlot, vendor},
-                           {Shows::TextSlot, category},
-                           {Shows::TextSlot, stockMonths}}}},
-    .summary = {{"txtHeader", [](const RankedScreen& screen) { return screen.texts[title]; }},
-                {"txtHeader2", [](const RankedScreen& screen) { return screen.texts[summaryLine]; }}},
+               .columns = {{Content::RowNumber},
+                           {Content::NumberSlot, fifoValue},
+                           {Content::TextSlot, vendor},
+                           {Content::TextSlot, category},
+                           {Content::TextSlot, stockMonths}}}},
+    .summary = {{"txtHeader", [](const RankedFigures& screen) { return screen.texts[title]; }},
+                {"txtHeader2", [](const RankedFigures& screen) { return screen.texts[summaryLine]; }}},
     .key = {.parts = {{.number = false, .gridColumn = 2, .slot = vendor, .column = 17, .length = 30},
                       {.number = false, .gridColumn = 3, .slot = category, .column = 54, .length = 30}}},
     .linesAnEntry = 5,

@@ -1,7 +1,7 @@
 // The key of a ranked entry: what tells it from the others on the screen, in a grid and in the small files.
 #pragma once
 
-#include "ranked/exchange.h"
+#include "files/exchange.h"
 
 #include <array>
 
@@ -28,7 +28,7 @@ struct Key {
     TextSpan recordStart{}; // the entry's first line in the list file must begin with it
 };
 
-using KeyValues = RecordFields; // one for each part
+using KeyValues = Record; // one for each part
 
 // Throws Failure when the part is a number and the text one that is too large for a double.
 RecordField keyValue(const KeyPart& part, TextSpan text);

@@ -11,7 +11,7 @@ KeyValues readChosenRow(const Key& key)
     return values;
 }
 
-const Record& ListFile::next()
+const EntryLines& ListFile::next()
 {
     previous_ = std::move(record_);
     record_.clear();
@@ -21,7 +21,7 @@ const Record& ListFile::next()
     return record_;
 }
 
-const Record& ListFile::find(const KeyValues& key, int limit)
+const EntryLines& ListFile::find(const KeyValues& key, int limit)
 {
     const Key& wanted = analysis_.key;
     do

@@ -1,8 +1,8 @@
 // The list file and the chosen-row file as the drill-down window reads them.
 #pragma once
 
-#include "ranked/analysis.h"
-#include "ranked/exchange.h"
+#include "files/exchange.h"
+#include "ranked/rankedscreen.h"
 
 namespace plotvue {
 
@@ -13,20 +13,20 @@ KeyValues readChosenRow(const Key& key);
 class ListFile {
 public:
     // Throws Failure when the list file cannot be read.
-    explicit ListFile(const RankedAnalysis& analysis) : analysis_(analysis), reader_(listFile) {}
+    explicit ListFile(const RankedScreen& analysis) : analysis_(analysis), reader_(listFile) {}
 
     // Reads on until a record has the key, at most to the record number `limit`, and returns the last record
     // that was read. Throws Failure when the file ends before that.
-    const Record& find(const KeyValues& key, int limit);
+    const EntryLines& find(const KeyValues& key, int limit);
 
-    int position() const { return position_; }           // of the record read last, from 1
-    const Record& previous() const { return previous_; } // the one before the record read last
-    const Record& next();                                // Throws Failure after the last record.
+    int position() const { return position_; }               // of the record read last, from 1
+    const EntryLines& previous() const { return previous_; } // the one before the record read last
+    const EntryLines& next();                                // Throws Failure after the last record.
 
 private:
-    const RankedAnalysis& analysis_;
+    const RankedScreen& analysis_;
     RecordReader reader_;
-    Record previous_, record_;
+    EntryLines previous_, record_;
     int position_ = 0;
 };
 

@@ -1,8 +1,8 @@
 #include "ranked/listwindow.h"
 
 #include "capture/number.h"
-#include "platform/commoncontrols.h"
 #include "ranked/listfile.h"
+#include "window/commoncontrols.h"
 
 namespace plotvue {
 
@@ -45,7 +45,7 @@ Handlers RankedListWindow::handlers()
 void RankedListWindow::Form_Load()
 {
     capture_ = RecordReader(scratchFile).next();
-    screen_ = readCapture(capture_, [this] { return readRanked(analysis_, capture_); });
+    screen_ = nameFailedLine(capture_, [this] { return readRanked(analysis_, capture_); });
     if (!screen_.accepted)
         return cmdExit_Click();
     for (const auto& [control, text] : analysis_.summary)
@@ -65,8 +65,8 @@ void RankedListWindow::fill(const RankedGrid& grid)
             for (std::size_t c = 0; c < grid.columns.size(); ++c) {
                 const GridColumn& column = grid.columns[c];
                 const auto slot = static_cast<std::size_t>(column.slot);
-                const bool isText = column.shows == GridColumn::Shows::TextSlot;
-                const bool isRow = column.shows == GridColumn::Shows::RowNumber;
+                const bool isText = column.content == GridColumn::Content::TextSlot;
+                const bool isRow = column.content == GridColumn::Content::RowNumber;
                 control.setCell(row, static_cast<int>(c),
                                 isText ? entry.texts[slot] : plainNumber(isRow ? row : entry.numbers[slot]));
             }
@@ -89,9 +89,9 @@ void RankedListWindow::MSFlexGrid_Click(const RankedGrid& grid, int row)
 
 void RankedListWindow::writeList(const RankedGrid& grid) const
 {
-    std::vector<RecordFields> records;
+    std::vector<Record> records;
     for (const int line : firstLines(ranksIn(grid, screen_), analysis_.key, screen_)) {
-        RecordFields& record = records.emplace_back(RecordFields{screen_.texts[0]});
+        Record& record = records.emplace_back(Record{screen_.texts[0]});
         for (int i = 0; i < analysis_.linesAnEntry; ++i)
             record.emplace_back(Text(screen_.line(line + i)));
     }

@@ -2,17 +2,17 @@
 // click on a row writes the list file and the chosen-row file and shows the drill-down window.
 #pragma once
 
-#include "ranked/drilldown.h"
-#include "ranked/rankedscreen.h"
+#include "ranked/drilldownwindow.h"
+#include "ranked/rankedfigures.h"
 
 namespace plotvue {
 
-class RankedListWindow : public Form {
+class RankedListWindow : public Window {
 public:
     // `drillDowns`: the drill-down windows of all lists, which read the same small files.
-    RankedListWindow(Platform& platform, Form& startup, DrillDownWindow& drillDown,
-                     const std::vector<DrillDownWindow*>& drillDowns, const RankedAnalysis& analysis)
-        : Form(platform),
+    RankedListWindow(Platform& platform, Window& startup, DrillDownWindow& drillDown,
+                     const std::vector<DrillDownWindow*>& drillDowns, const RankedScreen& analysis)
+        : Window(platform),
           startup_(startup),
           drillDown_(drillDown),
           drillDowns_(drillDowns),
@@ -36,12 +36,12 @@ private:
     void fill(const RankedGrid& grid);
     void writeList(const RankedGrid& grid) const;
 
-    Form& startup_;
+    Window& startup_;
     DrillDownWindow& drillDown_;
     const std::vector<DrillDownWindow*>& drillDowns_;
-    const RankedAnalysis& analysis_;
+    const RankedScreen& analysis_;
     Text capture_; // the lines of the screen are views of it
-    RankedScreen screen_;
+    RankedFigures screen_;
 };
 
 } // namespace plotvue

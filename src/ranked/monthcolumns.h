@@ -2,7 +2,7 @@
 #pragma once
 
 #include "chart/chart.h"
-#include "ranked/drilldown.h"
+#include "ranked/drilldownwindow.h"
 
 namespace plotvue {
 

@@ -12,10 +12,10 @@ namespace plotvue::profit {
 namespace {
 
 using To = LineField::To;
-using Shows = GridColumn::Shows;
+using Content = GridColumn::Content;
 
 // "Total profit for the territory increased by  1250 (from  8000 to  9250)."
-Text totalSentence(const RankedScreen& screen)
+Text totalSentence(const RankedFigures& screen)
 {
     const double now = std::floor(screen.numbers[current]);
     const double before = std::floor(screen.numbers[previous]);
@@ -37,7 +37,7 @@ bool isLoss(const Entry& entry)
 
 } // namespace
 
-void count(RankedScreen& screen, TextSpan)
+void count(RankedFigures& screen, TextSpan)
 {
     ++screen.counts[screen.currentEntry().numbers[figure] <= 0 ? losses : gains];
 }
@@ -46,17 +46,17 @@ RankedGrid grid(Count count, GridBox box, std::optional<PictureBox> picture)
 {
     box.figures = {0, 1, 2};
     return {.box = std::move(box),
-            .columns = {{Shows::RowNumber},
-                        {Shows::NumberSlot, figure},
-                        {Shows::NumberSlot, customer},
-                        {Shows::TextSlot, customerName},
-                        {Shows::TextSlot, group}},
+            .columns = {{Content::RowNumber},
+                        {Content::NumberSlot, figure},
+                        {Content::NumberSlot, customer},
+                        {Content::TextSlot, customerName},
+                        {Content::TextSlot, group}},
             .count = count,
             .lists = count == gains ? isGain : isLoss,
             .picture = picture};
 }
 
-RankedAnalysis list(RankedAnalysis own, Position previousColumn)
+RankedScreen list(RankedScreen own, Position previousColumn)
 {
     own.rules.insert(own.rules.begin(), {.marker = u"RANK:",
                                          .open = openRank,
@@ -71,17 +71,17 @@ RankedAnalysis list(RankedAnalysis own, Position previousColumn)
     own.heading = {{TextBox{.name = "txtHeader", .spokenName = u"Analysis"}},
                    {TextBox{.name = "txtL2", .spokenName = u"Summary"}},
                    {TextBox{.name = "txtL3", .spokenName = u"Sales"}}};
-    own.summary = {{"txtHeader", [](const RankedScreen& screen) { return screen.texts[header]; }},
+    own.summary = {{"txtHeader", [](const RankedFigures& screen) { return screen.texts[header]; }},
                    {"txtL2", totalSentence},
-                   {"txtL3", [](const RankedScreen& screen) { return screen.texts[salesLine]; }}};
+                   {"txtL3", [](const RankedFigures& screen) { return screen.texts[salesLine]; }}};
     own.key = {.parts = {{.number = true, .gridColumn = 2, .slot = customer, .column = 14, .length = 5},
                          {.number = false, .gridColumn = 4, .slot = group, .column = 51, .length = 10}}};
     own.linesAnEntry = 5;
     return own;
 }
 
-DrillDownDesign drillDown(Name window, const RankedAnalysis& analysis,
-                          void (*drawEntry)(Controls&, const Record&, int type))
+DrillDownDesign drillDown(Name window, const RankedScreen& analysis,
+                          void (*drawEntry)(Controls&, const EntryLines&, int type))
 {
     return {.window = window,
             .analysis = analysis,
@@ -96,7 +96,7 @@ DrillDownDesign drillDown(Name window, const RankedAnalysis& analysis,
             .draw = drawEntry};
 }
 
-void draw(Controls& controls, const Record& record, int type, TextSpan componentLine)
+void draw(Controls& controls, const EntryLines& record, int type, TextSpan componentLine)
 {
     const double volume = leadingNumber(mid(componentLine, 19, 9));
     const double margin = leadingNumber(mid(componentLine, 32, 9));

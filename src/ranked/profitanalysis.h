@@ -2,8 +2,8 @@
 // the figures, and the same windows.
 #pragma once
 
-#include "ranked/analyses.h"
-#include "ranked/rankedscreen.h"
+#include "ranked/rankedfigures.h"
+#include "ranked/rankedscreens.h"
 
 namespace plotvue::profit {
 
@@ -14,19 +14,19 @@ enum ScreenNumber { current, previous }; // the territory's profits
 enum Count { gains, losses };
 
 // Counts the current entry as a loss when its figure is 0 or less, otherwise as a gain.
-void count(RankedScreen& screen, TextSpan line);
+void count(RankedFigures& screen, TextSpan line);
 
 // The grid of the gains or the losses. Both list an entry whose figure is exactly 0.
 RankedGrid grid(Count count, GridBox box, std::optional<PictureBox> picture = {});
 
 // Adds what both have in common: a rule before `own` rules and three after them, the heading, the key. On the
 // "Mprofit" line the territory's previous profit is in `previousColumn` to column 30.
-RankedAnalysis list(RankedAnalysis own, Position previousColumn);
+RankedScreen list(RankedScreen own, Position previousColumn);
 
-DrillDownDesign drillDown(Name window, const RankedAnalysis& analysis,
-                          void (*drawEntry)(Controls&, const Record&, int type));
+DrillDownDesign drillDown(Name window, const RankedScreen& analysis,
+                          void (*drawEntry)(Controls&, const EntryLines&, int type));
 
 // Draws both charts. `componentLine` is the line with the two components of the change.
-void draw(Controls& controls, const Record& record, int type, TextSpan componentLine);
+void draw(Controls& controls, const EntryLines& record, int type, TextSpan componentLine);
 
 } // namespace plotvue::profit

@@ -1,44 +1,71 @@
-// A ranked capture, read. No window, no file: text in, texts and numbers out.
+// A ranked analysis as data: what its list window takes from each line of the capture, what its grids show,
+// and which lines it hands to the drill-down window. Columns, ranks and lines count from 1.
 #pragma once
 
-#include "ranked/analysis.h"
+#include "platform/declaration.h"
+#include "ranked/key.h"
+
+#include <optional>
 
 namespace plotvue {
 
-struct RankedScreen {
-    bool accepted = false; // whether the capture holds the analysis's title; where not, nothing was read
+inline constexpr int maxRanks = 100;
 
-    std::vector<TextSpan> lines;     // views of the capture, each with its carriage return; none is blank
-    std::array<Text, 4> texts{};     // of the whole screen; the first goes into every record
-    std::array<double, 2> numbers{}; // of the whole screen
-    std::array<int, 2> counts{};     // rows of each grid
-    int currentRank = 0;             // of the entry to which the next lines belong; 0 before the first
+struct RankedFigures;
 
-    // By rank. Throws Failure outside 1 to 100.
-    Entry& entry(int rank);
-    const Entry& entry(int rank) const;
-    Entry& currentEntry() { return entry(currentRank); }
-
-    // By number, from 1. Empty where the screen has no such line.
-    TextSpan line(int number) const;
-
-private:
-    std::array<Entry, maxRanks> entries_{};
+// A field of a line: its columns, and the slot of the current entry or of the screen that keeps it.
+struct LineField {
+    enum class To { EntryNumber, EntryText, ScreenNumber, ScreenText } to;
+    int slot;
+    Position column;
+    Position length = toTheEnd; // toTheEnd: up to the line's last character, which is left out
 };
 
-// Throws Failure for a rank outside 1 to 100 and for a number too large for a double.
-RankedScreen readRanked(const RankedAnalysis& analysis, TextSpan capture);
+// What is taken from every line that holds the marker; every line holds an empty one.
+struct LineRule {
+    TextSpan marker{};
+    bool afterRank = false;                                // lines before the first rank are passed over
+    void (*open)(RankedFigures&, TextSpan line) = nullptr; // makes another entry the current one
+    std::vector<LineField> fields{};
+    void (*then)(RankedFigures&, TextSpan line) = nullptr; // runs after the fields are taken
+};
 
-// What most analyses do with a "RANK:" line: the entry whose rank is in columns 6 to 8 becomes the current
-// one. Throws Failure when the rank does not fit into 16 bits.
-void openRank(RankedScreen& screen, TextSpan line);
+struct GridColumn {
+    enum class Content { RowNumber, NumberSlot, TextSlot } content;
+    int slot = 0;
+};
 
-// The ranks of the entries in a grid, from its first row to its last: as many as the grid's count. Throws
-// Failure when fewer of the ranks 1 to 100 belong in the grid.
-std::vector<int> ranksIn(const RankedGrid& grid, const RankedScreen& screen);
+struct RankedGrid {
+    GridBox box;
+    std::vector<GridColumn> columns;
+    int count = 0;                         // which of the screen's counts is the number of rows
+    bool (*lists)(const Entry&) = nullptr; // null: lists every entry
+    std::optional<PictureBox> picture{};   // beside the grid
+};
 
-// The number of each entry's first line on the screen. An entry that is not found gets the line of the one
-// before it. Throws Failure when the first one is not found.
-std::vector<int> firstLines(const std::vector<int>& ranks, const Key& key, const RankedScreen& screen);
+// A record of the list file: text 0 of the screen, then the lines of an entry.
+using EntryLines = std::vector<Text>;
+
+// A button that shows a message box about a record of the list file. A list window passes an empty record.
+struct MessageButton {
+    Button button;
+    TextSpan title{};
+    Text (*text)(const EntryLines&);
+};
+
+struct RankedScreen {
+    Name window;
+    TextSpan caption = u"PlotVue";             // of both windows
+    std::vector<Item> heading{};               // labels and text boxes above the grids
+    std::vector<MessageButton> buttons{};      // of the list window
+    TextSpan title;                            // a capture without it is refused
+    int maxLines = 500;                        // the lines after these are not read
+    void (*prepare)(RankedFigures&) = nullptr; // runs before the first line
+    std::vector<LineRule> rules;               // tested on every line, in this order
+    std::vector<RankedGrid> grids;
+    std::map<Name, Text (*)(const RankedFigures&)> summary{}; // texts of the heading's controls
+    Key key{};
+    int linesAnEntry = 0; // in a record
+};
 
 } // namespace plotvue

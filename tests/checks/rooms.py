@@ -8,24 +8,26 @@ from pathlib import Path
 CAPTURE = {"capture"}
 CHART = CAPTURE | {"chart"}
 PLATFORM = CHART | {"platform"}
-APP = PLATFORM | {"history", "group", "ranked", "app"}
+WINDOW = PLATFORM | {"window"}
+APP = WINDOW | {"files", "history", "group", "ranked", "app"}
 
 MAY_INCLUDE = {
     "capture": CAPTURE,
     "chart": CHART,
+    "files": CAPTURE | {"files"},
     "platform": PLATFORM,
-    "platform/recording": PLATFORM | {"platform/recording"},
-    "platform/desktop/chart": CHART | {"platform/desktop/chart"},
-    "platform/desktop": PLATFORM | {"platform/desktop", "platform/desktop/chart"},
-    "history": PLATFORM | {"history"},
-    "group": PLATFORM | {"group"},
-    "ranked": PLATFORM | {"ranked"},
+    "desktop/chart": CHART | {"desktop/chart"},
+    "desktop": PLATFORM | {"desktop", "desktop/chart"},
+    "window": WINDOW,
+    "history": WINDOW | {"history"},
+    "group": WINDOW | {"group"},
+    "ranked": WINDOW | {"files", "ranked"},
     "app": APP,
-    "": APP | {"platform/desktop"},  # main.cpp
+    "": APP | {"desktop"},  # main.cpp
 }
 
 TOOLKIT = re.compile(r"(Qt?[A-Z]\w*(/.*)?|qt?[a-z0-9_]+\.h|cups/.*|fontconfig/.*|xcb/.*|X11/.*)$")
-TOOLKIT_ROOMS = ("src/platform/desktop/", "src/main.cpp", "tests/desktop/", "tests/replay/desktop",
+TOOLKIT_ROOMS = ("src/desktop/", "src/main.cpp", "tests/desktop/", "tests/replay/desktop",
                  "tests/e2e/clipboardmanager.cpp", "tests/e2e/sessionmanager.cpp", "tests/faults/owner.cpp",
                  "tests/windows/printer.cpp", "bench/")
 

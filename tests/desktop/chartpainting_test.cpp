@@ -1,5 +1,5 @@
+#include "desktop/chart/chartpainter.h"
 #include "desktop/chartsample.h"
-#include "platform/desktop/chart/chartpainter.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -112,11 +112,11 @@ TEST(ChartPainting, AFigureAboveABarIsAsWideAsItsPlace)
     Chart content = threeMonths();
     content.series = {{1111111, 1111111, 1111111, 0}};
     chart.setChart(content);
-    std::set<chart::TextRole> sizes;
+    std::set<TextRole> sizes;
     for (int width = 600; width > 150; width -= 4) { // for wide fonts and narrow ones
         chart.resize(width, 400);
         const QImage screen = chart.grab().toImage();
-        const chart::Layout& layout = chart.chartLayout();
+        const Layout& layout = chart.chartLayout();
         if (layout.values.empty())
             continue;
         sizes.insert(layout.valueRole);
@@ -124,7 +124,7 @@ TEST(ChartPainting, AFigureAboveABarIsAsWideAsItsPlace)
         EXPECT_GT(darkIn(screen, box.adjusted(box.width() - 8, 0, 0, 0)), 0) << width;
         EXPECT_EQ(darkIn(screen, box.adjusted(box.width(), 0, 4, 0)), 0) << width;
     }
-    EXPECT_EQ(sizes, (std::set{chart::TextRole::Tiny, chart::TextRole::Small}));
+    EXPECT_EQ(sizes, (std::set{TextRole::Tiny, TextRole::Small}));
 }
 
 TEST(ChartPainting, TextHasTheSameSizeAtAHigherResolution)

@@ -1,5 +1,5 @@
+#include "desktop/chart/chartpicture.h"
 #include "desktop/chartsample.h"
-#include "platform/desktop/chart/chartpicture.h"
 
 #include <QRegularExpression>
 
@@ -53,7 +53,7 @@ TEST(ChartPicture, HasTheBarsOfTheLightScreenOnWhiteOnAnyDesktop)
     for (const QPoint corner : {QPoint(0, 0), QPoint(1199, 0), QPoint(0, 799), QPoint(1199, 799)})
         EXPECT_EQ(picture.pixelColor(corner), QColor(Qt::white));
     int bars = 0;
-    for (const chart::Bar& bar : chart.chartLayout().bars) {
+    for (const Bar& bar : chart.chartLayout().bars) {
         if (chart.plotData().series()[bar.series].projection)
             continue; // is hatched
         const QPoint middle = QPointF(bar.box.centreX(), bar.box.centreY()).toPoint();

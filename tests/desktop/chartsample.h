@@ -2,7 +2,7 @@
 // the end.
 #pragma once
 
-#include "platform/desktop/chart/chartwidget.h"
+#include "desktop/chart/chartwidget.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,6 +1,6 @@
-#include "platform/desktop/chart/chartpicture.h"
-#include "platform/desktop/clipboard.h"
-#include "platform/desktop/shown.h"
+#include "desktop/chart/chartpicture.h"
+#include "desktop/clipboard.h"
+#include "desktop/displaytext.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,5 +1,5 @@
 #include "capture/failure.h"
-#include "platform/desktop/clipboard.h"
+#include "desktop/clipboard.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,9 +1,9 @@
 // When a screen is copied, terminals drop the blanks at the ends of lines or fill every line with blanks. The
 // windows look the same in both cases.
+#include "desktop/chart/chartwidget.h"
+#include "desktop/chart/qtext.h"
+#include "desktop/grid.h"
 #include "desktop/samplesfixture.h"
-#include "platform/desktop/chart/chartwidget.h"
-#include "platform/desktop/chart/qtext.h"
-#include "platform/desktop/grid.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -85,11 +85,11 @@ private:
                 for (int column = 0; column < grid->model()->columnCount(); ++column)
                     note(grid->model()->index(row, column).data().toString());
         for (const auto* chart : window.findChildren<ChartWidget*>()) {
-            const chart::PlotData& data = chart->plotData();
-            note(toQString(chart::titlesInOneLine(chart->chart())));
+            const PlotData& data = chart->plotData();
+            note(toQString(titlesInOneLine(chart->chart())));
             for (int point = 0; point < data.pointCount(); ++point)
                 note(toQString(data.sentence(point)));
-            for (const chart::LegendEntry& entry : chart->chartLayout().legend)
+            for (const LegendEntry& entry : chart->chartLayout().legend)
                 note(toQString(entry.name.text));
         }
     }

@@ -1,8 +1,8 @@
 // The desktop platform with message boxes that return at once, and a window with every kind of control.
 #pragma once
 
-#include "platform/desktop/desktopplatform.h"
-#include "platform/desktop/desktopwindow.h"
+#include "desktop/desktopplatform.h"
+#include "desktop/desktopwindow.h"
 
 #include <QCoreApplication>
 
@@ -24,7 +24,7 @@ protected:
         messages.emplace_back(text);
     }
     void reportError(TextSpan sentence) override { endings.emplace_back(sentence.begin(), sentence.end()); }
-    void spin(int) override { endings.emplace_back("spin"); }
+    void waitForMoreLines(int) override { endings.emplace_back("spin"); }
     void finish() override { endings.emplace_back("end"); }
 };
 
@@ -39,7 +39,7 @@ inline Declaration everyControl()
                      {TextBox{.name = "txt", .spokenName = u"Summary"}},
                      {ListBox{.name = "List1", .spokenName = u"Screens", .items = {u"One", u"Two"}}},
                      row({{PictureBox{
-                              .name = "Picture1", .spokenName = u"Gain", .shows = PictureBox::Shows::Gain}},
+                              .name = "Picture1", .spokenName = u"Gain", .symbol = PictureBox::Symbol::Gain}},
                           {GridBox{.name = "Grid1",
                                    .spokenName = u"PlotData",
                                    .format = u"<Rank |Name        |Total  ",
@@ -82,7 +82,7 @@ protected:
 
     struct Built {
         std::shared_ptr<Controls> controls;
-        std::unique_ptr<Window> window;
+        std::unique_ptr<NativeWindow> window;
 
         WindowWidget& widget() const { return static_cast<DesktopWindow&>(*window).widget(); }
     };

@@ -1,5 +1,5 @@
+#include "desktop/chart/chartwidget.h"
 #include "desktop/desktopfixture.h"
-#include "platform/desktop/chart/chartwidget.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -16,7 +16,7 @@ protected:
     WindowWidget* shownWindow(Name name)
     {
         windows();
-        WindowWidget& widget = static_cast<DesktopWindow&>(app.window(name)->window()).widget();
+        WindowWidget& widget = static_cast<DesktopWindow&>(app.window(name)->native()).widget();
         return widget.isVisible() ? &widget : nullptr;
     }
 

@@ -1,5 +1,5 @@
 #include "desktop/desktopfixture.h"
-#include "platform/desktop/filedialog.h"
+#include "desktop/filedialog.h"
 
 #include <windows.h>
 

@@ -1,8 +1,8 @@
 // In the initial size of a window, no label and no title of its charts is left out or elided.
+#include "desktop/chart/chartwidget.h"
+#include "desktop/chart/qtext.h"
+#include "desktop/grid.h"
 #include "desktop/samplesfixture.h"
-#include "platform/desktop/chart/chartwidget.h"
-#include "platform/desktop/chart/qtext.h"
-#include "platform/desktop/grid.h"
 
 #include <QPointer>
 #include <QPushButton>
@@ -52,12 +52,12 @@ protected:
         return nullptr;
     }
 
-    static void expectEveryPointLabelled(const ChartWidget& chart, const chart::Layout& layout)
+    static void expectEveryPointLabelled(const ChartWidget& chart, const Layout& layout)
     {
         std::set<int> labelled;
         std::map<double, double> ends; // right ends of the labels so far, by the top of their line
-        for (const chart::SlotLabel& label : layout.labels) {
-            const chart::Rect& box = label.name.box;
+        for (const SlotLabel& label : layout.labels) {
+            const Rect& box = label.name.box;
             EXPECT_FALSE(label.name.text.empty());
             EXPECT_TRUE(isWhole(label.name.text));
             EXPECT_LE(box.bottom(), chart.height());
@@ -77,7 +77,7 @@ protected:
     static std::size_t labelled(const WindowWidget& window)
     {
         std::set<int> labelledSlots;
-        for (const chart::SlotLabel& label : window.findChild<ChartWidget*>()->chartLayout().labels)
+        for (const SlotLabel& label : window.findChild<ChartWidget*>()->chartLayout().labels)
             labelledSlots.insert(label.slot);
         return labelledSlots.size();
     }
@@ -85,13 +85,13 @@ protected:
     static bool isWhole(TextSpan text) { return text.find(u'\u2026') == TextSpan::npos; }
 
     // The layout of the same chart on paper with 300 dots per inch.
-    static chart::Layout onPaper(const ChartWidget& chart)
+    static Layout onPaper(const ChartWidget& chart)
     {
         QImage paper(1, 1, QImage::Format_RGB32);
         paper.setDotsPerMeterX(11811);
         paper.setDotsPerMeterY(11811);
-        return chart::layoutChart(chart.plotData(), {double(chart.width()), double(chart.height())},
-                                  ChartFonts(chart.font(), chart.logicalDpiY(), paper), 0);
+        return layoutChart(chart.plotData(), {double(chart.width()), double(chart.height())},
+                           ChartFonts(chart.font(), chart.logicalDpiY(), paper), 0);
     }
 
     static void expectWhole(const WindowWidget& window)
@@ -101,7 +101,7 @@ protected:
         for (const ChartWidget* chart : charts) {
             expectEveryPointLabelled(*chart, chart->chartLayout());
             expectEveryPointLabelled(*chart, onPaper(*chart));
-            for (const chart::Title& title : chart->chartLayout().titles)
+            for (const Title& title : chart->chartLayout().titles)
                 EXPECT_TRUE(isWhole(title.text)) << toQString(title.text).toStdString();
         }
     }
@@ -160,7 +160,7 @@ TEST_P(FirstSize, TheChartsOfEveryRowHaveTheirFigures)
         forEveryChoice(*window, [&] {
             for (const ChartWidget* chart : window->findChildren<ChartWidget*>())
                 EXPECT_FALSE(chart->chartLayout().values.empty())
-                    << toQString(chart::titlesInOneLine(chart->chart())).toStdString();
+                    << toQString(titlesInOneLine(chart->chart())).toStdString();
         });
         (*down)->click();
         windows();
@@ -198,7 +198,7 @@ TEST_F(FirstSize, ACustomerNameOfThirtyCharactersIsNotElided)
     capture.replace(name, QStringLiteral("\\1NORTHWESTERN CONSOLIDATED FARM"));
     const WindowWidget* window = opened(capture);
     const auto* chart = window->findChild<ChartWidget*>();
-    ASSERT_TRUE(chart::titlesInOneLine(chart->chart()).find(u"CONSOLIDATED FARM") != Text::npos);
+    ASSERT_TRUE(titlesInOneLine(chart->chart()).find(u"CONSOLIDATED FARM") != Text::npos);
     expectWhole(*window);
 }
 

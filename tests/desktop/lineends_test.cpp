@@ -1,5 +1,5 @@
 // The line ends that terminals put on the clipboard.
-#include "platform/desktop/clipboard.h"
+#include "desktop/clipboard.h"
 
 #include <gtest/gtest.h>
 

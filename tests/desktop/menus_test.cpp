@@ -1,8 +1,8 @@
 // Context menus, and what their entries put on the clipboard.
+#include "desktop/chart/chartwidget.h"
+#include "desktop/clipboard.h"
 #include "desktop/desktopfixture.h"
-#include "platform/desktop/chart/chartwidget.h"
-#include "platform/desktop/clipboard.h"
-#include "platform/desktop/shown.h"
+#include "desktop/displaytext.h"
 
 #include <QAccessible>
 #include <QAction>

@@ -1,7 +1,7 @@
 // The line above the charts: what it paints, what it announces and what it leaves as it was.
+#include "desktop/chart/chartwidget.h"
 #include "desktop/desktopfixture.h"
-#include "platform/desktop/chart/chartwidget.h"
-#include "platform/desktop/noticeline.h"
+#include "desktop/noticeline.h"
 
 #include <QAccessible>
 #include <QApplication>

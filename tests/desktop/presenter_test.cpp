@@ -1,8 +1,8 @@
 // When windows appear on the screen, how the clipboard is read, and printing.
 #include "app/application.h"
+#include "desktop/chart/chartwidget.h"
+#include "desktop/clipboard.h"
 #include "desktop/desktopfixture.h"
-#include "platform/desktop/chart/chartwidget.h"
-#include "platform/desktop/clipboard.h"
 #include "support/capturebuilder.h"
 
 #include <QApplication>
@@ -20,9 +20,9 @@ namespace {
 
 class PresenterTest : public test::DesktopTest {
 protected:
-    static bool realised(const Form& form)
+    static bool realised(const Window& form)
     {
-        auto& window = static_cast<DesktopWindow&>(form.window());
+        auto& window = static_cast<DesktopWindow&>(form.native());
         return window.hasWidget() && window.widget().internalWinId() != 0;
     }
 
@@ -49,13 +49,13 @@ TEST_F(PresenterTest, StartWithACaptureNeverCreatesTheStartUpWindow)
 {
     copy(productScreen());
     app.start();
-    const Form& product = *app.window("frmProduct");
+    const Window& product = *app.window("frmProduct");
     ASSERT_TRUE(product.visible());
     EXPECT_FALSE(realised(product)) << "before the handlers have returned";
     platform.settle();
     EXPECT_TRUE(realised(product));
-    EXPECT_TRUE(static_cast<DesktopWindow&>(product.window()).widget().isVisible());
-    EXPECT_FALSE(static_cast<DesktopWindow&>(app.window("startup")->window()).hasWidget());
+    EXPECT_TRUE(static_cast<DesktopWindow&>(product.native()).widget().isVisible());
+    EXPECT_FALSE(static_cast<DesktopWindow&>(app.window("startup")->native()).hasWidget());
 }
 
 TEST_F(PresenterTest, StartUpWindowIsVisibleUnderTheMessage)
@@ -65,7 +65,7 @@ TEST_F(PresenterTest, StartUpWindowIsVisibleUnderTheMessage)
     ASSERT_EQ(platform.messages.size(), 1U);
     EXPECT_TRUE(realised(*app.window("startup")));
     platform.settle();
-    EXPECT_TRUE(static_cast<DesktopWindow&>(app.window("startup")->window()).widget().isVisible());
+    EXPECT_TRUE(static_cast<DesktopWindow&>(app.window("startup")->native()).widget().isVisible());
 }
 
 TEST_F(PresenterTest, EventLoopShowsAndHidesWindowsByItself)

@@ -1,8 +1,8 @@
 // "Save Picture…" through the toolkit's dialog, and failures of the file system.
 #include "capture/failure.h"
 #include "desktop/chartsample.h"
-#include "platform/desktop/savepicture.h"
-#include "platform/desktop/shown.h"
+#include "desktop/displaytext.h"
+#include "desktop/savepicture.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

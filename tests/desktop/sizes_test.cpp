@@ -1,8 +1,8 @@
 // Every window fits a small screen. At any size, no widget overlaps another, extends beyond its parent or is
 // cut off.
+#include "desktop/grid.h"
+#include "desktop/noticeline.h"
 #include "desktop/samplesfixture.h"
-#include "platform/desktop/grid.h"
-#include "platform/desktop/noticeline.h"
 
 #include <QApplication>
 #include <QClipboard>

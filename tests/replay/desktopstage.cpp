@@ -1,4 +1,4 @@
-#include "platform/desktop/desktopplatform.h"
+#include "desktop/desktopplatform.h"
 #include "replay/desktopwidgets.h"
 #include "replay/player.h"
 
@@ -15,7 +15,7 @@ class AnsweringDesktop : public DesktopPlatform {
 public:
     PrinterAnswer printer;
 
-    double choosePrinter(Window&) override
+    double choosePrinter(NativeWindow&) override
     {
         if (printer.kind == PrinterAnswer::Kind::Cancel)
             throw Failure{u"The printer dialog was cancelled."};
@@ -25,14 +25,14 @@ public:
 protected:
     void showMessage(TextSpan, TextSpan) override { settle(); }
 
-    void printWindow(Window&) override
+    void printWindow(NativeWindow&) override
     {
         if (printer.kind == PrinterAnswer::Kind::Fail)
             throw Failure{u"The printer does not answer."};
     }
 
     void reportError(TextSpan) override {}
-    void spin(int) override {}
+    void waitForMoreLines(int) override {}
     void finish() override {}
 };
 
@@ -65,12 +65,12 @@ public:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
-    SeenWindow look(const Form& form) override { return seenOnWidgets(form); }
-    void press(const Form& form, Name button) override { pressWidget(form, button); }
-    void choose(const Form& form, Name group, int index) override { chooseWidget(form, group, index); }
-    void clickRow(const Form& form, Name grid, int row) override { clickRowOfWidget(form, grid, row); }
-    void close(const Form& form) override { closeWidget(form); }
-    void copy(const Form& form, Name chartOrGrid) override { copyFromWidget(form, chartOrGrid); }
+    SeenWindow look(const Window& form) override { return seenOnWidgets(form); }
+    void press(const Window& form, Name button) override { pressWidget(form, button); }
+    void choose(const Window& form, Name group, int index) override { chooseWidget(form, group, index); }
+    void clickRow(const Window& form, Name grid, int row) override { clickRowOfWidget(form, grid, row); }
+    void close(const Window& form) override { closeWidget(form); }
+    void copy(const Window& form, Name chartOrGrid) override { copyFromWidget(form, chartOrGrid); }
 
 private:
     std::unique_ptr<QApplication> application_; // before the platform, which needs it

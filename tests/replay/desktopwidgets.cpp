@@ -1,9 +1,9 @@
 #include "replay/desktopwidgets.h"
 
-#include "platform/desktop/chart/chartwidget.h"
-#include "platform/desktop/desktopwindow.h"
-#include "platform/desktop/noticeline.h"
-#include "platform/desktop/shown.h"
+#include "desktop/chart/chartwidget.h"
+#include "desktop/desktopwindow.h"
+#include "desktop/displaytext.h"
+#include "desktop/noticeline.h"
 #include "platform/gridtext.h"
 
 #include <QAction>
@@ -25,13 +25,13 @@ namespace plotvue::replay {
 
 namespace {
 
-WindowWidget& widgetOf(const Form& form)
+WindowWidget& widgetOf(const Window& form)
 {
-    return static_cast<DesktopWindow&>(form.window()).widget();
+    return static_cast<DesktopWindow&>(form.native()).widget();
 }
 
 template <typename Widget>
-Widget& widgetOf(const Form& form, Name name)
+Widget& widgetOf(const Window& form, Name name)
 {
     auto* found = widgetOf(form).findChild<Widget*>(QString::fromLatin1(name.data(), qsizetype(name.size())));
     if (!found)
@@ -40,7 +40,7 @@ Widget& widgetOf(const Form& form, Name name)
 }
 
 // The radio buttons of an option group, in the order of its options.
-std::vector<QRadioButton*> buttonsOf(const Form& form, Name group)
+std::vector<QRadioButton*> buttonsOf(const Window& form, Name group)
 {
     std::vector<QRadioButton*> buttons;
     forEachControl(form.controls().declaration.content, [&](const auto& control) {
@@ -65,22 +65,22 @@ QString captionOn(const QRadioButton& button)
     return elided.isEmpty() ? button.text().replace(QLatin1String("&&"), QLatin1String("&")) : elided;
 }
 
-void lookAt(SeenText& text, const Form& form, Name name)
+void lookAt(SeenText& text, const Window& form, Name name)
 {
     switch (text.of) {
     case SeenText::Of::Button:
         text.text = toText(widgetOf<QPushButton>(form, name).text());
         break;
     case SeenText::Of::Label:
-        text.text = seen(text.text, shown(text.text), widgetOf<QLabel>(form, name).text());
+        text.text = seen(text.text, displayText(text.text), widgetOf<QLabel>(form, name).text());
         break;
     case SeenText::Of::TextBox:
-        text.text = seen(text.text, shownOnOneLine(text.text), widgetOf<QLineEdit>(form, name).text());
+        text.text = seen(text.text, displayTextOnOneLine(text.text), widgetOf<QLineEdit>(form, name).text());
         break;
     }
 }
 
-void lookAt(SeenList& items, const Form& form, Name name)
+void lookAt(SeenList& items, const Window& form, Name name)
 {
     const auto& list = widgetOf<QListWidget>(form, name);
     items.clear();
@@ -88,13 +88,13 @@ void lookAt(SeenList& items, const Form& form, Name name)
         items.push_back(toText(list.item(row)->text()));
 }
 
-void lookAt(OptionGroup& group, const Form& form, Name name)
+void lookAt(OptionGroup& group, const Window& form, Name name)
 {
     const auto buttons = buttonsOf(form, name);
     group.chosen.clear();
     for (std::size_t i = 0; i < buttons.size(); ++i) {
         OptionGroup::Entry& option = group.options.at(i);
-        option.caption = seen(option.caption, shownOnOneLine(option.caption), captionOn(*buttons[i]));
+        option.caption = seen(option.caption, displayTextOnOneLine(option.caption), captionOn(*buttons[i]));
         option.visible = !buttons[i]->isHidden();
         if (buttons[i]->isChecked())
             group.chosen.push_back(option.index);
@@ -102,7 +102,7 @@ void lookAt(OptionGroup& group, const Form& form, Name name)
     std::ranges::sort(group.chosen);
 }
 
-void lookAt(Grid& grid, const Form& form, Name name)
+void lookAt(Grid& grid, const Window& form, Name name)
 {
     const QAbstractItemModel& model = *widgetOf<QTableView>(form, name).model();
     const Grid wanted = grid;
@@ -126,7 +126,7 @@ void lookAt(Grid& grid, const Form& form, Name name)
 }
 
 // Leaves the chart empty if the widget's drawing differs from that of a new widget with the same chart.
-void lookAt(Chart& chart, const Form& form, Name name)
+void lookAt(Chart& chart, const Window& form, Name name)
 {
     const auto& widget = widgetOf<ChartWidget>(form, name);
     ChartWidget fresh;
@@ -139,7 +139,7 @@ void lookAt(Chart& chart, const Form& form, Name name)
 
 } // namespace
 
-SeenWindow seenOnWidgets(const Form& form)
+SeenWindow seenOnWidgets(const Window& form)
 {
     SeenWindow window = seenIn(form.controls());
     window.caption = toText(widgetOf(form).windowTitle());
@@ -150,19 +150,19 @@ SeenWindow seenOnWidgets(const Form& form)
     return window;
 }
 
-void pressWidget(const Form& form, Name button)
+void pressWidget(const Window& form, Name button)
 {
     widgetOf<QPushButton>(form, button).click();
 }
 
-void chooseWidget(const Form& form, Name group, int index)
+void chooseWidget(const Window& form, Name group, int index)
 {
     const auto& options = form.controls().options(group)->options;
     const auto at = std::ranges::find(options, index, &OptionGroup::Entry::index);
     buttonsOf(form, group).at(static_cast<std::size_t>(at - options.begin()))->click();
 }
 
-void clickRowOfWidget(const Form& form, Name grid, int row)
+void clickRowOfWidget(const Window& form, Name grid, int row)
 {
     auto& table = widgetOf<QTableView>(form, grid);
     table.setCurrentIndex(table.model()->index(row - 1, 0));
@@ -170,13 +170,13 @@ void clickRowOfWidget(const Form& form, Name grid, int row)
     QCoreApplication::sendEvent(&table, &enter);
 }
 
-void closeWidget(const Form& form)
+void closeWidget(const Window& form)
 {
     QCloseEvent event;
     QCoreApplication::sendEvent(&widgetOf(form), &event);
 }
 
-void copyFromWidget(const Form& form, Name chartOrGrid)
+void copyFromWidget(const Window& form, Name chartOrGrid)
 {
     // A chart can also copy its picture.
     const QList<QAction*> actions = widgetOf<QWidget>(form, chartOrGrid).actions();

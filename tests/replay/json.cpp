@@ -158,7 +158,7 @@ std::string toJson(const Event& event)
         return of("copy") + R"(,"text":)" + quote(event.text) + "}";
     case Event::Kind::Error:
         return of("error") + R"(,"text":)" + quote(event.text) + "}";
-    case Event::Kind::Spin:
+    case Event::Kind::Wait:
         return of("spin") + "}";
     case Event::Kind::End:
         return of("end") + "}";

@@ -127,24 +127,24 @@ void Player::printer(const std::vector<std::string>& words)
 
 void Player::dump(Name window)
 {
-    const Form& shown = form(window);
+    const Window& shown = form(window);
     if (shown.loaded())
         out_ << toJson(window, shown.visible(), stage_.look(shown)) << '\n';
     else
         out_ << unloadedJson(window) << '\n';
 }
 
-Form& Player::form(Name window)
+Window& Player::form(Name window)
 {
-    Form* found = app_.window(window);
+    Window* found = app_.window(window);
     if (!found)
         throw BadLine("no window " + std::string(window));
     return *found;
 }
 
-Form& Player::loadedForm(Name window)
+Window& Player::loadedForm(Name window)
 {
-    Form& found = form(window);
+    Window& found = form(window);
     if (!found.loaded())
         throw BadLine(std::string(window) + " is not loaded");
     return found;

@@ -1,6 +1,6 @@
 #include "chart/figurestable.h"
 #include "platform/gridtext.h"
-#include "platform/recording/recording.h"
+#include "recording/recordingplatform.h"
 #include "replay/player.h"
 
 namespace plotvue::replay {
@@ -21,19 +21,18 @@ public:
                                                                               : Answer::Cancel;
     }
 
-    SeenWindow look(const Form& form) override { return seenIn(form.controls()); }
-    void press(const Form& form, Name button) override { form.controls().press(button); }
-    void choose(const Form& form, Name group, int index) override { form.controls().choose(group, index); }
-    void clickRow(const Form& form, Name grid, int row) override { form.controls().clickRow(grid, row); }
-    void close(const Form& form) override { form.controls().close(); }
+    SeenWindow look(const Window& form) override { return seenIn(form.controls()); }
+    void press(const Window& form, Name button) override { form.controls().press(button); }
+    void choose(const Window& form, Name group, int index) override { form.controls().choose(group, index); }
+    void clickRow(const Window& form, Name grid, int row) override { form.controls().clickRow(grid, row); }
+    void close(const Window& form) override { form.controls().close(); }
 
-    void copy(const Form& form, Name name) override
+    void copy(const Window& form, Name name) override
     {
         const Seen seen = seenIn(form.controls()).controls.find(name)->second;
         const auto* grid = std::get_if<Grid>(&seen);
         platform_.run([&] {
-            platform_.copy(grid ? rowsTable(*grid)
-                                : chart::figuresTable(chart::PlotData(std::get<Chart>(seen)), u'.'));
+            platform_.copy(grid ? rowsTable(*grid) : figuresTable(PlotData(std::get<Chart>(seen)), u'.'));
         });
     }
 

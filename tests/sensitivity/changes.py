@@ -7,7 +7,7 @@ from building import ROOT
 
 SCREENS = ["history", "group", "ranked", "app"]
 LAYOUT = ["src/capture/lines.cpp", "src/capture/lines.h", "src/capture/month.cpp"]
-FILES = ["src/ranked/exchange.cpp", "src/ranked/smallfile.cpp", "src/ranked/smallfile_unix.cpp"]  # lay out no screen
+FILES = ["src/files/exchange.cpp", "src/files/smallfile.cpp", "src/files/smallfile_unix.cpp"]  # lay out no screen
 COMPUTED = ["capture", *SCREENS, "platform", "chart"]
 
 OPERATORS = {" + ": " - ", " - ": " + ", " * ": " / ", " / ": " * ", " % ": " / ", " += ": " -= ", " -= ": " += ",

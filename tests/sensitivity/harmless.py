@@ -45,7 +45,7 @@ HARMLESS = {
         r"mid\(rest, 1, end( - \[1 -> 0\]|\[ - -> \+ \]1)": "the semicolon after a figure ends the number",
         r"i\[ < -> <= \]maxGroups \* valuesPerGroup": NOTHING_MORE,
     },
-    r"ranked/smallfile": {
+    r"files/smallfile": {
         r"descriptor|written|count|buffer\[|done|good": SYSTEM_CALL,
     },
     r"ranked/": {

@@ -18,7 +18,7 @@ bool holds(const std::vector<std::string>& items, const std::string& item)
 }
 
 // The record of the chosen row; absent if the small files hold none.
-std::optional<Record> chosenRecord(const DrillDownDesign& design)
+std::optional<EntryLines> chosenRecord(const DrillDownDesign& design)
 {
     try {
         const KeyValues chosen = readChosenRow(design.analysis.key);
@@ -160,8 +160,8 @@ void Walk::finish()
 {
     if (over())
         return;
-    std::map<std::string, const Form*> windows; // sorted by name
-    for (const Form* window : player_.application().windows())
+    std::map<std::string, const Window*> windows; // sorted by name
+    for (const Window* window : player_.application().windows())
         windows.emplace(window->name(), window);
     for (const auto& [name, window] : windows) {
         if (window->loaded() != loaded_.contains(name) || window->visible() != visible_.contains(name))

@@ -50,7 +50,7 @@ void Walk::heard(const Event& event)
     case Event::Kind::End:
         end_ = "end";
         break;
-    case Event::Kind::Spin:
+    case Event::Kind::Wait:
         end_ = "spin";
         break;
     default:
@@ -175,7 +175,7 @@ std::vector<Walk::Offer> Walk::offers(const std::string& window)
     if (manner_.talkative)
         play("dump " + window);
     std::vector<Offer> all;
-    const Form& form = *player_.application().window(window);
+    const Window& form = *player_.application().window(window);
     for (const auto& [name, seen] : stage_.look(form).controls) {
         Offer offer;
         if (const auto* text = std::get_if<replay::SeenText>(&seen);

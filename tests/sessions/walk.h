@@ -82,7 +82,7 @@ private:
     struct Drawing {
         std::string copied; // what was on the clipboard
         std::map<Name, std::vector<int>> options;
-        std::optional<Record> record; // of a drill-down window
+        std::optional<EntryLines> record; // of a drill-down window
     };
     std::map<std::string, Drawing> drawn_; // the last one of each window
     std::string held_;                     // by the clipboard

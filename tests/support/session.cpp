@@ -36,7 +36,7 @@ std::string sentence(const Event& event)
         return "print " + window;
     case Event::Kind::Copy:
         return "copy " + toUtf8(event.text);
-    case Event::Kind::Spin:
+    case Event::Kind::Wait:
         return "spin";
     case Event::Kind::Error:
         return "error " + toUtf8(event.text);
@@ -85,7 +85,7 @@ void Session::start(TextSpan clipboard)
 
 Controls& Session::controls(Name window)
 {
-    Form* form = app.window(window);
+    Window* form = app.window(window);
     if (!form)
         throw std::runtime_error("no window " + std::string(window));
     return form->controls();

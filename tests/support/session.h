@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/application.h"
-#include "platform/recording/recording.h"
+#include "recording/recordingplatform.h"
 
 #include <string>
 #include <vector>

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 namespace {
 
@@ -171,4 +171,4 @@ TEST(ChartBars, OfAComponentOfZeroAreFlat)
     EXPECT_EQ(laidOut(chart, {}, {448, 260}).bars.size(), 1U);
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 TEST(ChartDrawable, RemovesControlCharacters)
 {
@@ -39,4 +39,4 @@ TEST(ChartDrawable, ElidesToTheWidth)
     EXPECT_TRUE(elided(u"Long title", 5, width).empty());
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

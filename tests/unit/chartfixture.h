@@ -7,7 +7,7 @@
 #include <sstream>
 #include <string>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 class SixByTwelve : public Metrics {
 public:
@@ -90,4 +90,4 @@ inline std::string describeLabels(const Layout& layout)
     });
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

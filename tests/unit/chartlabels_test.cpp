@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 namespace {
 
@@ -207,4 +207,4 @@ TEST(ChartLabels, IfSlantedEndBeforeTheLeftEdge)
     EXPECT_EQ(narrow(layout.labels[22].name.text), "ABCDEFGHIJKL");
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 TEST(ChartLayout, IsExactToThePixel)
 {
@@ -147,4 +147,4 @@ TEST(ChartLayout, IsFiniteOnAnyPaperWithAnyFigures)
         }
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 namespace {
 
@@ -247,4 +247,4 @@ TEST(ChartPlotData, JoinsTheTitles)
     EXPECT_TRUE(titlesInOneLine({}).empty());
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 namespace {
 
@@ -171,4 +171,4 @@ TEST(ChartFigureText, NeedsNoDecimalsForRoundingErrors)
     EXPECT_EQ(decimalsNeeded(large, 2), 0);
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 namespace {
 
@@ -129,4 +129,4 @@ TEST(ChartLegend, IsLeftOutIfItSaysNothing)
     EXPECT_EQ(layout.plot.top, 38);
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

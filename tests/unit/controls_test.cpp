@@ -33,7 +33,7 @@ Declaration everything()
                                       .chosen = 3}},
                          {ChartBox{.name = "ChartA", .chart = {.titles = {{2, u"by design"}}}}},
                          {GridBox{.name = "GridA", .spokenName = u"A", .format = u"<One|Two |Three"}},
-                         {PictureBox{.name = "PicA", .spokenName = u"A", .shows = PictureBox::Shows::Gain}},
+                         {PictureBox{.name = "PicA", .spokenName = u"A", .symbol = PictureBox::Symbol::Gain}},
                          {Space{}, 1}}}};
 }
 
@@ -65,7 +65,7 @@ TEST_F(ControlsTest, HaveTheDeclaredValues)
 
 TEST_F(ControlsTest, HaveOneChosenOptionPerFrame)
 {
-    const Shown<OptionGroup>& optA = controls.options("optA");
+    const Property<OptionGroup>& optA = controls.options("optA");
     EXPECT_THAT(optA->chosen, ElementsAre(0, 3));
     controls.choose("optA", 2);
     EXPECT_THAT(optA->chosen, ElementsAre(0, 2));

@@ -1,6 +1,6 @@
 // The accessible names and the shortcuts of each window.
 #include "app/application.h"
-#include "platform/recording/recording.h"
+#include "recording/recordingplatform.h"
 #include "windowfixture.h"
 
 namespace plotvue::test {
@@ -13,7 +13,7 @@ protected:
     void open(std::string_view capture)
     {
         platform.clipboard = sample(capture);
-        Form* startup = app.window("startup");
+        Window* startup = app.window("startup");
         startup->loaded() ? startup->controls().press("Command1") : app.start();
     }
 

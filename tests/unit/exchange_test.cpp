@@ -1,5 +1,5 @@
 #include "capture/failure.h"
-#include "ranked/exchange.h"
+#include "files/exchange.h"
 #include "support/session.h"
 
 #include <filesystem>

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 namespace {
 
@@ -137,4 +137,4 @@ TEST(FiguresTable, OfAnEmptyChartIsEmpty)
     EXPECT_EQ(tableOf({.titles = {{2, u"By design"}}, .series = {{}, {}}}), u"");
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

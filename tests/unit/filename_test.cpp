@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace plotvue::chart {
+namespace plotvue {
 
 TEST(FileName, KeepsWhatAFileNameCanHold)
 {
@@ -49,4 +49,4 @@ TEST(FileName, HasAtMost80Characters)
     EXPECT_EQ(fileName(Text(79, u'a') + pair), Text(79, u'a')) << "half a character is no character";
 }
 
-} // namespace plotvue::chart
+} // namespace plotvue

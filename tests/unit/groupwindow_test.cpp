@@ -180,12 +180,12 @@ INSTANTIATE_TEST_SUITE_P(Both, GroupWindows,
                          testing::Values(Screen{sxc, u"QXM21SXC"}, Screen{cxs, u"QXM21CXS"}),
                          [](const auto& tested) { return std::string(tested.param.window); });
 
-template <typename Window>
+template <typename Kind>
 Texts frames()
 {
-    struct Open : Window {
-        using Window::declare;
-        using Window::Window;
+    struct Open : Kind {
+        using Kind::declare;
+        using Kind::Kind;
     };
     RecordingPlatform platform;
     Startup startup(platform);

@@ -153,7 +153,7 @@ TEST(ScreenLines, FewerThan19LinesNeverEnd)
     for (std::size_t count : {1u, 2u, 18u}) {
         const Text text = numbered(count).text();
         const ScreenLines lines(text);
-        EXPECT_THROW(lines.requireAll(), EndlessRead) << count;
+        EXPECT_THROW(lines.requireAll(), TooFewLines) << count;
         EXPECT_EQ(lines.count(), static_cast<int>(count));
         EXPECT_EQ(lines[1], u"L1\r");
     }
@@ -161,15 +161,15 @@ TEST(ScreenLines, FewerThan19LinesNeverEnd)
 
 TEST(ScreenLines, NothingAtAllNeverEnds)
 {
-    EXPECT_THROW(ScreenLines(u"").requireAll(), EndlessRead);
+    EXPECT_THROW(ScreenLines(u"").requireAll(), TooFewLines);
 }
 
 TEST(ScreenLines, NothingAfterLine19NeverEndsEither)
 {
     const Text lines19 = numbered(19).text();
-    EXPECT_THROW(ScreenLines(lines19).requireAll(), EndlessRead);
+    EXPECT_THROW(ScreenLines(lines19).requireAll(), TooFewLines);
     const Text blankLines = lines19 + u"\r\n\r\n";
-    EXPECT_THROW(ScreenLines(blankLines).requireAll(), EndlessRead);
+    EXPECT_THROW(ScreenLines(blankLines).requireAll(), TooFewLines);
     const Text oneMore = lines19 + u" ";
     EXPECT_NO_THROW(ScreenLines(oneMore).requireAll());
 }
@@ -178,14 +178,14 @@ TEST(ScreenLines, ALastLineWithoutItsEndIsNotEnoughEither)
 {
     Text text = numbered(19).text();
     text.resize(text.size() - 2);
-    EXPECT_THROW(ScreenLines(text).requireAll(), EndlessRead);
+    EXPECT_THROW(ScreenLines(text).requireAll(), TooFewLines);
 }
 
 int linesBeforeTheEnd(const Text& text)
 {
     try {
         ScreenLines(text).requireAll();
-    } catch (const EndlessRead& read) {
+    } catch (const TooFewLines& read) {
         return read.lines;
     }
     return -1;

@@ -22,10 +22,10 @@ TEST(MonthToMonth, PicturesTellGainsFromLosses)
     ASSERT_EQ(frmM2Mpft.grids.size(), 2u);
     const PictureBox& gain = frmM2Mpft.grids[0].picture.value();
     EXPECT_EQ(gain.name, "Picture1");
-    EXPECT_EQ(gain.shows, PictureBox::Shows::Gain);
+    EXPECT_EQ(gain.symbol, PictureBox::Symbol::Gain);
     const PictureBox& loss = frmM2Mpft.grids[1].picture.value();
     EXPECT_EQ(loss.name, "Picture2");
-    EXPECT_EQ(loss.shows, PictureBox::Shows::Loss);
+    EXPECT_EQ(loss.symbol, PictureBox::Symbol::Loss);
     EXPECT_FALSE(frmProfRank.grids[0].picture);
 }
 

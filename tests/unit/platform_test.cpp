@@ -1,5 +1,5 @@
-#include "platform/form.h"
-#include "platform/recording/recording.h"
+#include "recording/recordingplatform.h"
+#include "window/window.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,9 +12,9 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 // A window whose button runs the test's code.
-class AnyForm : public Form {
+class AnyForm : public Window {
 public:
-    explicit AnyForm(Platform& platform) : Form(platform) {}
+    explicit AnyForm(Platform& platform) : Window(platform) {}
 
     std::function<void()> onLoad = [] {};
     std::function<void()> onClick = [] {};
@@ -180,16 +180,16 @@ TEST_F(Windows, ReportALackOfMemory)
 
 TEST_F(Windows, SpinIfAReaderNeverReturns)
 {
-    window.onClick = [] { throw EndlessRead{}; };
+    window.onClick = [] { throw TooFewLines{}; };
     window.show();
     window.controls().press("cmdAny");
-    EXPECT_EQ(kinds.back(), Spin);
+    EXPECT_EQ(kinds.back(), Wait);
     EXPECT_TRUE(platform.over());
 }
 
 TEST_F(Windows, RunNoHandlerAfterTheEnd)
 {
-    const std::function<void()> endings[] = {[] { throw EndOfProcess{}; }, [] { throw EndlessRead{}; },
+    const std::function<void()> endings[] = {[] { throw EndOfProcess{}; }, [] { throw TooFewLines{}; },
                                              [] { throw Failure{u"It does not fit."}; }};
     for (const auto& ending : endings) {
         RecordingPlatform other;

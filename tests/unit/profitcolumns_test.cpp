@@ -21,14 +21,14 @@ constexpr TextSpan partsLine = u"987654321" // 6-14: the figure, where it is rea
                                u"777";
 
 struct Analysis {
-    const RankedAnalysis& list;
+    const RankedScreen& list;
     TextSpan title, figureMark;
     double previousProfit;
 };
 
 class ProfitColumns : public testing::TestWithParam<Analysis> {
 protected:
-    RankedScreen read(const CaptureBuilder& capture)
+    RankedFigures read(const CaptureBuilder& capture)
     {
         text_ = capture.text();
         return readRanked(GetParam().list, text_);
@@ -48,7 +48,7 @@ private:
 TEST_P(ProfitColumns, OfTheEntry)
 {
     CaptureBuilder capture = screen();
-    const RankedScreen result = read(capture.put(2, 1, entryLine(u"012")));
+    const RankedFigures result = read(capture.put(2, 1, entryLine(u"012")));
     const Entry& entry = result.entry(12);
     EXPECT_EQ(entry.numbers[profit::customer], 12345);
     EXPECT_EQ(entry.texts[profit::customerName], thirtyLetters);
@@ -69,7 +69,7 @@ TEST_P(ProfitColumns, OfTheFigures)
     capture.put(2, 1, entryLine(u"001"));
     const std::size_t figures = 6;
     capture.put(3, figures, partsLine).put(3, 1, GetParam().figureMark);
-    const RankedScreen result = read(capture);
+    const RankedFigures result = read(capture);
     const Entry& entry = result.entry(1);
     EXPECT_EQ(entry.numbers[profit::figure], 987654321);
     EXPECT_EQ(entry.numbers[profit::volumePart], 123456789);
@@ -86,7 +86,7 @@ TEST_P(ProfitColumns, OfTheLabels)
 TEST_P(ProfitColumns, OfTheTerritorysProfits)
 {
     CaptureBuilder capture = screen();
-    const RankedScreen result = read(capture.put(2, 1, u"Mprofit9123456789059876543210131111"));
+    const RankedFigures result = read(capture.put(2, 1, u"Mprofit9123456789059876543210131111"));
     EXPECT_EQ(result.numbers[profit::current], 1234567890);
     EXPECT_EQ(result.numbers[profit::previous], GetParam().previousProfit);
 }

@@ -30,7 +30,7 @@ TEST(RankedProfit, ListsThePositiveProfits)
     EXPECT_EQ(grid.cells, (Rows{{u"1", u"1842.5", u"10001", atLeft(u"CUSTOMER 1", 30), u"GROUP 1   "},
                                 {u"2", u"30", u"10002", atLeft(u"CUSTOMER 2", 30), u"GROUP 2   "}}));
     const Text text = screen.text();
-    const RankedScreen read = readRanked(frmProfRank, text);
+    const RankedFigures read = readRanked(frmProfRank, text);
     EXPECT_EQ(read.counts[profit::gains], 2);
     EXPECT_EQ(read.counts[profit::losses], 1);
 }
@@ -73,7 +73,7 @@ TEST(RankedProfit, ALineMayOpenAnEntryAndGiveItsComponents)
                           .put(2, 1, u"RANK:  2")
                           .put(2, 18, u"1234567890123456789012345 GAIN:")
                           .text();
-    const RankedScreen read = readRanked(frmProfRank, text);
+    const RankedFigures read = readRanked(frmProfRank, text);
     EXPECT_EQ(read.entry(2).numbers[profit::volumePart], 234567890); // columns 19 to 27
     EXPECT_EQ(read.entry(2).numbers[profit::marginPart], 567890123); // columns 32 to 40
 }
@@ -132,7 +132,7 @@ TEST(RankedProfit, TheLaterComponentLineIsKeptOfTheEntryToo)
 {
     for (const bool profitLast : {true, false}) {
         const Text text = withBothLines(profitLast).text();
-        const RankedScreen read = readRanked(frmProfRank, text);
+        const RankedFigures read = readRanked(frmProfRank, text);
         EXPECT_EQ(read.entry(1).numbers[profit::figure], 50);
         EXPECT_EQ(read.entry(1).numbers[profit::volumePart], profitLast ? 8 : 11);
         EXPECT_EQ(read.entry(1).numbers[profit::marginPart], profitLast ? -3 : 22);
@@ -182,7 +182,7 @@ TEST(RankedProfit, FigureLinesBeforeTheFirstRankArePassedOver)
         EXPECT_EQ(session.column(2), Texts{u"10001"});
         EXPECT_EQ(components(session, 1), (Numbers{8, -3}));
         const Text text = capture.text();
-        const RankedScreen read = readRanked(frmProfRank, text);
+        const RankedFigures read = readRanked(frmProfRank, text);
         EXPECT_EQ(read.counts, (std::array{1, 1}));
         EXPECT_EQ(read.entry(1).numbers[profit::figure], 50);
         EXPECT_EQ(read.entry(1).numbers[profit::volumePart], 8);

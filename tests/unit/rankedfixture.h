@@ -2,8 +2,8 @@
 // what the windows and the small files then hold.
 #pragma once
 
-#include "ranked/analyses.h"
 #include "ranked/profitanalysis.h"
+#include "ranked/rankedscreens.h"
 #include "support/capturebuilder.h"
 #include "windowfixture.h"
 
@@ -63,7 +63,7 @@ Text hostScreen(const Lines& lines); // just these lines
 // A screen of each analysis with three entries.
 struct ThreeEntries {
     Name list;
-    const RankedAnalysis& analysis;
+    const RankedScreen& analysis;
     Text capture;
     std::array<std::string, 3> keys; // what the chosen-row file holds
     std::array<Text, 3> subjects;    // how subject() begins

@@ -75,7 +75,7 @@ TEST_P(RankedList, ACaptureCutAnywhereIsNoError)
 {
     const TextSpan whole = GetParam().capture;
     for (std::size_t length = whole.find(u'\r'); length <= whole.size(); ++length) {
-        const RankedScreen screen = readRanked(GetParam().analysis, whole.substr(0, length));
+        const RankedFigures screen = readRanked(GetParam().analysis, whole.substr(0, length));
         EXPECT_TRUE(screen.accepted) << length;
         for (const RankedGrid& grid : GetParam().analysis.grids)
             EXPECT_EQ(ranksIn(grid, screen).size(), screen.counts[static_cast<std::size_t>(grid.count)])

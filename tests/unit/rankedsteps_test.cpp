@@ -119,7 +119,7 @@ TEST_P(RankedSteps, KeepTheDataTypeUntilTheChartIsClosed)
 }
 
 // The grid column of a row is its key, in quotation marks where that is a text.
-std::string keyOfRow(const RankedAnalysis& analysis, const Texts& row)
+std::string keyOfRow(const RankedScreen& analysis, const Texts& row)
 {
     std::string record;
     for (const KeyPart& part : analysis.key.parts) {

@@ -115,7 +115,7 @@ TEST(Sentences, NameNoLineWhereNoneIsToBlame)
     EXPECT_EQ(lineName(capture, TextSpan(capture).substr(3)), u"Line 2 of the copied text: ");
     EXPECT_EQ(lineName(capture, u"B"), u"") << "no part of it";
     EXPECT_EQ(lineName(capture, {}), u"");
-    EXPECT_EQ(said([&] { readCapture(capture, [] { throw Failure{u"It is so."}; }); }), u"It is so.");
+    EXPECT_EQ(said([&] { nameFailedLine(capture, [] { throw Failure{u"It is so."}; }); }), u"It is so.");
 }
 
 TEST(Sentences, NameTheInnermostLine)
@@ -123,8 +123,9 @@ TEST(Sentences, NameTheInnermostLine)
     const Text capture = u"A\r\nB\r\n";
     const TextSpan text = capture;
     EXPECT_EQ(said([&] {
-                  readCapture(text, [&] {
-                      readLine(text, [&] { readLine(text.substr(3), [] { throw Failure{u"It is so."}; }); });
+                  nameFailedLine(text, [&] {
+                      locateFailure(
+                          text, [&] { locateFailure(text.substr(3), [] { throw Failure{u"It is so."}; }); });
                   });
               }),
               u"Line 2 of the copied text: It is so.");

@@ -1,5 +1,5 @@
 // A small file's rights, and what may be in its place on a Unix system.
-#include "ranked/exchange.h"
+#include "files/exchange.h"
 #include "rankedfixture.h"
 
 #include <csignal>

@@ -1,6 +1,6 @@
 // A small file's rights, and what may be in its place on Windows.
-#include "ranked/exchange.h"
-#include "ranked/smallfile.h"
+#include "files/exchange.h"
+#include "files/smallfile.h"
 #include "rankedfixture.h"
 #include "support/owneronly.h"
 

@@ -1,8 +1,8 @@
 // printer NAME COPIES: charts the text of the clipboard and presses Print. In place of the printer dialog, it
 // chooses that printer and number of copies. Everything else is as in the program.
 #include "app/application.h"
-#include "platform/desktop/desktopplatform.h"
-#include "platform/desktop/desktopwindow.h"
+#include "desktop/desktopplatform.h"
+#include "desktop/desktopwindow.h"
 
 #include <QApplication>
 #include <QPrinter>
@@ -31,13 +31,13 @@ class AnsweredDesktop : public DesktopPlatform {
 public:
     AnsweredPrinting printing;
 
-    double choosePrinter(Window& window) override
+    double choosePrinter(NativeWindow& window) override
     {
         return printing.choose(static_cast<DesktopWindow&>(window).widget());
     }
 
 protected:
-    void printWindow(Window& window) override
+    void printWindow(NativeWindow& window) override
     {
         printing.print(static_cast<DesktopWindow&>(window).widget());
     }
