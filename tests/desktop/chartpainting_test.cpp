@@ -41,6 +41,15 @@ int darkIn(const QImage& image, const QRect& box)
     return count;
 }
 
+int pixelsOf(const QImage& image, const QColor& colour)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y) == colour;
+    return count;
+}
+
 double brightness(const QColor& colour)
 {
     return colour.lightnessF();
@@ -205,16 +214,29 @@ TEST(ChartPainting, AComponentOfExactlyZeroDrawsItsBarRed)
         EXPECT_GT(both.pixels(both.grab().toImage(), component, Components::red), 20);
 }
 
-TEST(ChartPainting, SurvivesEverySizeAndNoContent)
+TEST(ChartPainting, HasBarsAtEverySizeThatHasRoomForThem)
 {
-    for (const QSize size : {QSize(1, 1), QSize(20, 300), QSize(320, 220)}) {
+    for (const QSize size : {QSize(1, 1), QSize(20, 300), QSize(280, 220), QSize(3000, 60)}) {
+        SCOPED_TRACE(std::to_string(size.width()) + " x " + std::to_string(size.height()));
         ShownChart chart;
         chart.resize(size);
-        chart.press(Qt::Key_Home);
-        EXPECT_EQ(chart.grab().toImage().size(), size);
-        chart.setChart({});
-        EXPECT_EQ(chart.grab().toImage().size(), size);
+        const bool small = size.width() < chart.minimumSizeHint().width() ||
+                           size.height() < chart.minimumSizeHint().height();
+        EXPECT_TRUE(small || pixelsOf(chart.grab().toImage(), QColor(0x24, 0x58, 0xB0)) > 2000);
+        chart.press(Qt::Key_Home); // the read-out and the frame of the focus
+        chart.grab();
     }
+}
+
+TEST(ChartPainting, IsEmptyPaperWithoutContent)
+{
+    ShownChart chart;
+    chart.setPalette(darkPalette());
+    chart.setChart({});
+    const QImage screen = chart.grab().toImage();
+    EXPECT_EQ(pixelsOf(screen, QColor(0x1E1F22)), screen.width() * screen.height());
+    const QImage paper = printed(chart, 3780);
+    EXPECT_EQ(pixelsOf(paper, Qt::white), paper.width() * paper.height());
 }
 
 } // namespace plotvue

@@ -5,6 +5,7 @@
 #include "desktop/desktopwindow.h"
 
 #include <QCoreApplication>
+#include <QKeyEvent>
 
 #include <gtest/gtest.h>
 #include <string>
@@ -100,6 +101,13 @@ protected:
         built.window->show();
         platform.settle();
         return built;
+    }
+
+    static void type(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QKeyEvent press(QEvent::KeyPress, key, modifiers), release(QEvent::KeyRelease, key, modifiers);
+        QCoreApplication::sendEvent(&widget, &press);
+        QCoreApplication::sendEvent(&widget, &release);
     }
 
     PlayedDesktop platform;

@@ -1,10 +1,10 @@
 #include "desktop/chart/chartwidget.h"
+#include "desktop/chart/qtext.h"
 #include "desktop/desktopfixture.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -34,14 +34,6 @@ protected:
             if (widget->text() == text)
                 return *widget;
         throw std::out_of_range("no such widget");
-    }
-
-    static void type(QWidget& widget, Qt::Key key)
-    {
-        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier),
-            release(QEvent::KeyRelease, key, Qt::NoModifier);
-        QCoreApplication::sendEvent(&widget, &press);
-        QCoreApplication::sendEvent(&widget, &release);
     }
 
     void onScreen()
@@ -153,6 +145,25 @@ TEST_F(DesktopWindowTest, TabReachesAFrameWhoseChosenOptionIsHidden)
     EXPECT_EQ(QApplication::focusWidget(), &find<QRadioButton>("A && B"));
 }
 
+TEST_F(DesktopWindowTest, ALongCaptionIsShortenedAndIsWholeInTheTooltip)
+{
+    onScreen();
+    QRadioButton& option = find<QRadioButton>("C");
+    const QString name =
+        QStringLiteral("MOTOR OIL, GREASE & BRAKE FLUID OF ALL VENDORS BUT THOSE OF THE NORTH.");
+    ASSERT_EQ(name.size(), 70);
+    every.controls->options("opt").change([&](OptionGroup& options) { options.setCaption(6, toText(name)); });
+    for (int layouts = 0; layouts < 2; ++layouts) // of the frame, and of the window around it
+        QCoreApplication::processEvents();
+    EXPECT_LE(option.parentWidget()->width(), 40 * option.fontMetrics().averageCharWidth());
+    EXPECT_LE(option.sizeHint().width(), option.width());
+    EXPECT_TRUE(option.text().startsWith("MOTOR OIL, GREASE")) << option.text().toStdString();
+    EXPECT_TRUE(option.text().endsWith(QChar(0x2026)));
+    EXPECT_EQ(option.toolTip(), name);
+    EXPECT_EQ(option.accessibleName(), name);
+    EXPECT_EQ(find<QRadioButton>("D").toolTip(), "");
+}
+
 TEST_F(DesktopWindowTest, KeepsTheLinesOfALabel)
 {
     every.controls->text("Label1").set(u"one\rtwo\r\nthree\nfour\r");
@@ -166,9 +177,12 @@ TEST_F(DesktopWindowTest, OnlyEscapeDoesNotRepeat)
     Declaration closing = test::everyControl();
     closing.content.items.push_back({Button{.name = "cmdClose", .caption = u"Close", .shortcut = u"Esc"}});
     every = build(closing);
+    Strings repeating, others;
     const QList<QShortcut*> shortcuts = every.widget().findChildren<QShortcut*>();
     for (const QShortcut* shortcut : shortcuts)
-        EXPECT_EQ(shortcut->autoRepeat(), shortcut->key() != Qt::Key_Escape);
+        (shortcut->autoRepeat() ? repeating : others).push_back(shortcut->key().toString().toStdString());
+    EXPECT_THAT(repeating, ElementsAre("F5", "Ctrl+G"));
+    EXPECT_THAT(others, ElementsAre("Esc"));
 }
 
 TEST_F(DesktopWindowTest, FontsHaveTheDeclaredFamilyAndSizeOrTheDesktops)
@@ -221,15 +235,6 @@ TEST_F(DesktopWindowTest, ArrowButtonHasItsAccessibleName)
     EXPECT_EQ(button.toolTip(), "Back");
     type(button, Qt::Key_Return);
     EXPECT_THAT(ran, ElementsAre("cmdBack 0"));
-}
-
-TEST_F(DesktopWindowTest, EnterOnARowCountsAsAClick)
-{
-    every.controls->grid("Grid1").change([](Grid& grid) { grid.setRows(4); });
-    auto& table = *every.widget().findChild<QTableView*>("Grid1");
-    table.setCurrentIndex(table.model()->index(2, 0));
-    type(table, Qt::Key_Return);
-    EXPECT_THAT(ran, ElementsAre("Grid1 3"));
 }
 
 TEST_F(DesktopWindowTest, TitleBarRunsTheCloseHandler)

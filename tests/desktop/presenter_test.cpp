@@ -1,4 +1,4 @@
-// When windows appear on the screen, how the clipboard is read, and printing.
+// When windows appear on the screen, and how the clipboard is read.
 #include "app/application.h"
 #include "desktop/chart/chartwidget.h"
 #include "desktop/clipboard.h"
@@ -6,13 +6,8 @@
 #include "support/capturebuilder.h"
 
 #include <QApplication>
-#include <QBuffer>
 #include <QClipboard>
 #include <QMimeData>
-#include <QPainter>
-#include <QPdfWriter>
-#include <QScrollBar>
-#include <QTableView>
 
 namespace plotvue {
 
@@ -159,108 +154,20 @@ TEST_F(PresenterTest, PicturesOnTheClipboardAreNotText)
     EXPECT_EQ(platform.clipboardText(), u"");
 }
 
-TEST_F(PresenterTest, PrintsAsVectorsOnWhite)
+TEST_F(PresenterTest, WindowThatIsShownAgainComesToTheFront)
 {
-    const Built every = shown();
-    WindowWidget& window = every.widget();
-    const QPalette before = window.palette();
-    QBuffer file;
-    file.open(QIODevice::WriteOnly);
-    {
-        QPdfWriter paper(&file);
-        paper.setResolution(window.logicalDpiY());
-        QPainter painter(&paper);
-        drawOnPaper(window, painter, QRectF(QPointF(0, 0), paper.pageLayout().paintRectPixels(96).size()));
-    }
-    EXPECT_TRUE(file.data().startsWith("%PDF"));
-    EXPECT_FALSE(file.data().contains("DCTDecode"));
-    EXPECT_EQ(window.palette(), before);
-}
-
-TEST_F(PresenterTest, PaperIsWhiteForEveryTheme)
-{
-    const Built every = shown();
-    WindowWidget& window = every.widget();
-    QPalette dark(QColor(40, 40, 40), QColor(30, 30, 30));
-    const QPalette light = QApplication::palette();
-    QApplication::setPalette(dark);
-    QImage paper(window.size(), QImage::Format_RGB32);
-    paper.fill(Qt::white);
-    {
-        QPainter painter(&paper);
-        drawOnPaper(window, painter, paper.rect());
-    }
-    QApplication::setPalette(light);
-    EXPECT_EQ(paper.pixelColor(2, 2), QColor(Qt::white));
-    qint64 sum = 0;
-    for (int y = 0; y < paper.height(); ++y)
-        for (int x = 0; x < paper.width(); ++x)
-            sum += qGray(paper.pixel(x, y));
-    EXPECT_GT(sum / (paper.width() * paper.height()), 235);
-}
-
-TEST_F(PresenterTest, PrintedRowsStayWithinTheirGrid)
-{
-    const Built every = shown();
-    WindowWidget& window = every.widget();
-    auto& table = *window.findChild<QTableView*>();
-    const auto printed = [&](const Text& text) {
-        every.controls->grid("Grid1").change([&](Grid& rows) {
-            rows.setRows(60);
-            for (int row = 1; row < 60; ++row)
-                rows.setCell(row, 1, text);
-        });
-        QImage paper(window.size(), QImage::Format_RGB32);
-        paper.fill(Qt::white);
-        QPainter painter(&paper);
-        drawOnPaper(window, painter, paper.rect());
-        return paper;
+    const Built one = build(), other = build();
+    const auto isInFront = [this](const Built& built) {
+        built.window->show();
+        platform.settle();
+        QCoreApplication::processEvents();
+        return built.widget().isActiveWindow();
     };
-    const QImage without = printed(u"");
-    table.setColumnWidth(1, 3 * table.width());
-    table.horizontalScrollBar()->setValue(table.width());
-    const QImage with = printed(Text(400, u'#'));
-    const QRect grid(table.mapTo(&window, QPoint(0, 0)), table.size());
-    int inside = 0, outside = 0;
-    for (int y = 0; y < with.height(); ++y)
-        for (int x = 0; x < with.width(); ++x)
-            if (with.pixel(x, y) != without.pixel(x, y))
-                ++(grid.contains(x, y) ? inside : outside);
-    EXPECT_GT(inside, 0);
-    EXPECT_EQ(outside, 0);
-}
-
-// The smallest rectangle that holds everything drawn.
-QRect drawnIn(const QImage& paper)
-{
-    QRect drawn;
-    for (int y = 0; y < paper.height(); ++y)
-        for (int x = 0; x < paper.width(); ++x)
-            if (paper.pixelColor(x, y) != QColor(Qt::white))
-                drawn |= QRect(x, y, 1, 1);
-    return drawn;
-}
-
-TEST_F(PresenterTest, WindowFillsEveryPageAndKeepsItsAspectRatio)
-{
-    const Built every = shown();
-    WindowWidget& window = every.widget();
-    const QSize letter(816, 1056), a4(794, 1123); // at 96 dots per inch
-    for (const QSize page : {letter, letter.transposed(), a4, a4.transposed()}) {
-        QImage paper(page + QSize(200, 200), QImage::Format_RGB32);
-        paper.fill(Qt::white);
-        {
-            QPainter painter(&paper);
-            drawOnPaper(window, painter, QRectF(QPointF(0, 0), page));
-        }
-        const QRect drawn = drawnIn(paper);
-        const QSize whole = window.size().scaled(page, Qt::KeepAspectRatio);
-        EXPECT_TRUE(QRect(QPoint(0, 0), page).contains(drawn)) << page.width() << 'x' << page.height();
-        EXPECT_LE(drawn.width(), whole.width());
-        EXPECT_LE(drawn.height(), whole.height());
-        EXPECT_GT(drawn.width(), whole.width() * 9 / 10);
-        EXPECT_GT(drawn.height(), whole.height() * 9 / 10);
-    }
+    EXPECT_TRUE(isInFront(one));
+    EXPECT_TRUE(isInFront(other));
+    EXPECT_TRUE(isInFront(one)) << "it was visible";
+    other.window->hide();
+    EXPECT_TRUE(isInFront(other));
 }
 
 } // namespace

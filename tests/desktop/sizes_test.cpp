@@ -1,5 +1,6 @@
 // Every window fits a small screen. At any size, no widget overlaps another, extends beyond its parent or is
 // cut off.
+#include "desktop/chart/chartwidget.h"
 #include "desktop/grid.h"
 #include "desktop/noticeline.h"
 #include "desktop/samplesfixture.h"
@@ -11,8 +12,10 @@
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 
 namespace plotvue {
 
@@ -40,7 +43,7 @@ std::string described(const QWidget& widget)
     return words;
 }
 
-// The minimum size that shows all text of the widget.
+// The minimum size that shows all text of the widget; of a list or table, a few rows.
 QSize neededSize(const QWidget& widget)
 {
     if (const auto* label = qobject_cast<const QLabel*>(&widget); label && label->wordWrap())
@@ -52,8 +55,16 @@ QSize neededSize(const QWidget& widget)
                 2 * notice->textBox().top()};
     if (qobject_cast<const QGroupBox*>(&widget))
         return widget.minimumSizeHint();
-    const bool isText = qobject_cast<const QLabel*>(&widget) || qobject_cast<const QAbstractButton*>(&widget);
-    return isText ? widget.sizeHint() : QSize(0, 0);
+    const int line = widget.fontMetrics().height();
+    if (const auto* table = qobject_cast<const GridTable*>(&widget))
+        return {20 * table->fontMetrics().averageCharWidth(), 4 * line};
+    if (const auto* list = qobject_cast<const QListWidget*>(&widget))
+        return {list->sizeHintForColumn(0) + list->verticalScrollBar()->sizeHint().width(), 3 * line};
+    if (qobject_cast<const ChartWidget*>(&widget))
+        return {280, 220};
+    if (qobject_cast<const QLineEdit*>(&widget))
+        return {20 * widget.fontMetrics().averageCharWidth(), line};
+    return widget.sizeHint();
 }
 
 void expectFits(const QWidget& widget)
