@@ -59,6 +59,8 @@ class Keyboard(SpokenTest):
         self.focus_is(window, "push button", "Refresh")
         self.tab_goes_through(window, ("push button", "Exit"), ("list item", "Sales Journal History"),
                               ("push button", "Refresh"))
+        self.display.key("Return")
+        self.shown(CHART)
 
     def test_tab_goes_through_a_list_window_in_reading_order(self):
         window = self.open("vendors", LIST)

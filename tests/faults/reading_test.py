@@ -1,6 +1,6 @@
 """The small files cannot be read, or hold something else: the session ends with a plain sentence, or the list does."""
 
-from tests.faults.files import BACK, BARE, CHARTS, CHOSEN, DOWN, ENTRIES, Files, main
+from tests.faults.files import BACK, BARE, CHARTS, CHOSEN, DOWN, ENTRIES, LIST, Files, main
 
 PROFIT = f"choose {CHARTS} optSales 1"
 CANNOT_BE_OPENED, CANNOT_BE_READ, TOO_EARLY = r"cannot be opened \(.+\)", r"cannot be read \(.+\)", "ends too early"
@@ -63,8 +63,8 @@ class Reading(Files):
             self.check(lambda: self.put_link(name, "/dev/zero"), BACK, name, CANNOT_BE_READ)
 
     def test_two_in_one_directory_step_through_the_list_written_last(self):
-        one, two = self.charted(2), self.charted(5)
-        two.tell(DOWN)
+        one, two = self.charted(2), self.listed()
+        two.tell(f"row {LIST} MSFlexGrid2 1", DOWN)  # the other list
         one.tell(DOWN)
         shown = two.state(CHARTS)
         self.assertNotEqual(shown, one.state(CHARTS))

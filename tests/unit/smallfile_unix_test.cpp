@@ -1,5 +1,6 @@
 // A small file's rights, and what may be in its place on a Unix system.
 #include "files/exchange.h"
+#include "files/smallfile.h"
 #include "rankedfixture.h"
 
 #include <csignal>
@@ -69,6 +70,26 @@ TEST_F(SmallFile, AFileThatCannotBeWrittenIsARunTimeError)
     setrlimit(RLIMIT_FSIZE, &before);
     std::signal(SIGXFSZ, handler);
     EXPECT_TRUE(failed);
+}
+
+TEST_F(SmallFile, AFileOfAnySizeIsReadBack)
+{
+    for (const std::size_t size : {0, 1, 1 << 16, 200'000}) {
+        const std::string bytes(size, 'A');
+        writeSmallFile(listFile, bytes);
+        EXPECT_EQ(readSmallFile(listFile), bytes);
+    }
+}
+
+TEST_F(SmallFile, AFileMayTakeThePlaceOfAClosedStandardInput)
+{
+    const int input = dup(0);
+    close(0);
+    writeSmallFile(listFile, "A");
+    const std::string bytes = readSmallFile(listFile);
+    dup2(input, 0);
+    close(input);
+    EXPECT_EQ(bytes, "A");
 }
 
 TEST_F(SmallFile, APipeIsNotWaitedFor)
