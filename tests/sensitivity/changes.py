@@ -7,8 +7,7 @@ from building import ROOT
 
 SCREENS = ["history", "group", "ranked", "app"]
 LAYOUT = ["src/capture/lines.cpp", "src/capture/lines.h", "src/capture/month.cpp"]
-FILES = ["src/files/exchange.cpp", "src/files/smallfile.cpp", "src/files/smallfile_unix.cpp"]  # lay out no screen
-COMPUTED = ["capture", *SCREENS, "platform", "chart"]
+COMPUTED = ["capture", "files", *SCREENS, "window", "platform", "chart"]
 
 OPERATORS = {" + ": " - ", " - ": " + ", " * ": " / ", " / ": " * ", " % ": " / ", " += ": " -= ", " -= ": " += ",
              " < ": " <= ", " <= ": " < ", " > ": " >= ", " >= ": " > ", " == ": " != ", " != ": " == ",
@@ -77,8 +76,7 @@ def numbers(kind, path):
 def fields():
     """Each line, column, width, slot, count and flag of the screens."""
     for path in [*LAYOUT, *sources(SCREENS), *sources(SCREENS, ".h")]:
-        if path not in FILES:
-            yield from numbers("fields", path)
+        yield from numbers("fields", path)
 
 
 def members(code, start):
@@ -118,7 +116,7 @@ def order():
 
 def captions():
     """Neighbours among the texts of a file: captions, titles, marks."""
-    for path in [*sources(["capture", *SCREENS]), "src/history/salesfields.h", "src/app/screens.h"]:
+    for path in [*sources(["capture", *SCREENS, "window"]), "src/history/salesfields.h", "src/app/screens.h"]:
         text, _ = code_of(path)
         found = [match.span() for match in re.finditer(r"//[^\n]*|#[^\n]*|u\"(?:\\.|[^\"\\])*\"", text)
                  if match[0].startswith("u")]
@@ -134,7 +132,7 @@ def operators():
         text, code = code_of(path)
         for found in re.finditer(pattern, code):
             yield replaced("operators", path, text, *found.span(), OPERATORS[found[0]])
-    for path in [*sources(["capture"]), *FILES]:
+    for path in sources(["capture", "files"]):
         if path not in LAYOUT:
             yield from numbers("operators", path)
 
