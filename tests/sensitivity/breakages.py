@@ -1,7 +1,7 @@
 #!/usr/bin/python3 -B
 """Breaks the promises of docs/quality.md on purpose, one at a time, and looks whether their checks notice.
 
-    tests/sensitivity/breakages.py table                         compares the table with the page and the sources
+    tests/sensitivity/breakages.py table                         compares it, and harmless.toml, with page and sources
     tests/sensitivity/breakages.py try [PATTERN] [--preset NAME] tries the breakages, or those whose promise, file or
                                                                  check matches the regular expression
     tests/sensitivity/breakages.py sample COUNT BUILD            tries some at random, other ones for each commit
@@ -15,7 +15,8 @@ The table is breakages/SECTION.toml, a file for each section of the page, with e
     broken = "…"                                  replaces it
     check = "unit"                                ctest's name of the test that must fail; "desktop": of desktop.0 to .3
     filter = "Recognition.*"                      only these of GoogleTest's tests, if any are named
-    preset = "dev"                                the build with that test: "check" is the package, dev may be left out
+    preset = "dev"                                the build with that test, unless it is this one: "sanitize", "check"
+                                                  (the package) or "windows"
 
 A row of the page needs an entry unless its check is done by hand. Nothing changes in the source tree: a source is
 compiled elsewhere and linked in place of the one that it breaks, and the test runs the new program; for what is not
@@ -37,16 +38,20 @@ import tomllib
 from pathlib import Path
 from typing import NamedTuple
 
-from building import ROOT, Build
+from building import ROOT, Build, seed_of_commit
+from changes import KINDS
+from harmless import outdated
 
 PAGE = ROOT / "docs/quality.md"
 TABLE = Path(__file__).parent / "breakages"
 # The quick ones: the others start displays, or many sessions.
 SAMPLED = re.compile(r"unit|desktop|(replay|tour)\..*|faults\.(reading|writing)")
-PREPARE = {
-    "dev": [["cmake", "--preset", "dev"]],
-    "check": [["packaging/deb", "-DPLOTVUE_WERROR=ON", "-DPLOTVUE_BENCH=ON"], ["cmake", "--preset", "check"],
-              ["cmake", "--build", "--preset", "check"]],
+# What makes the tests of a preset in a copy of the tree, and runs one.
+IN_COPY = {
+    "dev": ["cmake --preset dev", "ctest --test-dir build/dev -R"],
+    "check": ["packaging/deb -DPLOTVUE_WERROR=ON -DPLOTVUE_BENCH=ON", "cmake --preset check",
+              "cmake --build --preset check", "ctest --test-dir build/check -R"],
+    "windows": ["tests/windows/run --only"],
 }
 
 
@@ -83,9 +88,9 @@ def promises():
 
 
 def table():
-    """All breakages, what is wrong with them, and what is missing."""
+    """All breakages, and what is wrong with them."""
     page, mistakes = promises()
-    found, missing = [], []
+    found = []
     for path in sorted(TABLE.glob("*.toml")):
         promised = page.get(path.stem)
         if promised is None:
@@ -96,14 +101,15 @@ def table():
             found.append(one)
             times = (ROOT / one.file).read_text(encoding="utf-8").count(one.text) if (ROOT / one.file).exists() else 0
             if times != 1 or one.text == one.broken:
-                mistakes.append(f"{path.name}: {one.file} has this {times} times, not once: {one.text}")
+                mistakes.append(f"{path.name}: {one.file} has this {times} times, not once: {one.shown()}")
             if one.promise not in promised:
                 mistakes.append(f"{path.name}: the page does not promise: {one.promise}")
     for section, promised in page.items():
         for promise, by_hand in promised.items():
             if not by_hand and not any(one.promise == promise for one in found):
-                missing.append(f"{section}.toml: nothing breaks the promise: {promise}")
-    return found, mistakes, missing
+                mistakes.append(f"{section}.toml: nothing breaks the promise: {promise}")
+    mistakes += outdated(change for kind in KINDS.values() for change in kind())
+    return found, mistakes
 
 
 def named(check, name):
@@ -162,7 +168,7 @@ class Checks:
 
     def build(self, programs):
         if programs not in self.builds:
-            self.builds[programs] = Build(self.directory, programs)
+            self.builds[programs] = Build(self.directory, programs, sys.stdout)
         return self.builds[programs]
 
     def notices(self, one, unbroken):
@@ -171,7 +177,7 @@ class Checks:
         if not tests:
             return "no such check"
         programs = tuple(dict.fromkeys(program for test in tests for program in self.programs(test)))
-        if one.preset != "dev" or not one.file.startswith("src/") or not programs:
+        if one.preset == "check" or not one.file.startswith("src/") or not programs:
             return self.notices_in_copy(one)
         build = self.build(programs)
         with tempfile.TemporaryDirectory(prefix="plotvue-breakage-") as directory:
@@ -197,22 +203,36 @@ class Checks:
 
     def notices_in_copy(self, one):
         copy = ROOT / "build/breakages"
-        shutil.rmtree(copy, ignore_errors=True)
-        shutil.copytree(ROOT, copy, ignore=shutil.ignore_patterns("build", ".git", "__pycache__"), symlinks=True)
-        for broken in (False, True):
-            if broken:
-                (copy / one.file).write_text(one.applied(), encoding="utf-8")
-            for command in PREPARE[one.preset]:
-                run = subprocess.run(command, cwd=copy, capture_output=True, text=True, check=False)
-                if run.returncode:
-                    print(run.stdout + run.stderr)
-                    return "does not build"
-            run = subprocess.run(["ctest", "--test-dir", copy / "build" / one.preset, "-R", f"^{re.escape(one.check)}$"],
-                                 capture_output=True, text=True, check=False)
-            if not broken and (run.returncode or "No tests were found" in run.stderr):
-                print(run.stdout + run.stderr)
-                return "fails anyway"
-        return run.returncode != 0
+        *steps, test = (command.split() for command in IN_COPY[one.preset])
+        for change in ({}, {one.file: one.applied()}):
+            synchronise(copy, change)
+            for command in [*steps, [*test, f"^{re.escape(one.check)}$"]]:
+                run = subprocess.run(command, cwd=copy, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                                     check=False)
+                if run.returncode and command[0] != test[0]:
+                    break
+            failed = re.search(r"tests passed, (\d+) tests? failed out of", run.stdout)
+            if not failed or (not change and failed[1] != "0"):
+                print(run.stdout)
+                return "fails anyway" if failed else "cannot be tested"
+        return failed[1] != "0"
+
+
+def synchronise(copy, change):
+    """Makes `copy` a copy of the source tree, with the texts of `change` in place of some files. Only what differs is
+    written, so that only that is built again."""
+    for folder, folders, names in os.walk(ROOT):
+        folders[:] = [name for name in folders if name not in ("build", ".git", "__pycache__")]
+        there = copy / Path(folder).relative_to(ROOT)
+        there.mkdir(parents=True, exist_ok=True)
+        for old in set(os.listdir(there)) - {*names, *folders, "build"}:
+            (there / old).unlink()
+        for name in names:
+            source = Path(folder, name)
+            text = change.get(str(source.relative_to(ROOT)), "").encode() or source.read_bytes()
+            if not (there / name).exists() or (there / name).read_bytes() != text:
+                (there / name).write_bytes(text)
+                shutil.copymode(source, there / name)
 
 
 def tried(breakages, directories, unbroken):
@@ -234,11 +254,7 @@ def tried(breakages, directories, unbroken):
 
 
 def sampled(breakages, count, build):
-    try:
-        seed = subprocess.run(["git", "rev-parse", "HEAD"], cwd=ROOT, capture_output=True, text=True,
-                              check=True).stdout.strip()
-    except (OSError, subprocess.CalledProcessError):
-        seed = str(random.randrange(1_000_000))
+    seed = seed_of_commit()
     print(f"{count} breakages, chosen with the seed {seed}.")
     quick = [one for one in breakages if SAMPLED.fullmatch(one.check) and one.file.startswith("src/")]
     return tried(random.Random(seed).sample(quick, count), {"dev": build}, False)
@@ -256,18 +272,17 @@ def main():
     sample.add_argument("build", type=Path)
     options = parser.parse_args()
 
-    breakages, mistakes, missing = table()
+    breakages, mistakes = table()
     for mistake in mistakes:
         print(mistake)
     match options.command:
         case "table":
-            print("\n".join(missing))
             return 1 if mistakes else 0
         case "sample":
             return sampled(breakages, options.count, options.build)
     chosen = [one for one in breakages if re.search(options.pattern, f"{one.promise}\n{one.file}\n{one.check}")
               and options.preset in (None, one.preset)]
-    return tried(chosen, {preset: ROOT / "build" / preset for preset in PREPARE}, True)
+    return tried(chosen, {one.preset: ROOT / "build" / one.preset for one in chosen}, True)
 
 
 if __name__ == "__main__":

@@ -3,6 +3,7 @@
 import collections
 import json
 import os
+import random
 import shlex
 import shutil
 import subprocess
@@ -12,12 +13,20 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parents[2]
 
 
+def seed_of_commit():
+    """A seed for what is chosen at random: the commit, or where there is none a number."""
+    run = subprocess.run(["git", "rev-parse", "HEAD"], cwd=ROOT, capture_output=True, text=True, check=False)
+    return run.stdout.strip() or str(random.randrange(1_000_000))
+
+
 class Build:
     """Compiles a changed file with the flags of a build directory, and links programs with it."""
 
-    def __init__(self, directory, programs):
-        """`programs` are targets of the build directory, such as "tests/unittests"; they are built first."""
+    def __init__(self, directory, programs, errors=subprocess.DEVNULL):
+        """`programs` are targets of the build directory, such as "tests/unittests"; they are built first. `errors` is
+        where the compiler says why it does not compile a change."""
         self.directory = directory.resolve()
+        self.errors = errors
         run = subprocess.run(["ninja", *programs], cwd=self.directory, capture_output=True, text=True, check=False)
         if run.returncode:
             sys.exit(f"{self.directory} cannot build {' '.join(programs)}:\n{run.stdout}{run.stderr}")
@@ -85,7 +94,7 @@ class Build:
             target = place / f"{len(objects)}.o"
             words = words[:words.index("-o")] + ["-w", "-o", str(target), "-c", str(source)]
             words.insert(1, f"-I{place}/include")
-            if subprocess.run(words, cwd=self.directory, stderr=subprocess.DEVNULL, check=False,
+            if subprocess.run(words, cwd=self.directory, stderr=self.errors, check=False,
                               env=os.environ | {"CCACHE_DISABLE": "1"}).returncode:
                 objects = None
                 break
