@@ -63,6 +63,8 @@ def heard(kind, roles):
     announced = []
 
     def note(event):
+        if "state-changed" in kind and not event.detail1:
+            return  # the object has lost that state
         with unless_gone():
             if event.source.get_role_name() in roles:
                 announced.append(event.source.get_name())

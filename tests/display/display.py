@@ -184,6 +184,11 @@ class Display:
         """The number of the window that has the focus."""
         return self.output("xdotool", "getwindowfocus").strip()
 
+    def stacked(self):
+        """The numbers of all windows, the lowest first."""
+        order = self.output("xprop", "-root", "_NET_CLIENT_LIST_STACKING")
+        return [str(int(number, 16)) for number in re.findall(r"0x\w+", order)]
+
     def gone(self, title):
         soon(f"the window {title!r} goes", lambda: title not in self.windows())
 

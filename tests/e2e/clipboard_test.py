@@ -1,6 +1,7 @@
 """The real program on a real display: what another program copied, and what the user then sees."""
 
-from tests.display.display import CHART, LIST, NEED_DATA, PRODUCT, START, DisplayTest, main
+from tests.display.display import (
+    CHART, FIGURES, LIST, NEED_DATA, PRODUCT, SCREEN, START, DisplayTest, main, soon)
 
 
 class Clipboard(DisplayTest):
@@ -31,6 +32,9 @@ class Clipboard(DisplayTest):
     def test_bare_line_feeds_are_read_as_line_ends(self):
         self.display.copy(PRODUCT.replace(b"\r\n", b"\n"))
         self.start(CHART)
+        self.display.key("ctrl+shift+c")
+        soon("figures are copied", lambda: self.display.pasted(SCREEN))
+        self.assertEqual(self.display.pasted("UTF8_STRING"), FIGURES)
 
     def test_a_newest_month_without_a_name_ends_with_the_error_report(self):
         lines = PRODUCT.split(b"\r\n")
@@ -53,6 +57,17 @@ class Clipboard(DisplayTest):
                 self.display.env.pop("DISPLAY", None)
                 if display is not None:
                     self.display.env["DISPLAY"] = display
+                self.start()
+                self.ends(1)
+                self.assertEqual(self.errors(), "PlotVue: there is no display to show windows on.\n")
+        # On Wayland, and without an X display that could be used in its place.
+        self.display.env.pop("DISPLAY", None)
+        self.display.env["QT_QPA_PLATFORM"] = "wayland"
+        for compositor in (None, "", "wayland-9999"):
+            with self.subTest(compositor=compositor):
+                self.display.env.pop("WAYLAND_DISPLAY", None)
+                if compositor is not None:
+                    self.display.env["WAYLAND_DISPLAY"] = compositor
                 self.start()
                 self.ends(1)
                 self.assertEqual(self.errors(), "PlotVue: there is no display to show windows on.\n")

@@ -1,6 +1,6 @@
 """The program without a mouse; which control has the focus is asked as assistive technology asks."""
 
-from tests.display.accessible import SpokenTest
+from tests.display.accessible import SpokenTest, focused
 from tests.display.display import CHART, LIST, START, main, sample, soon
 
 
@@ -82,9 +82,14 @@ class Keyboard(SpokenTest):
     def test_arrows_go_through_the_points_of_a_chart(self):
         window = self.open("product")
         points = [point.name for point in window.first("chart").children()]
-        for key, point in (("Right", 0), ("Right", 1), ("End", -1), ("Left", -2), ("Home", 0), ("Left", 0)):
-            self.display.key(key)
+        for key, point in (("Right", 0), ("Right", 1), ("End", -1), ("Left", -2), ("Home", 0)):
+            with focused("list item") as announced:
+                self.display.key(key)
+                soon(f"{points[point]} is announced", lambda: points[point] in announced())
+                self.assertEqual(announced(), [points[point]])
             self.focus_is(window, "list item", points[point])
+        self.display.key("Left")
+        self.focus_is(window, "list item", points[0])
 
     def test_escape_hides_the_read_out_and_then_leaves(self):
         window = self.open("product")
@@ -114,6 +119,18 @@ class Keyboard(SpokenTest):
                               ("chart", chart))
         self.display.key("Escape")
         self.focus_is(window, "table", table.name)
+
+    def test_a_row_chosen_while_charts_are_open_brings_them_to_the_front(self):
+        self.open("vendors", LIST)
+        rows = self.display.focus()
+        self.display.key("Return")
+        charts = soon("the charts have the focus", lambda: self.display.focus() not in ("", rows) and self.display.focus())
+        for key in ("Return", "KP_Enter"):
+            self.display.output("xdotool", "windowactivate", "--sync", rows)
+            self.display.focused(rows)
+            self.display.key("Down", key)
+            self.display.focused(charts)
+            self.assertEqual(self.display.stacked()[-1], charts)
 
     def test_refresh_by_key(self):
         for key in ("F5", "alt+r"):

@@ -103,16 +103,19 @@ class Waiting(SpokenTest):
         box.first("push button", "Close PlotVue").press()
         self.fails()
 
-    def test_the_chart_under_the_box_stays_painted(self):
+    def test_the_chart_under_the_box_stays_there_and_is_painted(self):
         self.chart()
         self.display.key("F5")
         self.box()
         number = self.display.windows()[CHART]
         box = self.display.windows()[BOX]
+        self.assertEqual(self.display.stacked(), [number, box])
+        self.display.output("xdotool", "windowraise", number)
         self.display.output("xdotool", "windowmove", box, "0", "0")
         self.display.output("xdotool", "windowsize", number, "820", "600")
         soon("the chart is painted in its new size",
              lambda: self.display.height(number) == 600 and self.bars(number) > 5000)
+        self.assertEqual(self.display.stacked(), [number, box])  # it was to be raised before
         self.display.key("Return")
         self.fails()
 

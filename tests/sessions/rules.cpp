@@ -28,6 +28,46 @@ std::optional<EntryLines> chosenRecord(const DrillDownDesign& design)
     }
 }
 
+// The entries of the list file, without one that is cut short.
+std::vector<EntryLines> listed(std::size_t lines)
+{
+    std::vector<EntryLines> entries;
+    try {
+        for (RecordReader reader(listFile);;) {
+            EntryLines entry;
+            while (entry.size() < lines)
+                entry.push_back(reader.next());
+            entries.push_back(std::move(entry));
+        }
+    } catch (const Failure&) {
+        return entries;
+    }
+}
+
+// Whether Back (or Down) in the drill-down window must say that the list ends: the chosen row is the first
+// (or the last) one. Down also says so if it does not find the row in the list file.
+bool listEnds(const DrillDownDesign& design, bool down)
+{
+    const Key& key = design.analysis.key;
+    std::optional<KeyValues> chosen;
+    try {
+        chosen = readChosenRow(key);
+        const auto lines = static_cast<std::size_t>(design.analysis.linesAnEntry) + 1; // with the months
+        const std::vector<EntryLines> entries = listed(lines);
+        const auto found = std::find_if(entries.begin(), entries.end(), [&](const EntryLines& entry) {
+            return entry[1].starts_with(key.recordStart) && hasKey(entry[1], key, *chosen);
+        });
+        // The last of the entries that are searched counts as found.
+        const auto place = std::min(found - entries.begin(), std::ptrdiff_t{design.limits.step} - 1);
+        const auto count = static_cast<std::ptrdiff_t>(entries.size());
+        if (place < count)
+            return down ? place == count - 1 : place == 0;
+    } catch (const Failure&) {
+        // A number that no double can hold.
+    }
+    return down && chosen; // otherwise an error is due
+}
+
 std::string withoutNotice(const std::string& dump)
 {
     return std::regex_replace(dump, std::regex(R"(,"notice":"[^"]*")"), "");
@@ -117,6 +157,17 @@ void Walk::noticesMustBeTrue(const std::string& line)
 std::string Walk::noticeOf(const std::string& window)
 {
     return toUtf8(*player_.application().window(window)->controls().notice);
+}
+
+std::optional<bool> Walk::endOfListIsDue(const std::string& line) const
+{
+    std::istringstream words(line);
+    std::string verb, window, control;
+    words >> verb >> window >> control;
+    const auto drillDown = designs_.find(window);
+    if (verb != "click" || drillDown == designs_.end() || (control != "cmdBack" && control != "cmdNext"))
+        return {};
+    return listEnds(*drillDown->second, control == "cmdNext");
 }
 
 void Walk::twiceRefreshedIsTheSame(const std::string& window)

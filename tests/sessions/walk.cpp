@@ -43,6 +43,9 @@ void Walk::heard(const Event& event)
         loaded_.erase(window);
         drawn_.erase(window);
         break;
+    case Event::Kind::Message:
+        listEndedNow_ = listEndedNow_ || event.text == u"End of list";
+        break;
     case Event::Kind::Error:
         error_ = event.text;
         end_ = "error";
@@ -64,8 +67,13 @@ void Walk::play(const std::string& line)
     loadedNow_.clear();
     shownNow_.clear();
     drawnNow_.clear();
+    listEndedNow_ = false;
+    const std::optional<bool> listEnds = endOfListIsDue(line);
     std::istringstream one(line);
     player_.play(one);
+    if (listEnds && *listEnds != listEndedNow_)
+        throw Wrong(*listEnds ? "\"End of list\" is not told at the end"
+                              : "\"End of list\" is told too early");
     if (error_)
         mustBePlain(*error_);
     if (!loaded_.empty() && visible_.empty() && !over())

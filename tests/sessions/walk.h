@@ -61,6 +61,9 @@ private:
     void watch(const std::string& window);
     void noticesMustBeTrue(const std::string& line);
 
+    // Whether the line must lead to "End of list"; absent if it is no step through a list.
+    std::optional<bool> endOfListIsDue(const std::string& line) const;
+
     void twiceRefreshedIsTheSame(const std::string& window);
     void shownAgainIsTheSame(const std::string& window);
     void backThenDownIsTheSame(const std::string& window, const std::string& clickRow);
@@ -78,6 +81,7 @@ private:
     std::set<std::string> loaded_, visible_;                // according to the events
     std::vector<std::string> loadedNow_, shownNow_;         // during the last played line
     std::vector<std::string> drawnNow_;
+    bool listEndedNow_ = false; // "End of list" was told
 
     struct Drawing {
         std::string copied; // what was on the clipboard

@@ -3,6 +3,7 @@
 #include "files/smallfile.h"
 #include "rankedfixture.h"
 
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
@@ -10,6 +11,25 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
+
+namespace {
+
+int closeFailsWith = 0; // errno; 0: it does not fail
+
+}
+
+// The linker puts this in the place of close(), which tells what a disk with quotas or in the network could
+// not store in the end.
+extern "C" int __real_close(int descriptor); // NOLINT
+extern "C" int __wrap_close(int descriptor)  // NOLINT
+{
+    const int result = __real_close(descriptor);
+    if (closeFailsWith == 0)
+        return result;
+    errno = closeFailsWith;
+    return -1;
+}
 
 namespace plotvue::test {
 namespace {
@@ -90,6 +110,18 @@ TEST_F(SmallFile, AFileMayTakeThePlaceOfAClosedStandardInput)
     dup2(input, 0);
     close(input);
     EXPECT_EQ(bytes, "A");
+}
+
+TEST_F(SmallFile, AFileThatIsNotStoredWhenItIsClosedIsARunTimeError)
+{
+    for (const auto& [reason, sentence] : {std::pair{EDQUOT, "cannot be written (Disk quota exceeded)."},
+                                           std::pair{EIO, "cannot be written (Input/output error)."}}) {
+        RankedSession list(m2m, capture);
+        closeFailsWith = reason;
+        list.click(1);
+        closeFailsWith = 0;
+        EXPECT_TRUE(failed(list, std::string("The file plotvue1.txt in the working directory ") + sentence));
+    }
 }
 
 TEST_F(SmallFile, APipeIsNotWaitedFor)
