@@ -11,6 +11,8 @@ import time
 import unittest
 from pathlib import Path
 
+from tests.verdict import remark
+
 SAMPLES = Path(__file__).resolve().parents[2] / "samples"
 
 # The titles of windows.
@@ -265,6 +267,21 @@ class DisplayTest(unittest.TestCase):
         if title:
             self.display.window(title)
         return self.process
+
+    def until_fast_enough(self, what, once):
+        """Calls `once`, which starts the program, until it says that the machine was not too busy for it. The last
+        lines of the test run tell of a second try."""
+        for number in range(1, 21):
+            try:
+                if once():
+                    break
+            finally:
+                self.process.kill()
+                self.process.wait()
+        else:
+            self.fail(f"{what}: the machine is too busy")
+        if number > 1:
+            remark(f"{what} took {number} tries, because the machine was busy.")
 
     def still_runs(self):
         self.assertIsNone(self.process.poll())

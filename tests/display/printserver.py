@@ -94,6 +94,11 @@ class PrintServer:
         self.process.wait()
         self.directory.cleanup()
 
+    def connections(self):
+        """How many programs are connected to the server, those included that it has not noticed yet."""
+        sockets = Path("/proc/net/unix").read_text().splitlines()
+        return sum(line.endswith(self.display.env["CUPS_SERVER"]) for line in sockets)
+
     def completed(self, queue):
         """The names of the queue's completed jobs."""
         listing = self.display.output("lpstat", "-W", "completed", "-o", queue)

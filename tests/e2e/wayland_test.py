@@ -5,7 +5,6 @@ import os
 import shutil
 import subprocess
 import tempfile
-import time
 from pathlib import Path
 
 from tests.display.display import CHART, NEED_DATA, PRODUCT, SCREEN, START, Display, DisplayTest, main, soon
@@ -92,7 +91,8 @@ class Wayland(DisplayTest):
     def test_a_capture_at_the_start_opens_its_window_alone(self):
         self.display.copy(PRODUCT)
         self.start(CHART)
-        time.sleep(1.5)  # longer than the program waits for the focus
+        self.display.key("ctrl+shift+c")
+        soon("figures are copied", lambda: self.display.pasted(SCREEN))  # no longer does it wait for the focus
         self.assertEqual(list(self.display.windows()), [CHART])
         self.still_runs()
 

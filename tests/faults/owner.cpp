@@ -1,7 +1,7 @@
 // plotvue-owner FILE [PIECES [FORMAT...]]: a well-behaved owner of the X11 clipboard, which holds the file's
 // bytes in each of the formats, or as UTF8_STRING. It stops itself, as a debugger or a suspended session
-// would, after that many pieces of its first long answer; when it is made to go on, it goes on. It ends when
-// another program takes the clipboard.
+// would, after that many pieces of its first long answer, with 0 before its first answer; when it is made to
+// go on, it goes on. It ends when another program takes the clipboard.
 #include <algorithm>
 #include <csignal>
 #include <cstdlib>
@@ -20,6 +20,7 @@
 namespace {
 
 constexpr std::size_t pieceSize = 100'000;
+constexpr int never = -1;
 
 class Owner {
 public:
@@ -82,7 +83,7 @@ private:
             put(request.requestor, request.property, XCB_ATOM_ATOM, 32, offered_.size(), offered_.data());
         } else if (std::find(offered_.begin(), offered_.end(), request.target) == offered_.end()) {
             notice.property = XCB_NONE;
-        } else if (text_.size() <= pieceSize) {
+        } else if (stopIf(0); text_.size() <= pieceSize) {
             put(request.requestor, request.property, request.target, 8, text_.size(), text_.data());
         } else {
             const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
@@ -94,14 +95,22 @@ private:
         xcb_send_event(display_, 0, request.requestor, 0, reinterpret_cast<const char*>(&notice));
     }
 
+    void stopIf(int pieces)
+    {
+        if (pieces == piecesToStop_) {
+            piecesToStop_ = never;
+            std::raise(SIGSTOP);
+        }
+    }
+
     // The asker has taken a piece: the next one; an empty one is the end.
     void goOn(const xcb_property_notify_event_t& taken)
     {
         const auto transfer = sent_.find({taken.window, taken.atom});
         if (taken.state != XCB_PROPERTY_DELETE || transfer == sent_.end())
             return;
-        if (piecesToStop_ > 0 && --piecesToStop_ == 0)
-            std::raise(SIGSTOP);
+        ++pieces_;
+        stopIf(pieces_);
         auto& [type, sent] = transfer->second;
         const std::size_t size = std::min(pieceSize, text_.size() - sent);
         put(taken.window, taken.atom, type, 8, size, text_.data() + sent);
@@ -112,7 +121,7 @@ private:
 
     xcb_connection_t* display_;
     std::string text_;
-    int piecesToStop_; // 0: never
+    int piecesToStop_, pieces_ = 0;
     xcb_window_t window_ = XCB_NONE;
     xcb_atom_t clipboard_ = atom("CLIPBOARD"), targets_ = atom("TARGETS");
     std::vector<xcb_atom_t> offered_{targets_};
@@ -138,7 +147,7 @@ int main(int argc, char** argv)
     std::vector<std::string> formats(argv + std::min(argc, 3), argv + argc);
     if (formats.empty())
         formats.emplace_back("UTF8_STRING");
-    Owner(display, text.str(), argc > 2 ? std::atoi(argv[2]) : 0, formats).serve();
+    Owner(display, text.str(), argc > 2 ? std::atoi(argv[2]) : never, formats).serve();
     xcb_disconnect(display);
     return EXIT_SUCCESS;
 }

@@ -1,8 +1,8 @@
 // A Windows program that copies, as a terminal would.
 //
 // copier FILE            puts the text of FILE, in UTF-8, on the clipboard unchanged
-// copier FILE SECONDS    the same, and keeps the clipboard open for that time, so that no other program can
-//                        read it
+// copier FILE SECONDS    the same, deletes FILE, and keeps the clipboard open for that time, so that no other
+//                        program can read it
 // copier --paste FILE    writes the text of the clipboard to FILE, in UTF-8
 // copier --paste FILE FORMAT    writes the bytes that the clipboard holds in a registered format, or as
 // CF_DIB if
@@ -76,7 +76,7 @@ int main(int argc, char** argv)
         if (!file || !put(plotvue::fromUtf8(bytes)))
             return EXIT_FAILURE;
     }
-    if (argc > 2)
+    if (argc > 2 && DeleteFileA(argv[1]))
         Sleep(static_cast<DWORD>(std::atoi(argv[2])) * 1000);
     CloseClipboard();
     return EXIT_SUCCESS;
