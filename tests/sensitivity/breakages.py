@@ -14,7 +14,8 @@ The table is breakages/SECTION.toml, a file for each section of the page, with e
     text = "…"                                    occurs once in the file
     broken = "…"                                  replaces it
     check = "unit"                                ctest's name of the test that must fail; "desktop": of desktop.0 to .3
-    filter = "Recognition.*"                      only these of GoogleTest's tests, if any are named
+    filter = "Recognition*"                       only these of its tests, if any are named: GoogleTest's filter, or
+                                                  in Python a part of the name
     preset = "dev"                                the build with that test, unless it is this one: "sanitize", "check"
                                                   (the package) or "windows"
 
@@ -128,11 +129,13 @@ def passes(test, programs, folder):
     env = os.environ | dict(each.split("=", 1) for each in properties.get("ENVIRONMENT", []))
     env = {key: programs.get(value, value) for key, value in env.items()}
     command = [programs.get(word, word) for word in test["command"]]
-    with (folder / "output").open("w", encoding="utf-8") as output:
+    with (folder / "output").open("w+", encoding="utf-8") as output:
         process = subprocess.Popen(command, cwd=properties["WORKING_DIRECTORY"], env=env, stdin=subprocess.DEVNULL,
                                    stdout=output, stderr=output, start_new_session=True)
         try:
-            return process.wait(properties.get("TIMEOUT", 120)) == 0
+            status = process.wait(properties.get("TIMEOUT", 120))
+            output.seek(0)
+            return status == 0 and "Ran 0 tests" not in output.read()
         except subprocess.TimeoutExpired:
             return False
         finally:
@@ -155,9 +158,12 @@ class Checks:
     def of(self, one):
         found = [test for test in self.tests if named(one.check, test["name"])]
         for test in found:
-            if one.filter:
-                test = {**test, "command": [*test["command"], f"--gtest_filter={one.filter}"]}
-            yield test
+            command = test["command"]
+            if one.filter and "python" in command[0]:
+                command = [*command[:-1], "-k", one.filter, command[-1]]
+            elif one.filter:
+                command = [*command, f"--gtest_filter={one.filter}"]
+            yield {**test, "command": command}
 
     def programs(self, test):
         """The test's programs that are built here, as paths in the build directory."""

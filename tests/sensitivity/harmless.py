@@ -5,7 +5,8 @@ import tomllib
 from pathlib import Path
 
 ENTRIES = tomllib.loads(Path(__file__).with_suffix(".toml").read_text(encoding="utf-8"))["harmless"]
-REASONS = {(entry["file"], change): entry["why"] for entry in ENTRIES for change in entry["changes"]}
+REASONS = {(path, change): entry["why"] for entry in ENTRIES
+           for path, changes in entry["changes"].items() for change in changes}
 
 
 def reason(change):
