@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <set>
+#include <utility>
 
 namespace plotvue {
 
@@ -95,6 +96,25 @@ TEST(ChartPainting, PrintsNeitherTheCurrentPointNorTheFocus)
     chart.press(Qt::Key_Home);
     EXPECT_NE(chart.grab().toImage(), screenBefore);
     EXPECT_EQ(printed(chart, 3780), before);
+}
+
+TEST(ChartPainting, HasAFrameIfTheFocusCameByKey)
+{
+    ShownChart chart;
+    const QColor frame = chart.palette().color(QPalette::Highlight);
+    const auto framed = [&] {
+        const QImage screen = chart.grab().toImage();
+        return screen.pixelColor(300, 1) == frame && screen.pixelColor(1, 200) == frame &&
+               screen.pixelColor(300, 398) == frame && screen.pixelColor(598, 200) == frame;
+    };
+    for (const auto& [reason, seen] :
+         {std::pair{Qt::MouseFocusReason, false}, std::pair{Qt::TabFocusReason, true},
+          std::pair{Qt::BacktabFocusReason, true}}) {
+        chart.clearFocus();
+        EXPECT_FALSE(framed());
+        chart.setFocus(reason);
+        EXPECT_EQ(framed(), seen);
+    }
 }
 
 TEST(ChartPainting, OnlyTheReadOutHasTheFullLabel)

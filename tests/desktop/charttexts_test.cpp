@@ -216,6 +216,31 @@ TEST_P(ChartTexts, OfTheReadOutCanBeRead)
     }
 }
 
+TEST_P(ChartTexts, OfTheReadOutAreOnThePaperBesideTheirPoint)
+{
+    Chart content;
+    content.titles = {{1, u"Sales"}};
+    content.series = {std::vector<double>(24, 123456)};
+    content.labels = std::vector<Text>(24, u"OCT99");
+    chart.setChart(content);
+    const Layout& layout = chart.chartLayout();
+    for (const int point : {0, 1, 11, 12, 22, 23}) {
+        const auto picture = [&](bool card) {
+            return painted([&](QPainter& painter) {
+                paintChart(painter, chart.plotData(), layout, chart.palette(), fonts, point);
+                if (card)
+                    paintReadout(painter, chart.plotData(), layout, chart.palette(), fonts, point);
+            });
+        };
+        const QImage with = picture(true), without = picture(false);
+        const Ink card = inkOf(with, without, QRectF(chart.rect()).adjusted(1, 1, -1, -1));
+        EXPECT_GT(card.inside, 1000) << point;
+        EXPECT_EQ(card.outside, 0) << point << ": it reaches an edge, as one does that is cut off";
+        const Ink hiding = inkOf(with, without, toQRectF(layout.slotBox(point)));
+        EXPECT_EQ(hiding.inside, 0) << point << ": it hides its bar";
+    }
+}
+
 } // namespace
 
 } // namespace plotvue

@@ -14,6 +14,7 @@
 #include <QLocale>
 #include <QMenu>
 #include <QTableView>
+#include <QTimer>
 
 #include <gmock/gmock.h>
 
@@ -260,6 +261,26 @@ TEST_F(Menus, KeysInATextBoxCopyWhatIsSelected)
     }
     entry(line, "Select All").trigger();
     EXPECT_EQ(line.selectedText(), "12 months");
+}
+
+TEST_F(Menus, KeysInABoxCopyItsTextAndKeepTheCapturedScreen)
+{
+    DesktopPlatform withBoxes;
+    for (const QKeySequence& key : QKeySequence::keyBindings(QKeySequence::Copy)) {
+        QGuiApplication::clipboard()->setText(toQString(screen));
+        QTimer opened;
+        QObject::connect(&opened, &QTimer::timeout, &opened, [&key] {
+            QWidget* box = QApplication::activeModalWidget();
+            if (box && box->isActiveWindow()) {
+                type(*box, key[0].key(), key[0].keyboardModifiers());
+                type(*box, Qt::Key_Escape);
+            }
+        });
+        opened.start(1);
+        withBoxes.message(u"Need Data", u"Clipboard contains no data");
+        EXPECT_EQ(pasted(), "Clipboard contains no data");
+        EXPECT_EQ(readClipboard(), mended);
+    }
 }
 
 TEST_F(Menus, CopyNothingOnceTheProcessIsOver)
