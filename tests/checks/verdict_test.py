@@ -91,6 +91,11 @@ class Verdict(unittest.TestCase):
         self.run_verdict("part", "bad", "bash", "-c", f"{VERDICT} test one true; {VERDICT} test two false; exit 1")
         self.must_say(1, 1)
 
+    def test_a_step_that_fails(self):
+        subprocess.run(["bash", "-c", ". tests/counting; step packages true; step build false"], env=self.env,
+                       cwd=VERDICT.parents[1], stdout=subprocess.PIPE, check=False)
+        self.must_say(0, 1)
+
     def test_a_second_try_is_told(self):
         self.run_verdict("test", "one", sys.executable, "-c", "from tests.verdict import remark; remark('Tried twice.')")
         self.assertEqual(self.run_verdict("sum").stdout.splitlines()[-2:], ["Tried twice.", "1 passed, 0 failed"])

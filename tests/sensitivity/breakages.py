@@ -32,7 +32,7 @@ import sys
 from pathlib import Path
 
 from building import ROOT, seed_of_commit
-from checks import Checks, notices_in_copy
+from checks import Checks, Copy
 from promises import table
 
 # The quick ones: the others start displays, or many sessions.
@@ -45,12 +45,12 @@ def needs_copy(one):
 
 
 def tried(breakages, directories, unbroken):
-    checks = {}
+    checks, copy = {}, Copy([one for one in breakages if needs_copy(one)])
     unnoticed = 0
     print("| promise | breakage | check | noticed |\n|---|---|---|---|")
     for one in breakages:
         if needs_copy(one):
-            end = notices_in_copy(one)
+            end = copy.notices(one)
         else:
             directory = directories[one.preset]
             if directory not in checks:
