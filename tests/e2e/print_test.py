@@ -15,6 +15,8 @@ class Printing(PrintTest):
         self.assertEqual(len(jobs), 3)
         self.assertEqual(self.server.completed("first"), [])
         self.server.check_pages(self, jobs)
+        (width, height, _), = self.server.pages(jobs[0])
+        self.assertGreater(width, height, "the paper is turned as the window is")
         self.assertIn("second", self.display.output("lpstat", "-d"))
         self.still_runs()
 
