@@ -184,6 +184,7 @@ class Accessibility(SpokenTest):
                 soon("the notice is announced", lambda: earlier in names())
             self.assertEqual(window.first("alert").name, earlier)
             self.close(window)
+        self.display.focused(self.display.window(START))
         self.display.key("F5")
         soon("the chart shows", lambda: window.has("SHOWING"))
         self.assertIn("DIESEL", window.first("chart").name)
