@@ -60,7 +60,7 @@ public:
 private:
     QWidget& widget(Name window)
     {
-        return static_cast<DesktopWindow&>(application_.window(window)->window()).widget();
+        return static_cast<DesktopWindow&>(application_.window(window)->native()).widget();
     }
 
     DesktopPlatform platform_;
