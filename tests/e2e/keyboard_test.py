@@ -124,7 +124,8 @@ class Keyboard(SpokenTest):
         self.open("vendors", LIST)
         rows = self.display.focus()
         self.display.key("Return")
-        charts = soon("the charts have the focus", lambda: self.display.focus() not in ("", rows) and self.display.focus())
+        charts = soon("the charts have the focus",
+                      lambda: self.display.focus() not in ("", rows) and self.display.focus())
         for key in ("Return", "KP_Enter"):
             self.display.output("xdotool", "windowactivate", "--sync", rows)
             self.display.focused(rows)
