@@ -9,54 +9,36 @@ namespace {
 
 // Makes the windows of a screen and returns the one that the screen opens.
 struct WindowMaker {
-    Platform& platform;
-    Window& home;
-    std::vector<std::unique_ptr<Window>>& windows;
-    std::vector<DrillDownWindow*>& drillDowns;
+    Application& app;
 
     Window& operator()(const MonthlyScreen* screen) const
     {
-        return *windows.emplace_back(std::make_unique<HistoryWindow>(platform, home, *screen));
+        return add(std::make_unique<HistoryWindow>(app.platform, app.startup, *screen));
     }
-    Window& operator()(MakeWindow make) const { return *windows.emplace_back(make(platform, home)); }
+    Window& operator()(MakeWindow make) const { return add(make(app.platform, app.startup)); }
     Window& operator()(const Ranked& ranked) const
     {
-        auto drillDown = std::make_unique<DrillDownWindow>(platform, *ranked.drillDown);
-        drillDowns.push_back(drillDown.get());
-        windows.push_back(std::move(drillDown));
-        return *windows.emplace_back(
-            std::make_unique<RankedListWindow>(platform, home, *drillDowns.back(), drillDowns, *ranked.list));
+        auto drillDown = std::make_unique<DrillDownWindow>(app.platform, *ranked.drillDown);
+        app.drillDowns.push_back(drillDown.get());
+        add(std::move(drillDown));
+        return add(std::make_unique<RankedListWindow>(app.platform, app.startup, *app.drillDowns.back(),
+                                                      app.drillDowns, *ranked.list));
     }
+
+    Window& add(std::unique_ptr<Window> window) const { return *app.windows.emplace_back(std::move(window)); }
 };
 
 } // namespace
 
-Application::Application(Platform& platform) : platform_(platform), startup_(platform)
+Application::Application(Platform& desktop) : platform(desktop), startup(desktop)
 {
     for (const Screen& screen : screens)
-        startup_.windows[&screen] =
-            &std::visit(WindowMaker{platform, startup_, others_, drillDowns_}, screen.window);
+        startup.windows[&screen] = &std::visit(WindowMaker{*this}, screen.window);
 }
 
 void Application::start()
 {
-    platform_.run([this] { startup_.show(); });
-}
-
-std::vector<Window*> Application::windows()
-{
-    std::vector<Window*> all{&startup_};
-    for (const auto& window : others_)
-        all.push_back(window.get());
-    return all;
-}
-
-Window* Application::window(Name name)
-{
-    for (Window* window : windows())
-        if (window->name() == name)
-            return window;
-    return nullptr;
+    platform.run([this] { startup.show(); });
 }
 
 } // namespace plotvue

@@ -1,4 +1,4 @@
-// The windows of all screens and the start-up window that leads to them.
+// PlotVue: the start-up window, and the windows of all screens, to which it leads.
 #pragma once
 
 #include "app/startup.h"
@@ -7,27 +7,15 @@
 
 namespace plotvue {
 
-class Application {
-public:
+struct Application {
     explicit Application(Platform& platform);
 
-    // Starts the process: the start-up window loads.
-    void start();
+    void start(); // the start-up window loads
 
-    // Every window, loaded or not: the start-up window and those of each screen.
-    std::vector<Window*> windows();
-
-    // The window of that name; null when there is none.
-    Window* window(Name name);
-
-    // The window that a screen opens.
-    Window& windowOf(const Screen& screen) { return *startup_.windows.at(&screen); }
-
-private:
-    Platform& platform_;
-    Startup startup_;
-    std::vector<std::unique_ptr<Window>> others_;
-    std::vector<DrillDownWindow*> drillDowns_; // of others_
+    Platform& platform;
+    Startup startup;
+    std::vector<std::unique_ptr<Window>> windows; // of the screens
+    std::vector<DrillDownWindow*> drillDowns;     // those of `windows`
 };
 
 } // namespace plotvue

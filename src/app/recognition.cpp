@@ -1,18 +1,12 @@
 #include "app/recognition.h"
 
-#include "app/markersearch.h"
 #include "capture/failure.h"
+
+#include <algorithm>
 
 namespace plotvue {
 
 namespace {
-
-constexpr auto markers = [] {
-    std::array<TextSpan, screens.size()> result;
-    for (std::size_t i = 0; i < screens.size(); ++i)
-        result[i] = screens[i].marker;
-    return result;
-}();
 
 bool holdsZero(TextSpan text)
 {
@@ -23,11 +17,10 @@ bool holdsZero(TextSpan text)
 
 const Screen* recognise(TextSpan text)
 {
-    const MarkerSet found = MarkerSearch<markers>::in(text);
-    for (std::size_t i = 0; i < screens.size(); ++i)
-        if ((found >> i & 1) && (!screens[i].needsZero || holdsZero(text)))
-            return &screens[i];
-    return nullptr;
+    const auto at = std::ranges::find_if(screens, [text](const Screen& screen) {
+        return holds(text, screen.marker) && (!screen.needsZero || holdsZero(text));
+    });
+    return at == screens.end() ? nullptr : &*at;
 }
 
 } // namespace plotvue

@@ -26,9 +26,6 @@ public:
     // the next line is the one. The last find counts.
     int dashLine() const { return dashLine_; }
 
-    // How many lines were cut before the text ran out: 19 for a whole capture.
-    int count() const { return count_; }
-
     // Throws TooFewLines when nothing is left of the text after line 19 or an earlier one.
     void requireAll() const;
 

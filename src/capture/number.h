@@ -1,7 +1,7 @@
 // Numbers read from the fields of a screen, and numbers written as text.
 #pragma once
 
-#include "capture/text.h"
+#include "capture/failure.h"
 
 namespace plotvue {
 
@@ -13,6 +13,14 @@ double leadingNumber(TextSpan field);
 
 // The same, with commas skipped too: "1,234" is 1234.
 double leadingNumberWithoutCommas(TextSpan field);
+
+// The part as a percentage of the whole: part / whole * 100. Where the whole is 0, so is the result, and the
+// part is not read, so it cannot be too large. Throws Failure when the result is too large.
+template <typename ReadPart>
+double percentage(double whole, const ReadPart& readPart)
+{
+    return whole == 0 ? 0 : finite(finite(readPart() / whole) * 100);
+}
 
 // A finite number as decimal text: at most 15 significant digits, no trailing zeros after the point, no
 // exponent, "0" for zero.

@@ -7,11 +7,6 @@ void ChartArrayData::AddArray(const std::vector<double>& values)
     series_.push_back(values);
 }
 
-void ChartArrayData::AddArray(const std::vector<std::int32_t>& values)
-{
-    series_.emplace_back(values.begin(), values.end());
-}
-
 void ChartArrayData::AddArray(const std::vector<Text>& labels)
 {
     labels_ = labels;

@@ -36,9 +36,8 @@ struct ChartDesign {
 // The series and slot labels for SetChartData.
 class ChartArrayData {
 public:
-    void AddArray(const std::vector<double>& values);       // appends a series
-    void AddArray(const std::vector<std::int32_t>& values); // appends a series
-    void AddArray(const std::vector<Text>& labels);         // replaces the slot labels
+    void AddArray(const std::vector<double>& values); // appends a series
+    void AddArray(const std::vector<Text>& labels);   // replaces the slot labels
     void setFullLabels(const std::vector<Text>& labels) { fullLabels_ = labels; }
 
 private:

@@ -22,7 +22,7 @@ constexpr std::array<Colour, 8> palette{{{0x24, 0x58, 0xB0},
                                          {0xB3, 0xC4, 0x8C},
                                          {0x50, 0x5A, 0x52}}};
 constexpr double largestValue = 1e300;
-constexpr int decimalsUnasked = 2;
+constexpr int maxValueDecimals = 2;
 
 double clamped(double value)
 {
@@ -147,7 +147,7 @@ int PlotData::decimalsOfValues() const
     int decimals = 0;
     for (const Series& s : series_)
         for (const double v : chart_.series[s.number])
-            decimals = std::max(decimals, decimalsNeeded(clamped(v), decimalsUnasked));
+            decimals = std::max(decimals, decimalsNeeded(clamped(v), maxValueDecimals));
     return decimals;
 }
 

@@ -9,7 +9,7 @@ namespace plotvue {
 
 namespace {
 
-constexpr int decimalsUnasked = 6;
+constexpr int maxStepDecimals = 6;
 constexpr int maxTicks = 50;
 constexpr double tolerance = 1e-9;
 
@@ -65,7 +65,7 @@ Scale scaleFor(Range reach, const ScaleWishes& wishes)
     if (max.value_or(reach.high) <= min.value_or(reach.low))
         min = max = std::nullopt;
     const double unit =
-        std::pow(10.0, -(wishes.decimals ? std::clamp(*wishes.decimals, 0, maxDecimals) : decimalsUnasked));
+        std::pow(10.0, -(wishes.decimals ? std::clamp(*wishes.decimals, 0, maxDecimals) : maxStepDecimals));
     const double low = min.value_or(reach.low), high = max.value_or(reach.high);
 
     Scale scale;
@@ -75,7 +75,7 @@ Scale scaleFor(Range reach, const ScaleWishes& wishes)
     scale.max = max.value_or(std::ceil(high / step - tolerance) * step);
     if (!(scale.max > scale.min))
         scale.max = scale.min + step;
-    scale.decimals = wishes.decimals.value_or(decimalsNeeded(step, decimalsUnasked));
+    scale.decimals = wishes.decimals.value_or(decimalsNeeded(step, maxStepDecimals));
 
     scale.ticks.clear();
     const double first = std::ceil(scale.min / step - tolerance);

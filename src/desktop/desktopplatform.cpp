@@ -103,18 +103,13 @@ DesktopPlatform::~DesktopPlatform()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-Text DesktopPlatform::clipboardText()
+Text DesktopPlatform::readClipboard()
 {
-    if (readInThisEvent_)
-        return *readInThisEvent_;
     if (clipboardNeedsFocus()) {
         presenter_.settle();
         waitForFocus();
     }
-    readInThisEvent_ = readClipboard();
-    QMetaObject::invokeMethod(
-        &presenter_, [this] { readInThisEvent_.reset(); }, Qt::QueuedConnection);
-    return *readInThisEvent_;
+    return plotvue::readClipboard();
 }
 
 std::unique_ptr<NativeWindow> DesktopPlatform::build(std::shared_ptr<Controls> controls)
@@ -122,7 +117,7 @@ std::unique_ptr<NativeWindow> DesktopPlatform::build(std::shared_ptr<Controls> c
     return std::make_unique<DesktopWindow>(presenter_, menus_, std::move(controls));
 }
 
-double DesktopPlatform::choosePrinter(NativeWindow& window)
+int DesktopPlatform::choosePrinter(NativeWindow& window)
 {
     presenter_.settle();
     return printing_.choose(static_cast<DesktopWindow&>(window).widget());

@@ -8,8 +8,6 @@
 #include "desktop/printing.h"
 #include "platform/platform.h"
 
-#include <optional>
-
 namespace plotvue {
 
 class DesktopPlatform : public Platform {
@@ -17,14 +15,11 @@ public:
     DesktopPlatform();
     ~DesktopPlatform() override;
 
-    Text clipboardText() override;
     std::unique_ptr<NativeWindow> build(std::shared_ptr<Controls> controls) override;
-    double choosePrinter(NativeWindow& window) override;
-
-    // Shows and hides windows now instead of on return to the event loop.
-    void settle() { presenter_.settle(); }
+    int choosePrinter(NativeWindow& window) override;
 
 protected:
+    Text readClipboard() override;
     void showMessage(TextSpan title, TextSpan text) override;
     void printWindow(NativeWindow& window) override;
     void copyText(TextSpan text) override;
@@ -33,9 +28,6 @@ protected:
     void finish() override;
 
 private:
-    // The clipboard's text if the current event has read it already. The start-up window and the window that
-    // it opens both read the clipboard, but its owner is asked only once.
-    std::optional<Text> readInThisEvent_;
     // Ends the process at once, or when the toolkit has shut down if a clipboard manager is to take what was
     // copied.
     void leave(int status);

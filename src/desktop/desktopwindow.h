@@ -22,7 +22,6 @@ public:
     void settle();
 
     WindowWidget& widget(); // creates the widgets if necessary
-    bool hasWidget() const { return widget_ != nullptr; }
 
 private:
     void savePosition();

@@ -16,7 +16,7 @@ bool Printing::ask(QPrinter& printer, QWidget& window)
     return QPrintDialog(&printer, &window).exec() == QDialog::Accepted;
 }
 
-double Printing::choose(QWidget& window)
+int Printing::choose(QWidget& window)
 {
     if (!printer_)
         printer_ = std::make_unique<QPrinter>();
@@ -25,7 +25,7 @@ double Printing::choose(QWidget& window)
     if (!ask(*printer_, window))
         throw Failure{u"The printer dialog was cancelled."};
     // The application prints each copy as a job of its own, so the driver must print one.
-    const double copies = printer_->copyCount();
+    const int copies = printer_->copyCount();
     printer_->setCopyCount(1);
     if (printer_->outputFileName().isEmpty())
         makeDefaultPrinter(printer_->printerName());

@@ -19,7 +19,7 @@ public:
 
     // Shows the printer dialog and returns the number of copies. The chosen printer becomes the default
     // printer and is preselected the next time. Throws Failure if the dialog is cancelled.
-    double choose(QWidget& window);
+    int choose(QWidget& window);
 
     // Prints the client area as one job. Throws Failure if that fails.
     void print(QWidget& window);

@@ -54,9 +54,9 @@ bool startedFromMenu()
 
 void sweepFolders(const fs::path& all)
 {
-    std::error_code none;
-    for (const fs::directory_entry& entry : fs::directory_iterator(all, none))
-        if (Folder left{entry.path()}; entry.is_directory(none) && left.take())
+    std::error_code none, failed; // increment() tells a failure; the ++ of a loop would throw it
+    for (fs::directory_iterator at(all, failed), end; !failed && at != end; at.increment(failed))
+        if (Folder left{at->path()}; at->is_directory(none) && left.take())
             left.sweep();
 }
 

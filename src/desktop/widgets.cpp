@@ -115,24 +115,21 @@ QBoxLayout* Builder::arrangeUnder(NoticeLine& notice, const Panel& panel)
 
 void Builder::place(const Item& item, QBoxLayout& layout)
 {
-    if (std::holds_alternative<Space>(item.what)) {
-        layout.addStretch(item.stretch);
-    } else if (const Panel* panel = std::get_if<Panel>(&item.what)) {
-        QBoxLayout* inner = arrange(*panel);
-        if (isSideColumn(item) && layout.direction() == QBoxLayout::LeftToRight)
-            inner->addStrut(sideColumn * window_.fontMetrics().averageCharWidth());
-        layout.addLayout(inner, item.stretch);
-    } else {
-        std::visit(
-            [&](const auto& control) {
-                if constexpr (requires { make(control); }) {
-                    QWidget* widget = make(control);
-                    widget->setObjectName(QLatin1String(control.name.data(), qsizetype(control.name.size())));
-                    layout.addWidget(widget, item.stretch);
-                }
-            },
-            item.what);
-    }
+    const auto placeIt = [&]<typename What>(const What& what) {
+        if constexpr (std::is_same_v<What, Space>) {
+            layout.addStretch(item.stretch);
+        } else if constexpr (std::is_same_v<What, Panel>) {
+            QBoxLayout* inner = arrange(what);
+            if (isSideColumn(item) && layout.direction() == QBoxLayout::LeftToRight)
+                inner->addStrut(sideColumn * window_.fontMetrics().averageCharWidth());
+            layout.addLayout(inner, item.stretch);
+        } else {
+            QWidget* widget = make(what);
+            widget->setObjectName(QLatin1String(what.name.data(), qsizetype(what.name.size())));
+            layout.addWidget(widget, item.stretch);
+        }
+    };
+    std::visit(placeIt, item.what);
 }
 
 QList<QKeySequence> shortcuts(TextSpan text)

@@ -4,6 +4,12 @@
 
 namespace plotvue {
 
+// The child widgets refer to the controls, so they go first.
+WindowWidget::~WindowWidget()
+{
+    qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
+}
+
 void WindowWidget::retire()
 {
     controls_->disconnect();

@@ -16,6 +16,8 @@ class WindowWidget : public QWidget {
 public:
     explicit WindowWidget(std::shared_ptr<Controls> controls) : controls_(std::move(controls)) {}
 
+    ~WindowWidget() override;
+
     Controls& controls() const { return *controls_; }
 
     // Hides the widget at once and deletes it after the current event.

@@ -36,7 +36,9 @@ void writeSmallFile(const char* file, const std::string& bytes)
         static_cast<void>(fchmod(descriptor, ownerOnly));
     for (std::size_t done = 0; good && done < bytes.size();) {
         const ssize_t written = write(descriptor, bytes.data() + done, bytes.size() - done);
-        good = written >= 0 || errno == EINTR;
+        if (written == 0)
+            errno = EIO; // nothing would ever be written
+        good = written > 0 || (written < 0 && errno == EINTR);
         done += written > 0 ? static_cast<std::size_t>(written) : 0;
     }
     const int reason = errno;

@@ -7,7 +7,7 @@
 //
 // "Paid/Lost" charts what was lost on top of what was paid.
 
-#include "capture/failure.h"
+#include "capture/number.h"
 #include "history/salesfields.h"
 
 namespace plotvue {
@@ -42,7 +42,7 @@ double paid(const MonthRow& row)
 double percentPaid(const MonthRow& row)
 {
     const Amounts amounts = amountsIn(row);
-    return amounts.total == 0 ? 0 : finite(finite(amounts.paid / amounts.total) * 100);
+    return percentage(amounts.total, [&] { return amounts.paid; });
 }
 
 double lost(const MonthRow& row)

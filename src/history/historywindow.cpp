@@ -31,24 +31,19 @@ OptionFrame typeFrame(const MonthlyScreen& screen)
 
 } // namespace
 
-Declaration declareHistoryWindow(const MonthlyScreen& screen)
+Declaration HistoryWindow::declare() const
 {
-    ChartDesign design{.legends = screen.legends};
-    if (screen.day) {
+    ChartDesign design{.legends = screen_.legends};
+    if (screen_.day) {
         design.projection = 1;
         design.legends = {{1, u"Projected"}};
     }
-    std::vector<OptionFrame> frames{periodFrame(screen)};
-    if (!screen.typeOrder.empty())
-        frames.push_back(typeFrame(screen));
-    return declareScreenWindow(screen.window, screen.caption,
+    std::vector<OptionFrame> frames{periodFrame(screen_)};
+    if (!screen_.typeOrder.empty())
+        frames.push_back(typeFrame(screen_));
+    return declareScreenWindow(screen_.window, screen_.caption,
                                {{ChartBox{.name = "ChartFX1", .chart = {.design = design}}, 1}},
                                std::move(frames));
-}
-
-Declaration HistoryWindow::declare() const
-{
-    return declareHistoryWindow(screen_);
 }
 
 bool HistoryWindow::drawChart(const Text& capture)

@@ -26,7 +26,4 @@ private:
     const MonthlyScreen& screen_;
 };
 
-// The controls of the screen's window and their arrangement.
-Declaration declareHistoryWindow(const MonthlyScreen& screen);
-
 } // namespace plotvue

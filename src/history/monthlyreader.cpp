@@ -27,10 +27,12 @@ Acceptance accept(const MonthlyScreen& screen, TextSpan capture)
 {
     Acceptance result;
     for (const RequiredWord& required : screen.words) {
-        result.identifier = find(capture, required.word);
+        const Position position = find(capture, required.word);
         if (screen.shortPositions != ShortPositions::None)
-            toInt16(static_cast<double>(result.identifier), u"The copied text");
-        if (required.accepts(result.identifier))
+            toInt16(static_cast<double>(position), u"The copied text");
+        if (&required == &screen.words.back())
+            result.identifier = position;
+        if (required.accepts(position))
             continue;
         result.end = required.otherwise == RequiredWord::Otherwise::End;
         result.stop = required.otherwise == RequiredWord::Otherwise::Stop;

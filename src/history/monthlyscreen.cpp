@@ -41,10 +41,7 @@ Value valueOf(Field field)
 
 Value quotientTimesHundred(Field a, Field b)
 {
-    return [=](const MonthRow& row) {
-        const double divisor = row.read(b);
-        return divisor == 0 ? 0 : finite(finite(row.read(a) / divisor) * 100);
-    };
+    return [=](const MonthRow& row) { return percentage(row.read(b), [&] { return row.read(a); }); };
 }
 
 Value hundredTimesQuotient(Field a, Field b)

@@ -53,15 +53,11 @@ const Text& Grid::cell(int row, int column) const
     return cells.at(static_cast<std::size_t>(row) - 1).at(static_cast<std::size_t>(column));
 }
 
-Controls::Controls(Declaration declared, Handlers handlers, std::function<void()> close)
+Controls::Controls(Declaration declared, ControlsOwner& owner)
     : declaration(std::move(declared)),
-      handlers_(std::move(handlers)),
-      close_(std::move(close))
+      owner_(&owner)
 {
-    forEachControl(declaration.content, [this](const auto& control) {
-        if constexpr (requires { add(control); })
-            add(control);
-    });
+    forEachControl(declaration.content, [this](const auto& control) { add(control); });
 }
 
 void Controls::add(const OptionFrame& frame)
@@ -87,30 +83,35 @@ std::map<Name, std::vector<int>> Controls::chosenOptions() const
     return chosen;
 }
 
-void Controls::use(Name control, int index)
+void Controls::operate(Name control, int index)
 {
-    if (const auto at = handlers_.find(control); at != handlers_.end()) {
-        const auto handler = at->second;
-        handler(index);
-    }
+    if (owner_)
+        owner_->operated(control, index);
+}
+
+void Controls::press(Name button)
+{
+    if (!buttons_.contains(button))
+        throw std::out_of_range("no such button");
+    operate(button, 0);
+}
+
+void Controls::clickRow(Name grid, int row)
+{
+    static_cast<void>(grids_.at(grid));
+    operate(grid, row);
 }
 
 void Controls::choose(Name group, int index)
 {
     options_.at(group).change([index](OptionGroup& options) { options.choose(index); });
-    use(group, index);
+    operate(group, index);
 }
 
 void Controls::close()
 {
-    const auto close = close_;
-    close();
-}
-
-void Controls::disconnect()
-{
-    handlers_.clear();
-    close_ = [] {};
+    if (owner_)
+        owner_->closed();
 }
 
 } // namespace plotvue

@@ -5,6 +5,7 @@
 #include "platform/declaration.h"
 
 #include <functional>
+#include <set>
 
 namespace plotvue {
 
@@ -78,16 +79,22 @@ struct Grid {
     bool operator==(const Grid&) const = default;
 };
 
-// Event handlers by control name. The argument is the index of an option, the row of a grid or 0 for a
-// button.
-using Handlers = std::map<Name, std::function<void(int)>>;
+// Learns what the user does with the controls of a window. May unload the window and so destroy the controls.
+class ControlsOwner {
+public:
+    virtual void operated(Name control,
+                          int index) = 0; // index of the option, row of the grid, or 0 for a button
+    virtual void closed() = 0;            // by the title bar
 
-// Functions throw std::out_of_range for an option group, grid, chart or text that the window does not have.
-// press and clickRow ignore a control without a handler.
+protected:
+    ~ControlsOwner() = default;
+};
+
+// Functions throw std::out_of_range for a control that the window does not have.
 class Controls {
 public:
-    // `close` runs when the user closes the window with its title bar.
-    Controls(Declaration declaration, Handlers handlers, std::function<void()> close);
+    // The owner must outlive the controls, or disconnect() them.
+    Controls(Declaration declaration, ControlsOwner& owner);
     Controls(const Controls&) = delete;
 
     const Declaration declaration; // the initial state of the controls
@@ -103,28 +110,31 @@ public:
     // The chosen options of each group, as OptionGroup::chosen.
     std::map<Name, std::vector<int>> chosenOptions() const;
 
-    // User actions. A handler may unload the window and so destroy these controls.
-    void press(Name button) { use(button, 0); }
+    // User actions.
+    void press(Name button);
     void choose(Name group, int index);
-    void clickRow(Name grid, int row) { use(grid, row); }
+    void clickRow(Name grid, int row);
     void close();
 
-    void disconnect(); // from now on, user actions run no handler
+    void disconnect() { owner_ = nullptr; } // from now on, the owner learns of no user action
 
 private:
+    void add(const Button& button) { buttons_.insert(button.name); }
     void add(const Label& label) { texts_.try_emplace(label.name, Text(label.text)); }
     void add(const TextBox& box) { texts_.try_emplace(box.name); }
+    void add(const ListBox&) {}
     void add(const OptionFrame& frame);
     void add(const ChartBox& box) { charts_.try_emplace(box.name, box.chart); }
     void add(const GridBox& box);
-    void use(Name control, int index);
+    void add(const PictureBox&) {}
+    void operate(Name control, int index);
 
+    std::set<Name> buttons_;
     std::map<Name, Property<Text>> texts_;
     std::map<Name, Property<OptionGroup>> options_;
     std::map<Name, Property<Grid>> grids_;
     std::map<Name, Property<Chart>> charts_;
-    Handlers handlers_;
-    std::function<void()> close_;
+    ControlsOwner* owner_;
 };
 
 } // namespace plotvue

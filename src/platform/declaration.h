@@ -110,16 +110,19 @@ struct Declaration {
 Item row(std::vector<Item> items, int stretch = 0);
 Item column(std::vector<Item> items, int stretch = 0);
 
-// Calls `visit` with each control of the panel and its inner panels, in order of declaration.
+// Calls `visit` with each control of the panel and its inner panels, in order of declaration. `visit` must
+// take every kind of control.
 template <typename Visitor>
 void forEachControl(const Panel& panel, Visitor&& visit)
 {
-    for (const Item& item : panel.items) {
-        if (const Panel* inner = std::get_if<Panel>(&item.what))
-            forEachControl(*inner, visit);
-        else
-            std::visit(visit, item.what);
-    }
+    const auto visitItem = [&visit]<typename What>(const What& what) {
+        if constexpr (std::is_same_v<What, Panel>)
+            forEachControl(what, visit);
+        else if constexpr (!std::is_same_v<What, Space>)
+            visit(what);
+    };
+    for (const Item& item : panel.items)
+        std::visit(visitItem, item.what);
 }
 
 } // namespace plotvue

@@ -4,10 +4,18 @@
 
 namespace plotvue {
 
+const Text& Platform::clipboardText()
+{
+    if (!clipboard_)
+        clipboard_ = readClipboard();
+    return *clipboard_;
+}
+
 void Platform::message(TextSpan title, TextSpan text)
 {
     tell({.kind = Event::Kind::Message, .title = title, .text = text});
     showMessage(title, text);
+    clipboard_.reset(); // the user may have copied while the box was open
 }
 
 void Platform::print(NativeWindow& window, Name name)
@@ -28,6 +36,7 @@ void Platform::run(const std::function<void()>& handler)
 {
     if (over_)
         return;
+    clipboard_.reset();
     try {
         handler();
     } catch (const EndOfProcess&) {

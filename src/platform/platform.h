@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace plotvue {
 
@@ -26,8 +27,9 @@ class Platform : public EventSource {
 public:
     virtual ~Platform() = default;
 
-    // The clipboard's text; empty if it holds none.
-    virtual Text clipboardText() = 0;
+    // The clipboard's text; empty if it holds none. It is read once in an event handler, however many windows
+    // ask for it, because its owner may be slow.
+    const Text& clipboardText();
 
     // Creates a hidden window that displays these controls.
     virtual std::unique_ptr<NativeWindow> build(std::shared_ptr<Controls> controls) = 0;
@@ -37,7 +39,7 @@ public:
 
     // Shows the printer dialog, makes the chosen printer the default and returns the number of copies. Throws
     // Failure if the dialog is cancelled or fails.
-    virtual double choosePrinter(NativeWindow& window) = 0;
+    virtual int choosePrinter(NativeWindow& window) = 0;
 
     // Prints the window's client area as one job. Throws Failure if that fails.
     void print(NativeWindow& window, Name name);
@@ -58,6 +60,7 @@ public:
     bool over() const { return over_; } // true once an exception of a handler has ended the process
 
 protected:
+    virtual Text readClipboard() = 0;
     virtual void showMessage(TextSpan title, TextSpan text) = 0;
     virtual void printWindow(NativeWindow& window) = 0;
     virtual void copyText(TextSpan text) = 0;
@@ -69,6 +72,7 @@ protected:
 private:
     void fail(TextSpan sentence);
 
+    std::optional<Text> clipboard_; // as this event handler has read it
     bool over_ = false;
 };
 

@@ -51,7 +51,7 @@ Handlers DrillDownWindow::handlers()
 EntryLines DrillDownWindow::chosenRecord() const
 {
     const KeyValues chosen = readChosenRow(design_.analysis.key);
-    return ListFile(design_.analysis).find(chosen, design_.limits.draw);
+    return ListFile(design_.analysis).readUpTo(chosen, design_.limits.draw);
 }
 
 void DrillDownWindow::drawChart()
@@ -89,7 +89,7 @@ void DrillDownWindow::cmdBack_Click()
 {
     const KeyValues chosen = readChosenRow(design_.analysis.key);
     ListFile list(design_.analysis);
-    list.find(chosen, design_.limits.step);
+    list.readUpTo(chosen, design_.limits.step);
     if (list.position() == 1)
         return endOfList();
     choose(list.previous());
@@ -101,7 +101,7 @@ void DrillDownWindow::cmdNext_Click()
     EntryLines next;
     try {
         ListFile list(design_.analysis);
-        list.find(chosen, design_.limits.step);
+        list.readUpTo(chosen, design_.limits.step);
         next = list.next();
     } catch (const Failure&) {
         // The chosen record was the last: the file ends too early for another one.

@@ -12,6 +12,7 @@
 
 #include "capture/failure.h"
 #include "capture/number.h"
+#include "ranked/monthcolumns.h"
 #include "ranked/rankedfigures.h"
 #include "ranked/rankedscreens.h"
 
@@ -34,6 +35,12 @@ double bucket(TextSpan line, int number)
     return leadingNumber(mid(line, 7 + 8 * number, 8));
 }
 
+// Whether the line is long enough for the bucket.
+bool reaches(TextSpan line, int number)
+{
+    return static_cast<int>(line.size()) >= 15 + 8 * number;
+}
+
 // Before the first "Mlabel" line, a line with five crosses is an ageing line.
 void startWithCrosses(RankedFigures& screen)
 {
@@ -54,7 +61,7 @@ void takeAgeing(RankedFigures& screen, TextSpan line)
     Entry& entry = screen.currentEntry();
     const double current = bucket(line, 0);
     double sum = current;
-    for (int j = 1; j < maxBuckets && static_cast<int>(line.size()) >= 15 + 8 * j; ++j)
+    for (int j = 1; j < maxBuckets && reaches(line, j); ++j)
         sum = finite(sum + bucket(line, j));
     entry.numbers[total] = sum;
     entry.numbers[pastDue] = finite(sum - current);
@@ -64,7 +71,7 @@ void takeAgeing(RankedFigures& screen, TextSpan line)
 int bucketsIn(TextSpan captions)
 {
     int j = 1;
-    while (j < maxBuckets && 8 * j + 15 <= static_cast<int>(captions.size()))
+    while (j < maxBuckets && reaches(captions, j))
         ++j;
     return j;
 }
@@ -79,7 +86,7 @@ void draw(Controls& controls, const EntryLines& record, int)
     for (int month = 1; month <= months; ++month) {
         const TextSpan line = record[static_cast<std::size_t>(2 + month)];
         const auto point = static_cast<std::size_t>(months - month);
-        labels[point] = mid(record[0], 5 * month - 4, 5);
+        labels[point] = monthLabel(record[0], month);
         double sum = 0;
         for (int j = 0; j < std::max(buckets, bucketsAlwaysRead); ++j) {
             const double amount = bucket(line, j);

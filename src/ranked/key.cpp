@@ -16,7 +16,8 @@ KeyValues keyOf(const Key& key, const Entry& entry)
     KeyValues values;
     for (const KeyPart& part : key.parts) {
         const auto slot = static_cast<std::size_t>(part.slot);
-        values.push_back(part.number ? RecordField(entry.numbers[slot]) : RecordField(entry.texts[slot]));
+        values.push_back(part.number ? RecordField(entry.numbers.at(slot))
+                                     : RecordField(entry.texts.at(slot)));
     }
     return values;
 }

@@ -21,7 +21,7 @@ const EntryLines& ListFile::next()
     return record_;
 }
 
-const EntryLines& ListFile::find(const KeyValues& key, int limit)
+const EntryLines& ListFile::readUpTo(const KeyValues& key, int limit)
 {
     const Key& wanted = analysis_.key;
     do

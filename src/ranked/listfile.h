@@ -17,7 +17,7 @@ public:
 
     // Reads on until a record has the key, at most to the record number `limit`, and returns the last record
     // that was read. Throws Failure when the file ends before that.
-    const EntryLines& find(const KeyValues& key, int limit);
+    const EntryLines& readUpTo(const KeyValues& key, int limit);
 
     int position() const { return position_; }               // of the record read last, from 1
     const EntryLines& previous() const { return previous_; } // the one before the record read last

@@ -68,7 +68,8 @@ void RankedListWindow::fill(const RankedGrid& grid)
                 const bool isText = column.content == GridColumn::Content::TextSlot;
                 const bool isRow = column.content == GridColumn::Content::RowNumber;
                 control.setCell(row, static_cast<int>(c),
-                                isText ? entry.texts[slot] : plainNumber(isRow ? row : entry.numbers[slot]));
+                                isText ? entry.texts.at(slot)
+                                       : plainNumber(isRow ? row : entry.numbers.at(slot)));
             }
         }
     });

@@ -14,12 +14,11 @@ double monthFigure(TextSpan line, int month, Position width = columnWidth)
     return leadingNumber(mid(line, 8 * month - 5, width));
 }
 
-// 100 times the profit by the divisor: sales or volume. Where the divisor is 0, so is the result, and the
-// profit is not read, so it cannot be too large.
+// The profit as a percentage of sales, or per hundred of the volume.
 double perHundred(TextSpan profitLine, Position profitWidth, TextSpan divisorLine, int month)
 {
-    const double divisor = monthFigure(divisorLine, month);
-    return divisor == 0 ? 0 : finite(finite(monthFigure(profitLine, month, profitWidth) / divisor) * 100);
+    return percentage(monthFigure(divisorLine, month),
+                      [&] { return monthFigure(profitLine, month, profitWidth); });
 }
 
 double valueOf(const MonthLines& lines, int type, int month)

@@ -29,16 +29,16 @@ void take(const LineField& field, TextSpan line, RankedFigures& screen)
     const auto slot = static_cast<std::size_t>(field.slot);
     switch (field.to) {
     case LineField::To::EntryNumber:
-        screen.currentEntry().numbers[slot] = leadingNumber(text);
+        screen.currentEntry().numbers.at(slot) = leadingNumber(text);
         break;
     case LineField::To::EntryText:
-        screen.currentEntry().texts[slot] = text;
+        screen.currentEntry().texts.at(slot) = text;
         break;
     case LineField::To::ScreenNumber:
-        screen.numbers[slot] = leadingNumber(text);
+        screen.numbers.at(slot) = leadingNumber(text);
         break;
     case LineField::To::ScreenText:
-        screen.texts[slot] = text;
+        screen.texts.at(slot) = text;
         break;
     }
 }
@@ -106,7 +106,7 @@ std::vector<int> ranksIn(const RankedGrid& grid, const RankedFigures& screen)
 {
     std::vector<int> ranks;
     int rank = 0;
-    for (int row = 1; row <= screen.counts[static_cast<std::size_t>(grid.count)]; ++row) {
+    for (int row = 1; row <= screen.counts.at(static_cast<std::size_t>(grid.count)); ++row) {
         const Entry* entry = nullptr;
         do
             entry = &screen.entry(++rank);

@@ -8,9 +8,9 @@ namespace plotvue {
 void Window::show()
 {
     if (!loaded() || (loadsAnew() && !visible())) {
-        hiddenWhileLoading_ = false;
+        hiddenSinceLoading_ = false;
         load();
-        if (hiddenWhileLoading_)
+        if (hiddenSinceLoading_)
             return;
     } else {
         shownAgain();
@@ -22,7 +22,7 @@ void Window::show()
 
 void Window::hide()
 {
-    hiddenWhileLoading_ = true;
+    hiddenSinceLoading_ = true;
     if (!std::exchange(visible_, false))
         return;
     setNotice({});
@@ -62,14 +62,24 @@ NativeWindow& Window::native() const
 
 void Window::load()
 {
-    Handlers guarded = handlers();
-    for (auto& [control, handler] : guarded)
-        handler = [this, inner = std::move(handler)](int index) { platform_.run([&] { inner(index); }); };
-    controls_ = std::make_shared<Controls>(declare(), std::move(guarded),
-                                           [this] { platform_.run([this] { wayOut(); }); });
+    if (handlers_.empty()) // once: a handler that is running must stay where it is
+        handlers_ = handlers();
+    ControlsOwner& owner = *this;
+    controls_ = std::make_shared<Controls>(declare(), owner);
     native_ = platform_.build(controls_);
     platform_.tell({.kind = Event::Kind::Load, .window = name()});
     Form_Load();
+}
+
+void Window::operated(Name control, int index)
+{
+    if (const auto handler = handlers_.find(control); handler != handlers_.end())
+        platform_.run([&] { handler->second(index); });
+}
+
+void Window::closed()
+{
+    platform_.run([this] { wayOut(); });
 }
 
 void Window::leaveFor(Window& home)

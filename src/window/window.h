@@ -6,7 +6,11 @@
 
 namespace plotvue {
 
-class Window {
+// Event handlers by control name. The argument is the index of an option, the row of a grid, or 0 for a
+// button. A control without a handler does nothing, like a grid of figures.
+using Handlers = std::map<Name, std::function<void(int)>>;
+
+class Window : private ControlsOwner {
 public:
     explicit Window(Platform& platform) : platform_(platform) {}
     Window(const Window&) = delete;
@@ -54,12 +58,15 @@ protected:
 
 private:
     void load();
+    void operated(Name control, int index) override;
+    void closed() override;
 
     Platform& platform_;
+    Handlers handlers_;
     std::shared_ptr<Controls> controls_; // shared with native_, whose widgets may outlive this form
     std::unique_ptr<NativeWindow> native_;
     bool visible_ = false;
-    bool hiddenWhileLoading_ = false;
+    bool hiddenSinceLoading_ = false; // since the last load began
 };
 
 } // namespace plotvue

@@ -4,6 +4,7 @@
 #include "desktop/chart/qtext.h"
 #include "desktop/grid.h"
 #include "desktop/samplesfixture.h"
+#include "support/windows.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -46,7 +47,7 @@ protected:
                     lookAtEveryEntry(*other);
         }
         pressed(window, "Exit");
-        EXPECT_FALSE(platform.over());
+        EXPECT_FALSE(platform.over()) << testing::PrintToString(platform.endings);
         return seen_;
     }
 
@@ -60,7 +61,7 @@ protected:
 private:
     void pressed(Name form, Name button)
     {
-        app.window(form)->controls().press(button);
+        test::windowNamed(app, form)->controls().press(button);
         platform.settle();
     }
 

@@ -18,6 +18,9 @@ public:
     std::vector<Text> messages;
     std::vector<std::string> endings; // "end", "spin", or the sentence of an error
 
+    // Shows and hides windows now instead of on return to the event loop.
+    void settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall); }
+
 protected:
     void showMessage(TextSpan, TextSpan text) override
     {
@@ -68,19 +71,8 @@ inline Declaration everyControl()
                              .picture = Button::Picture::Arrow}}})}}};
 }
 
-class DesktopTest : public testing::Test {
+class DesktopTest : public testing::Test, private ControlsOwner {
 protected:
-    // Handlers that add "control index" to `ran`.
-    Handlers noting(std::initializer_list<Name> controls)
-    {
-        Handlers handlers;
-        for (const Name control : controls)
-            handlers[control] = [this, control](int index) {
-                ran.push_back(std::string(control) + ' ' + std::to_string(index));
-            };
-        return handlers;
-    }
-
     struct Built {
         std::shared_ptr<Controls> controls;
         std::unique_ptr<NativeWindow> window;
@@ -90,8 +82,8 @@ protected:
 
     Built build(const Declaration& declaration = everyControl())
     {
-        const auto controls = std::make_shared<Controls>(
-            declaration, noting({"cmdGo", "cmdBack", "opt", "Grid1"}), [this] { ran.emplace_back("close"); });
+        ControlsOwner& owner = *this;
+        const auto controls = std::make_shared<Controls>(declaration, owner);
         return {controls, platform.build(controls)};
     }
 
@@ -111,7 +103,16 @@ protected:
     }
 
     PlayedDesktop platform;
-    std::vector<std::string> ran;
+    std::vector<std::string> ran; // "cmdGo 0": the control and its index; "close"
+    std::function<void()> onOperated = [] {};
+
+private:
+    void operated(Name control, int index) override
+    {
+        ran.push_back(std::string(control) + ' ' + std::to_string(index));
+        onOperated();
+    }
+    void closed() override { ran.emplace_back("close"); }
 };
 
 } // namespace plotvue::test

@@ -256,9 +256,7 @@ TEST_F(DesktopWindowTest, IsNoLongerHeardOnceItIsDestroyed)
 
 TEST_F(DesktopWindowTest, CanBeUnloadedByItsOwnButton)
 {
-    every.controls = std::make_shared<Controls>(test::everyControl(),
-                                                Handlers{{"cmdGo", [this](int) { every = {}; }}}, [] {});
-    every.window = platform.build(every.controls);
+    onOperated = [this] { every = {}; };
     onScreen();
     find<QPushButton>("&Go").click();
     EXPECT_EQ(every.window, nullptr);

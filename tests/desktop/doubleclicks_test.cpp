@@ -1,6 +1,7 @@
 // Presses that follow a click too soon, in a window that the click has brought up. The events have the times
 // of a mouse, so that no test waits.
 #include "desktop/samplesfixture.h"
+#include "support/windows.h"
 
 #include <QMouseEvent>
 #include <QPushButton>
@@ -16,7 +17,7 @@ protected:
     WindowWidget* shownWindow(Name name)
     {
         windows();
-        WindowWidget& widget = static_cast<DesktopWindow&>(app.window(name)->native()).widget();
+        WindowWidget& widget = static_cast<DesktopWindow&>(test::windowNamed(app, name)->native()).widget();
         return widget.isVisible() ? &widget : nullptr;
     }
 

@@ -3,6 +3,7 @@
 #include "desktop/chart/qtext.h"
 #include "desktop/grid.h"
 #include "desktop/samplesfixture.h"
+#include "support/windows.h"
 
 #include <QPointer>
 #include <QPushButton>
@@ -175,14 +176,14 @@ INSTANTIATE_TEST_SUITE_P(Samples, FirstSize, testing::ValuesIn(test::samples()),
 TEST_F(FirstSize, TwentyFourMonthsHaveTwentyFiveLabels)
 {
     const WindowWidget* window = opened(sample("product"));
-    app.window("frmProduct")->controls().choose("opt12", 1);
+    test::windowNamed(app, "frmProduct")->controls().choose("opt12", 1);
     EXPECT_EQ(labelled(*window), 25U);
 }
 
 TEST_F(FirstSize, FiveYearsHaveSixtyLabels)
 {
     const WindowWidget* window = opened(sample("glhistory"));
-    app.window("frmGLarch")->controls().choose("opt12", 4);
+    test::windowNamed(app, "frmGLarch")->controls().choose("opt12", 4);
     EXPECT_EQ(labelled(*window), 60U);
 }
 

@@ -4,6 +4,7 @@
 #include "desktop/clipboard.h"
 #include "desktop/desktopfixture.h"
 #include "support/capturebuilder.h"
+#include "support/windows.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -15,10 +16,20 @@ namespace {
 
 class PresenterTest : public test::DesktopTest {
 protected:
+    // The widget that displays the controls; null while there is none.
+    static const WindowWidget* widgetOf(const Controls& controls)
+    {
+        for (const QWidget* widget : QApplication::topLevelWidgets())
+            if (const auto* window = qobject_cast<const WindowWidget*>(widget);
+                window && &window->controls() == &controls)
+                return window;
+        return nullptr;
+    }
+
     static bool realised(const Window& form)
     {
-        auto& window = static_cast<DesktopWindow&>(form.native());
-        return window.hasWidget() && window.widget().internalWinId() != 0;
+        const WindowWidget* widget = widgetOf(form.controls());
+        return widget && widget->internalWinId() != 0;
     }
 
     static Text productScreen()
@@ -44,13 +55,13 @@ TEST_F(PresenterTest, StartWithACaptureNeverCreatesTheStartUpWindow)
 {
     copy(productScreen());
     app.start();
-    const Window& product = *app.window("frmProduct");
+    const Window& product = *test::windowNamed(app, "frmProduct");
     ASSERT_TRUE(product.visible());
     EXPECT_FALSE(realised(product)) << "before the handlers have returned";
     platform.settle();
     EXPECT_TRUE(realised(product));
     EXPECT_TRUE(static_cast<DesktopWindow&>(product.native()).widget().isVisible());
-    EXPECT_FALSE(static_cast<DesktopWindow&>(app.window("startup")->native()).hasWidget());
+    EXPECT_EQ(widgetOf(test::windowNamed(app, "startup")->controls()), nullptr);
 }
 
 TEST_F(PresenterTest, StartUpWindowIsVisibleUnderTheMessage)
@@ -58,16 +69,17 @@ TEST_F(PresenterTest, StartUpWindowIsVisibleUnderTheMessage)
     QGuiApplication::clipboard()->clear();
     app.start();
     ASSERT_EQ(platform.messages.size(), 1U);
-    EXPECT_TRUE(realised(*app.window("startup")));
+    EXPECT_TRUE(realised(*test::windowNamed(app, "startup")));
     platform.settle();
-    EXPECT_TRUE(static_cast<DesktopWindow&>(app.window("startup")->native()).widget().isVisible());
+    EXPECT_TRUE(
+        static_cast<DesktopWindow&>(test::windowNamed(app, "startup")->native()).widget().isVisible());
 }
 
 TEST_F(PresenterTest, EventLoopShowsAndHidesWindowsByItself)
 {
     const Built every = build();
     every.window->show();
-    EXPECT_FALSE(static_cast<DesktopWindow&>(*every.window).hasWidget());
+    EXPECT_EQ(widgetOf(*every.controls), nullptr);
     QCoreApplication::processEvents();
     EXPECT_TRUE(every.widget().isVisible());
     platform.settle();
@@ -141,11 +153,12 @@ TEST_F(PresenterTest, RebuiltWindowAppearsWhereThePreviousOneWas)
 TEST_F(PresenterTest, TheClipboardIsReadOncePerEvent)
 {
     copy(u"a");
-    EXPECT_EQ(platform.clipboardText(), u"a");
-    copy(u"b");
-    EXPECT_EQ(platform.clipboardText(), u"a");
-    QCoreApplication::processEvents();
-    EXPECT_EQ(platform.clipboardText(), u"b");
+    platform.run([this] {
+        EXPECT_EQ(platform.clipboardText(), u"a");
+        copy(u"b");
+        EXPECT_EQ(platform.clipboardText(), u"a");
+    });
+    platform.run([this] { EXPECT_EQ(platform.clipboardText(), u"b"); }); // the next event may follow at once
 }
 
 TEST_F(PresenterTest, PicturesOnTheClipboardAreNotText)

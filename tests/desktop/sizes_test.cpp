@@ -4,6 +4,7 @@
 #include "desktop/grid.h"
 #include "desktop/noticeline.h"
 #include "desktop/samplesfixture.h"
+#include "support/windows.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -122,7 +123,7 @@ protected:
         copySample(GetParam());
         app.start();
         EXPECT_EQ(expectAllFit(screen), 1U);
-        EXPECT_FALSE(app.window("startup")->visible());
+        EXPECT_FALSE(test::windowNamed(app, "startup")->visible());
 
         auto* grid = windows().front()->findChild<GridTable*>();
         if (!grid || GetParam() == "categoriessalesmen")

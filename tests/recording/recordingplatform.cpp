@@ -16,7 +16,7 @@ std::unique_ptr<NativeWindow> RecordingPlatform::build(std::shared_ptr<Controls>
     return std::make_unique<Unseen>();
 }
 
-double RecordingPlatform::choosePrinter(NativeWindow&)
+int RecordingPlatform::choosePrinter(NativeWindow&)
 {
     if (printer.answer == Printer::Answer::Cancel)
         throw Failure{u"The printer dialog was cancelled."};

@@ -16,14 +16,14 @@ public:
             Accept,
             Fail
         } answer = Answer::Cancel; // Fail: accepts one copy, which cannot be printed
-        double copies = 1;         // for Accept
+        int copies = 1;            // for Accept
     } printer;
 
-    Text clipboardText() override { return clipboard; }
     std::unique_ptr<NativeWindow> build(std::shared_ptr<Controls> controls) override;
-    double choosePrinter(NativeWindow& window) override;
+    int choosePrinter(NativeWindow& window) override;
 
 protected:
+    Text readClipboard() override { return clipboard; }
     void showMessage(TextSpan, TextSpan) override {} // returns at once
     void reportError(TextSpan) override {}
     void waitForMoreLines(int) override {}

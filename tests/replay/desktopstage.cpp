@@ -15,7 +15,10 @@ class AnsweringDesktop : public DesktopPlatform {
 public:
     PrinterAnswer printer;
 
-    double choosePrinter(NativeWindow&) override
+    // Shows and hides windows now instead of on return to the event loop.
+    void settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall); }
+
+    int choosePrinter(NativeWindow&) override
     {
         if (printer.kind == PrinterAnswer::Kind::Cancel)
             throw Failure{u"The printer dialog was cancelled."};

@@ -2,6 +2,7 @@
 
 #include "capture/utf8.h"
 #include "replay/json.h"
+#include "support/windows.h"
 
 #include <algorithm>
 #include <charconv>
@@ -116,7 +117,7 @@ void Player::printer(const std::vector<std::string>& words)
 {
     using Kind = PrinterAnswer::Kind;
     if (words.size() == 3 && words[1] == "accept")
-        stage_.setPrinter({Kind::Accept, static_cast<double>(wholeNumber(words[2]))});
+        stage_.setPrinter({Kind::Accept, wholeNumber(words[2])});
     else if (words.size() == 2 && words[1] == "cancel")
         stage_.setPrinter({Kind::Cancel});
     else if (words.size() == 2 && words[1] == "fail")
@@ -136,7 +137,7 @@ void Player::dump(Name window)
 
 Window& Player::form(Name window)
 {
-    Window* found = app_.window(window);
+    Window* found = test::windowNamed(app_, window);
     if (!found)
         throw BadLine("no window " + std::string(window));
     return *found;

@@ -12,7 +12,7 @@ namespace plotvue::replay {
 
 struct PrinterAnswer {
     enum class Kind { Cancel, Accept, Fail } kind = Kind::Cancel;
-    double copies = 1;
+    int copies = 1;
 };
 
 // A platform that a script controls.

@@ -128,7 +128,7 @@ def captions():
 def operators():
     """The usual changes of operators, wherever something is worked out, and of its numbers that lay out no screen."""
     pattern = "|".join(map(re.escape, sorted(OPERATORS, key=len, reverse=True)))
-    for path in [*sources(COMPUTED), "src/app/markersearch.h"]:
+    for path in sources(COMPUTED):
         text, code = code_of(path)
         for found in re.finditer(pattern, code):
             yield replaced("operators", path, text, *found.span(), OPERATORS[found[0]])

@@ -3,6 +3,7 @@
 #include "ranked/listfile.h"
 #include "sessions/walk.h"
 #include "support/owneronly.h"
+#include "support/windows.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -22,7 +23,7 @@ std::optional<EntryLines> chosenRecord(const DrillDownDesign& design)
 {
     try {
         const KeyValues chosen = readChosenRow(design.analysis.key);
-        return ListFile(design.analysis).find(chosen, design.limits.draw);
+        return ListFile(design.analysis).readUpTo(chosen, design.limits.draw);
     } catch (const Failure&) {
         return {};
     }
@@ -117,7 +118,7 @@ void Walk::watch(const std::string& window)
     const auto drillDown = designs_.find(window);
     if (drillDown == designs_.end() && !charts_.contains(window))
         return;
-    Controls& controls = player_.application().window(window)->controls();
+    Controls& controls = test::windowNamed(player_.application(), window)->controls();
     controls.chart("ChartFX1").changed = [this, window, &controls, drillDown] {
         Drawing& drawing = drawn_[window] = {held_, controls.chosenOptions(), {}};
         drawnNow_.push_back(window);
@@ -138,7 +139,7 @@ void Walk::noticesMustBeTrue(const std::string& line)
             if (!charts_.contains(shown) || holds(loadedNow_, shown))
                 continue;
             const auto last = drawn_.find(shown);
-            const Controls& controls = player_.application().window(shown)->controls();
+            const Controls& controls = test::windowNamed(player_.application(), shown)->controls();
             const bool current = last != drawn_.end() && last->second.copied == held_ &&
                                  last->second.options == controls.chosenOptions();
             if (noticeOf(shown).empty() != current)
@@ -156,7 +157,7 @@ void Walk::noticesMustBeTrue(const std::string& line)
 
 std::string Walk::noticeOf(const std::string& window)
 {
-    return toUtf8(*player_.application().window(window)->controls().notice);
+    return toUtf8(*test::windowNamed(player_.application(), window)->controls().notice);
 }
 
 std::optional<bool> Walk::endOfListIsDue(const std::string& line) const
@@ -212,7 +213,7 @@ void Walk::finish()
     if (over())
         return;
     std::map<std::string, const Window*> windows; // sorted by name
-    for (const Window* window : player_.application().windows())
+    for (const Window* window : test::allWindows(player_.application()))
         windows.emplace(window->name(), window);
     for (const auto& [name, window] : windows) {
         if (window->loaded() != loaded_.contains(name) || window->visible() != visible_.contains(name))

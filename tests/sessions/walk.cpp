@@ -1,5 +1,7 @@
 #include "sessions/walk.h"
 
+#include "support/windows.h"
+
 #include <algorithm>
 #include <fstream>
 
@@ -20,7 +22,7 @@ Walk::Walk(replay::Stage& stage, const Random& random, std::ostream& script, Man
         if (const Ranked* ranked = std::get_if<Ranked>(&screen.window))
             designs_.emplace(ranked->drillDown->window, ranked->drillDown);
     for (const Screen& screen : screens)
-        (screen.ranked() ? lists_ : charts_).emplace(player_.application().windowOf(screen).name());
+        (screen.ranked() ? lists_ : charts_).emplace(test::windowOf(player_.application(), screen).name());
 }
 
 void Walk::heard(const Event& event)
@@ -183,7 +185,7 @@ std::vector<Walk::Offer> Walk::offers(const std::string& window)
     if (manner_.talkative)
         play("dump " + window);
     std::vector<Offer> all;
-    const Window& form = *player_.application().window(window);
+    const Window& form = *test::windowNamed(player_.application(), window);
     for (const auto& [name, seen] : stage_.look(form).controls) {
         Offer offer;
         if (const auto* text = std::get_if<replay::SeenText>(&seen);

@@ -1,6 +1,7 @@
 #include "support/session.h"
 
 #include "capture/utf8.h"
+#include "support/windows.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -85,7 +86,7 @@ void Session::start(TextSpan clipboard)
 
 Controls& Session::controls(Name window)
 {
-    Window* form = app.window(window);
+    Window* form = test::windowNamed(app, window);
     if (!form)
         throw std::runtime_error("no window " + std::string(window));
     return form->controls();
@@ -113,12 +114,12 @@ void Session::close(Name window)
 
 bool Session::loaded(Name window)
 {
-    return app.window(window)->loaded();
+    return test::windowNamed(app, window)->loaded();
 }
 
 bool Session::visible(Name window)
 {
-    return app.window(window)->visible();
+    return test::windowNamed(app, window)->visible();
 }
 
 Text Session::notice(Name window)

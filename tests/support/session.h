@@ -21,10 +21,11 @@ class CountingPlatform : public RecordingPlatform {
 public:
     int clipboardReads = 0;
 
-    Text clipboardText() override
+protected:
+    Text readClipboard() override
     {
         ++clipboardReads;
-        return RecordingPlatform::clipboardText();
+        return RecordingPlatform::readClipboard();
     }
 };
 

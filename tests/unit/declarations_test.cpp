@@ -1,6 +1,7 @@
 // The accessible names and the shortcuts of each window.
 #include "app/application.h"
 #include "recording/recordingplatform.h"
+#include "support/windows.h"
 #include "windowfixture.h"
 
 namespace plotvue::test {
@@ -13,34 +14,36 @@ protected:
     void open(std::string_view capture)
     {
         platform.clipboard = sample(capture);
-        Window* startup = app.window("startup");
+        Window* startup = test::windowNamed(app, "startup");
         startup->loaded() ? startup->controls().press("Command1") : app.start();
     }
 
     void openChart(std::string_view capture, Name list)
     {
         open(capture);
-        app.window(list)->controls().clickRow("MSFlexGrid1", 1);
+        test::windowNamed(app, list)->controls().clickRow("MSFlexGrid1", 1);
     }
 
     Said spoken(Name window)
     {
         Said said;
-        forEachControl(app.window(window)->controls().declaration.content, [&](const auto& control) {
-            if constexpr (requires { control.spokenName; })
-                if (!control.spokenName.empty())
-                    said.emplace_back(control.name, control.spokenName);
-        });
+        forEachControl(test::windowNamed(app, window)->controls().declaration.content,
+                       [&](const auto& control) {
+                           if constexpr (requires { control.spokenName; })
+                               if (!control.spokenName.empty())
+                                   said.emplace_back(control.name, control.spokenName);
+                       });
         return said;
     }
 
     ChartDesign chart(Name window)
     {
         ChartDesign design;
-        forEachControl(app.window(window)->controls().declaration.content, [&](const auto& control) {
-            if constexpr (std::is_same_v<std::decay_t<decltype(control)>, ChartBox>)
-                design = control.chart.design;
-        });
+        forEachControl(test::windowNamed(app, window)->controls().declaration.content,
+                       [&](const auto& control) {
+                           if constexpr (std::is_same_v<std::decay_t<decltype(control)>, ChartBox>)
+                               design = control.chart.design;
+                       });
         return design;
     }
 
@@ -48,20 +51,22 @@ protected:
     std::vector<int> figures(Name window)
     {
         std::vector<int> columns;
-        forEachControl(app.window(window)->controls().declaration.content, [&](const auto& control) {
-            if constexpr (requires { control.figures; })
-                columns = control.figures;
-        });
+        forEachControl(test::windowNamed(app, window)->controls().declaration.content,
+                       [&](const auto& control) {
+                           if constexpr (requires { control.figures; })
+                               columns = control.figures;
+                       });
         return columns;
     }
 
     Said keys(Name window)
     {
         Said said;
-        forEachControl(app.window(window)->controls().declaration.content, [&](const auto& control) {
-            if constexpr (requires { control.shortcut; })
-                said.emplace_back(control.name, control.shortcut);
-        });
+        forEachControl(test::windowNamed(app, window)->controls().declaration.content,
+                       [&](const auto& control) {
+                           if constexpr (requires { control.shortcut; })
+                               said.emplace_back(control.name, control.shortcut);
+                       });
         return said;
     }
 

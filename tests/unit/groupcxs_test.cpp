@@ -171,6 +171,14 @@ TEST_F(CategoriesBySalesman, OptionsWithoutAGroupAreHidden)
     EXPECT_EQ(options.options[6].caption, u"CARDLOCK");
 }
 
+TEST_F(CategoriesBySalesman, ARowOfTheGridOpensNothing)
+{
+    session.start(screen(4).text());
+    session.events();
+    session.clickRow(cxs, "MSFlexGrid1", 1);
+    EXPECT_EQ(session.events(), Events{});
+}
+
 TEST_F(CategoriesBySalesman, AChosenGroupThatTheScreenDoesNotHaveIsNothing)
 {
     session.start(screen(4).text());

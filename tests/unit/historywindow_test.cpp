@@ -15,7 +15,7 @@ class HistoryWindowTest : public testing::Test, public ChartWindow {
 protected:
     HistoryWindowTest() : ChartWindow("frmProduct", "product") { open(); }
 
-    Events printed(double copies)
+    Events printed(int copies)
     {
         session.platform.printer = {RecordingPlatform::Printer::Answer::Accept, copies};
         session.press(window, "cmdPrint");
@@ -26,7 +26,7 @@ protected:
 
 TEST_F(HistoryWindowTest, ACopyCountBelowOneOrBeyond16BitsPrintsNothing)
 {
-    for (const double copies : {0.0, -1.0, -32768.0, 32768.0, 40000.0, -32769.0})
+    for (const int copies : {0, -1, -32768, 32768, 40000, -32769})
         EXPECT_EQ(printed(copies), Events{}) << copies;
 }
 

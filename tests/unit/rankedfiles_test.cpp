@@ -1,6 +1,7 @@
 // The small files between a list and its drill-down window, and what happens when they are not as they were
 // written.
 #include "rankedfixture.h"
+#include "support/windows.h"
 
 namespace plotvue::test {
 namespace {
@@ -111,7 +112,7 @@ TEST_P(RankedFiles, TheScratchFileCannotBeWritten)
 TEST_P(RankedFiles, TheScratchFileIsMissing)
 {
     Session session;
-    session.platform.run([&] { session.app.window(GetParam().list)->show(); });
+    session.platform.run([&] { test::windowNamed(session.app, GetParam().list)->show(); });
     EXPECT_TRUE(failed(session, "error The file pvuscrn.txt in the working directory cannot be opened ("));
 }
 

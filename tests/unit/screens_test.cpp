@@ -4,6 +4,7 @@
 #include "capture/utf8.h"
 #include "support/capturebuilder.h"
 #include "support/session.h"
+#include "support/windows.h"
 
 #include <algorithm>
 #include <cctype>
@@ -48,7 +49,7 @@ TEST(Screens, AreOpenedByTheirSamples)
         for (const std::string& name : names) {
             Session session;
             session.start(sample(name));
-            EXPECT_TRUE(screen && session.app.windowOf(*screen).visible()) << name;
+            EXPECT_TRUE(screen && test::windowOf(session.app, *screen).visible()) << name;
             EXPECT_FALSE(session.platform.over()) << name;
         }
 }
@@ -83,7 +84,8 @@ TEST(Screens, HaveATestEach)
     const std::set<std::string> words = wordsInTests();
     Session session;
     for (const Screen& screen : screens)
-        EXPECT_TRUE(words.contains(std::string(session.app.windowOf(screen).name()))) << nameOf(screen);
+        EXPECT_TRUE(words.contains(std::string(test::windowOf(session.app, screen).name())))
+            << nameOf(screen);
 }
 
 } // namespace

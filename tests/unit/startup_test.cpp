@@ -1,6 +1,7 @@
 #include "capture/utf8.h"
 #include "support/capturebuilder.h"
 #include "support/session.h"
+#include "support/windows.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -70,10 +71,11 @@ TEST(Startup, ListsTheSupportedScreens)
     Session session;
     session.start();
     std::vector<TextSpan> items;
-    forEachControl(session.app.window("startup")->controls().declaration.content, [&](const auto& control) {
-        if constexpr (std::is_same_v<decltype(control), const ListBox&>)
-            items = control.items;
-    });
+    forEachControl(test::windowNamed(session.app, "startup")->controls().declaration.content,
+                   [&](const auto& control) {
+                       if constexpr (std::is_same_v<decltype(control), const ListBox&>)
+                           items = control.items;
+                   });
     EXPECT_THAT(items,
                 ElementsAre(u"Sales Journal History", u"G/L History", u"G/L Expense/Volume",
                             u"Customer Sales History", u"Salesman History", u"Salesman/Category Analysis",
@@ -171,10 +173,10 @@ TEST(Startup, RefreshAsksTheClipboardAgain)
 
 struct CountingPlatform : RecordingPlatform {
     int reads = 0;
-    Text clipboardText() override
+    Text readClipboard() override
     {
         ++reads;
-        return RecordingPlatform::clipboardText();
+        return RecordingPlatform::readClipboard();
     }
 };
 
@@ -184,7 +186,7 @@ TEST(Startup, ReadsTheClipboardOnceARecognition)
     Application app(platform);
     app.start();
     EXPECT_EQ(platform.reads, 1);
-    app.window("startup")->controls().press("Command1");
+    test::windowNamed(app, "startup")->controls().press("Command1");
     EXPECT_EQ(platform.reads, 2);
 }
 

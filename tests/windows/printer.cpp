@@ -3,6 +3,7 @@
 #include "app/application.h"
 #include "desktop/desktopplatform.h"
 #include "desktop/desktopwindow.h"
+#include "support/windows.h"
 
 #include <QApplication>
 #include <QPrinter>
@@ -31,7 +32,7 @@ class AnsweredDesktop : public DesktopPlatform {
 public:
     AnsweredPrinting printing;
 
-    double choosePrinter(NativeWindow& window) override
+    int choosePrinter(NativeWindow& window) override
     {
         return printing.choose(static_cast<DesktopWindow&>(window).widget());
     }
@@ -53,10 +54,9 @@ int main(int argc, char** argv)
     platform.printing.copies = std::atoi(argv[2]);
     Application plotVue(platform);
     plotVue.start();
-    platform.settle();
     QApplication::processEvents();
     int jobs = 0;
     platform.listener = [&jobs](const Event& event) { jobs += event.kind == Event::Kind::Print; };
-    plotVue.window("frmProduct")->controls().press("cmdPrint");
+    test::windowNamed(plotVue, "frmProduct")->controls().press("cmdPrint");
     return jobs == platform.printing.copies ? EXIT_SUCCESS : EXIT_FAILURE;
 }
