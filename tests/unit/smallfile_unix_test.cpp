@@ -16,8 +16,9 @@
 namespace {
 
 int closeFailsWith = 0; // errno; 0: it does not fail
+bool nothingIsWritten = false;
 
-}
+} // namespace
 
 // The linker puts this in the place of close(), which tells what a disk with quotas or in the network could
 // not store in the end.
@@ -29,6 +30,12 @@ extern "C" int __wrap_close(int descriptor)  // NOLINT
         return result;
     errno = closeFailsWith;
     return -1;
+}
+
+extern "C" ssize_t __real_write(int descriptor, const void* bytes, std::size_t count); // NOLINT
+extern "C" ssize_t __wrap_write(int descriptor, const void* bytes, std::size_t count)  // NOLINT
+{
+    return nothingIsWritten ? 0 : __real_write(descriptor, bytes, count);
 }
 
 namespace plotvue::test {
@@ -50,6 +57,13 @@ mode_t rightsOf(const char* file)
     struct stat status {};
     EXPECT_EQ(stat(file, &status), 0);
     return status.st_mode & allRights;
+}
+
+TEST_F(SmallFile, ADiskThatTakesNothingIsAnErrorAndNoEndlessLoop)
+{
+    nothingIsWritten = true;
+    EXPECT_THROW(writeSmallFile(listFile, "bytes"), Failure);
+    nothingIsWritten = false;
 }
 
 TEST_F(SmallFile, OnlyTheOwnerReadsAFile)
