@@ -8,6 +8,7 @@ namespace plotvue {
 
 namespace {
 
+// Kept: positions of 16 bits (docs/kept.md).
 bool holdsZero(TextSpan text)
 {
     return toInt16(static_cast<double>(find(text, u"0")), u"The copied text") > 0;

@@ -12,7 +12,7 @@
 
 namespace plotvue {
 
-// A row of the list in the start-up window. Several screens may share a row.
+// A row of the list in the start-up window. Kept: 19 rows for 22 screens (docs/kept.md).
 struct SupportedRow {
     int number; // 1 is at the top
     TextSpan caption;
@@ -42,10 +42,11 @@ std::unique_ptr<Window> makeWindow(Platform& platform, Window& home)
 
 inline constexpr SupportedRow customerSales{4, u"Customer Sales History"};
 inline constexpr SupportedRow salesmanCategory{6, u"Salesman/Category Analysis"};
-inline constexpr bool needsZero = true;
+inline constexpr bool needsZero = true; // Kept: a screen must hold a 0 (docs/kept.md).
 
 // The order is that of recognition: of two markers in a text the earlier one wins. Every "QXM12P2" screen
 // holds "QXM12P" too. A ranked analysis has no identifier and is recognised by words of its title.
+// Kept: the first marker wins, markers anywhere (docs/kept.md).
 inline constexpr std::array screens{
     Screen{u"QXM31H", {7, u"Product History"}, &frmProduct},
     Screen{u"QXM21D", {5, u"Salesman History"}, &frmSalesman},

@@ -25,6 +25,7 @@ std::vector<TextSpan> supportedScreens()
 
 Declaration Startup::declare() const
 {
+    // Kept: spellings of the caption, names of controls, the Windows clipboard (docs/kept.md).
     return {.name = "startup",
             .caption = u"Plot Vue!",
             .content = {Panel::Direction::Row,
@@ -82,6 +83,7 @@ const Screen* Startup::IdentifyScreen()
 {
     const Text text = platform().clipboardText();
     const Screen* screen = recognise(text);
+    // Kept: no data though text was copied (docs/kept.md).
     if (!screen)
         platform().message(u"Need Data", u"Clipboard contains no data");
     else if (screen->ranked())

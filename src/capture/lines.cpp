@@ -6,6 +6,7 @@ namespace plotvue {
 
 namespace {
 
+// Kept: a line without an end (docs/kept.md).
 constexpr std::size_t longestUnendedLine = 81;
 constexpr TextSpan dashes = u"-----";
 constexpr Position lastDashPosition = 29;
@@ -33,17 +34,19 @@ ScreenLines::ScreenLines(TextSpan capture)
     TextSpan rest = capture;
     while (count_ < read && !ranOut_) {
         lines_[static_cast<std::size_t>(++count_)] = cutLine(rest);
+        // Kept: dashes in the rest of the text (docs/kept.md).
         const TextSpan within =
             rest.substr(0, static_cast<std::size_t>(lastDashPosition) - 1 + dashes.size());
         if (holds(within, dashes))
             dashLine_ = count_ + 1;
-        dropControls(rest);
+        dropControls(rest); // Kept: blank lines (docs/kept.md).
         ranOut_ = rest.empty();
     }
 }
 
 TextSpan ScreenLines::operator[](Position number) const
 {
+    // Kept: rows below line 19 (docs/kept.md).
     if (number < 1 || number > capacity)
         throw Failure{
             u"The column headings are so low on the screen that the months under them are missing."};
@@ -52,6 +55,7 @@ TextSpan ScreenLines::operator[](Position number) const
 
 void ScreenLines::requireAll() const
 {
+    // Kept: a screen that is cut off (docs/kept.md).
     if (!ranOut_)
         return;
     int lines = 0;

@@ -13,6 +13,7 @@ namespace plotvue {
 namespace {
 
 // The field without blanks, tabs and line feeds, up to the first character that no number has.
+// Kept: numbers end early (docs/kept.md).
 std::string numberCharacters(TextSpan field, bool dropCommas)
 {
     std::string kept;

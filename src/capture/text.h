@@ -24,6 +24,7 @@ bool holds(TextSpan text, TextSpan wanted);
 TextSpan mid(TextSpan text, Position start, Position length = toTheEnd);
 
 // `text` without its last character, which in a line is the carriage return; empty for an empty text.
+// Kept: the last character of a line (docs/kept.md).
 TextSpan withoutLast(TextSpan text);
 
 } // namespace plotvue

@@ -9,8 +9,8 @@ namespace plotvue {
 
 namespace {
 
-// The options by index are the data types, then the groups, then the total. The values of a group are in the
-// order of the data types, unlike those of the other salesman/category screen.
+// The options by index are the data types, then the groups, then the total.
+// Kept: one option group in two frames, two orders of the figures (docs/kept.md).
 constexpr std::array<TextSpan, valuesPerGroup> types{u"Sales", u"Profit", u"Volume"};
 constexpr int firstGroup = 3;
 constexpr int total = firstGroup + maxGroups;
@@ -79,7 +79,7 @@ TextSpan frmQXM21CXS::nameGroups(const GroupFigures& screen)
             const bool there = i < screen.groups;
             const TextSpan caption = there ? screen.names[static_cast<std::size_t>(i)] : TextSpan{};
             optSales.setCaption(firstGroup + i, caption);
-            optSales.setVisible(firstGroup + i, there);
+            optSales.setVisible(firstGroup + i, there); // Kept: a chosen group that is hidden (docs/kept.md).
             if (group == firstGroup + i)
                 chosen = caption;
         }
@@ -95,6 +95,7 @@ void frmQXM21CXS::fillGrid(const std::vector<Text>& labels, const std::vector<do
         for (std::size_t i = 0; i + 1 < values.size(); ++i) {
             const int row = static_cast<int>(i) + 1;
             MSFlexGrid1.setCell(row, 0, labels[i]);
+            // Kept: numbers without separators (docs/kept.md).
             MSFlexGrid1.setCell(row, 1, plainNumber(values[i]));
         }
     });

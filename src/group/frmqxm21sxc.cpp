@@ -14,10 +14,10 @@ struct Type {
     int place; // among the values of a group
 };
 
-// The host prints the volume between sales and profit.
+// Kept: two orders of the figures (docs/kept.md).
 constexpr std::array types{Type{u"Sales", 0}, Type{u"Profit", 2}, Type{u"Volume", 1}};
 
-constexpr int minSeries = 3;
+constexpr int minSeries = 3; // Kept: three series for fewer groups (docs/kept.md).
 
 } // namespace
 
@@ -58,6 +58,7 @@ void frmQXM21SXC::drawGroups(TextSpan capture)
     controls().chart("ChartFX1").change([&](Chart& ChartFX1) {
         ChartFX1.clearLegends();
         ChartFX1.SetTitle(2, screen.subject);
+        // Kept: a title that is not set (docs/kept.md).
         if (screen.groups > 0 && !screen.salesmen.empty())
             ChartFX1.SetTitle(3, type.title);
         ChartFX1.SetChartData(data);

@@ -10,7 +10,7 @@ namespace plotvue {
 
 namespace {
 
-constexpr int maxSalesmen = 23;
+constexpr int maxSalesmen = 23; // Kept: four groups and 23 salesmen (docs/kept.md).
 
 TextSpan nextLine(TextSpan& rest)
 {
@@ -21,6 +21,7 @@ TextSpan nextLine(TextSpan& rest)
 
 int countAfter(TextSpan line, TextSpan mark, Position length)
 {
+    // Kept: a missing mark (docs/kept.md).
     const Position start = find(line, mark) + static_cast<Position>(mark.size());
     return toInt16(leadingNumber(mid(line, start, length)), u"A count on the screen");
 }
@@ -46,6 +47,7 @@ Salesman readSalesman(TextSpan line, std::size_t values, const std::vector<bool>
     TextSpan rest = mid(line, 6);
     for (std::size_t i = 0; i < values; ++i) {
         const Position end = find(rest, u";");
+        // Kept: a figure without its semicolon (docs/kept.md).
         if (end && wanted[i])
             salesman.values[i] = leadingNumber(mid(rest, 1, end - 1));
         rest = mid(rest, end + 1);

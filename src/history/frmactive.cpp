@@ -7,8 +7,8 @@
 //   5   DEC99   1,865     436     789   2,636
 //   6   NOV99   1,733     441     815   2,550    NOV98   1,651     424     681   2,351
 //
-// The newest month is never charted. "All" is the host's own column, not a sum. The large title names the
-// line of business.
+// "All" is the host's own column, not a sum. The large title names the line of business.
+// Kept: a month that is never charted, fields that share a column, decimals that are not set (docs/kept.md).
 
 #include "history/salesfields.h"
 

@@ -6,8 +6,7 @@
 //   5   JUL99   84923.5 128060.18  36279.68
 //   6   JUN99  114297.0 166583.21  49087.20      JUN98  106650.2 147155.78  40861.70
 //
-// The name of the store is on line 1 and begins one column after the colon of line 2. Without the identifier
-// the process ends.
+// Kept: a name from another line, a text that ends the process (docs/kept.md).
 
 #include "history/salesfields.h"
 

@@ -8,7 +8,7 @@
 //   6  FEB00   3771.92  26295.09   5083.72
 //   7  JAN00  11318.14  79555.59  11207.01      JAN99  10069.95  69003.35   9839.33
 //
-// A "QXM12P2" capture holds all the required words too and is read as if it were this screen.
+// Kept: a pack screen in the category window (docs/kept.md).
 
 #include "history/salesfields.h"
 
@@ -16,7 +16,7 @@ namespace plotvue {
 
 namespace {
 
-// "PCAT" may be absent, but its first occurrence must not be this far down the capture.
+// Kept: a category mark far down (docs/kept.md).
 constexpr Position farDown = 501;
 
 bool isAbsentOrNear(Position position)

@@ -9,7 +9,7 @@
 //   7  MAY00   7544.31  87910.01  12180.02
 //   8  APR00  10319.80 121826.16  15913.88      APR99   8991.43 102709.49  18181.62
 //
-// The customer ends at the latest in column 34, before the host's next field.
+// Kept: a customer of 34 columns (docs/kept.md).
 
 #include "capture/failure.h"
 #include "history/salesfields.h"

@@ -7,8 +7,8 @@
 //   6   FEB00 125565.05 137231.16  17149.87
 //   7   JAN00 179285.34 195852.01  25457.29      JAN99 178483.37 179281.24  24796.05
 //
-// A capture without the identifier is charted in the window that has just been hidden. The two screens differ
-// in the identifier, the title and the order of the data types.
+// The two screens differ in the identifier, the title and the order of the data types.
+// Kept: a window charted while hidden, options out of order (docs/kept.md).
 
 #include "history/salesfields.h"
 

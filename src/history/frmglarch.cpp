@@ -39,19 +39,20 @@ int yearAfterSlash(const ScreenLines& lines)
     });
 }
 
-// "OCT", but "J99" for January; in full both have the year.
+// "OCT", but "J99" for January; in full both have the year. Kept: January anywhere (docs/kept.md).
 MonthLabel monthOrYear(const MonthRow& row, int, int firstYear)
 {
     const Text month(mid(row.line, 2, 3)), year(mid(signedNumber(firstYear + yearOf(row.month)), 4, 2));
     return {holds(row.line, u"JAN") ? Text(mid(row.line, 2, 1)) + year : month, month + year};
 }
 
+// Kept: amounts of 32 bits (docs/kept.md).
 double wholeAmount(const MonthRow& row)
 {
     return toInt32(row.read({0, 13}), u"An amount on the screen");
 }
 
-// Changes all signs of an account that has more negative months than positive ones.
+// Kept: turned signs (docs/kept.md).
 void turn(std::vector<double>& values)
 {
     int sign = 0;
@@ -69,7 +70,7 @@ const MonthlyScreen frmGLarch{
     .words = {{u"PFMGLARCH1"}},
     .place = placeInCalendar,
     .dropCommas = true,
-    .firstYear = yearAfterSlash,
+    .firstYear = yearAfterSlash, // Kept: a failure before the wait (docs/kept.md).
     .label = monthOrYear,
     .finish = turn,
     .types = {{.value = wholeAmount}},

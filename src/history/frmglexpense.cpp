@@ -7,8 +7,9 @@
 //   6   OCT99   24,759.55   634,443.63  3.9026
 //   7   SEP99   53,526.38 1,269,974.69  4.2148  SEP98   49,425.37 1,159,950.64  4.2610
 //
-// The newest month is never charted. There is no date and no projection. The cents are the host's own column.
+// There is no date and no projection. The cents are the host's own column.
 // The right half begins a column further to the left than on the sales screens.
+// Kept: a month that is never charted, fields that share a column, blanks in texts (docs/kept.md).
 
 #include "history/salesfields.h"
 

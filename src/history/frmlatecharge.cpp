@@ -5,7 +5,7 @@
 //   4   SEP99  5,727.96  4,961.21   667.08
 //   5   AUG99  5,914.47  3,672.97 2,003.37       AUG98  6,489.12    368.23 5,527.76
 //
-// "Paid/Lost" charts what was lost on top of what was paid.
+// "Paid/Lost" charts what was lost on top of what was paid. Kept: a hidden series of zeros (docs/kept.md).
 
 #include "capture/number.h"
 #include "history/salesfields.h"
@@ -18,7 +18,7 @@ struct Amounts {
     double total, open, paid;
 };
 
-// All three are read whatever is charted: a single one that is too large fails.
+// Kept: figures that are not shown (docs/kept.md).
 Amounts amountsIn(const MonthRow& row)
 {
     return {row.read({6, 9}), row.read({16, 9}), row.read({25, 9})};

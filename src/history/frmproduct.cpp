@@ -14,7 +14,7 @@ namespace plotvue {
 
 namespace {
 
-// The first month is on the line after the dashes, wherever they are.
+// Kept: dashes in the rest of the text (docs/kept.md).
 MonthPlace placeAfterDashLine(const MonthlyScreen& screen, const ScreenLines& lines, int month)
 {
     MonthPlace place = placeInBlocks(screen, lines, month);
@@ -22,7 +22,7 @@ MonthPlace placeAfterDashLine(const MonthlyScreen& screen, const ScreenLines& li
     return place;
 }
 
-// Cuts line 2, `from` characters after its colon. A colon that is the last character does not count.
+// Cuts line 2, `from` characters after its colon. Kept: the last character of a line (docs/kept.md).
 TextSpan afterColon(const ScreenLines& lines, int from, Position length)
 {
     const TextSpan line = withoutLast(lines[2]);

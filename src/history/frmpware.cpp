@@ -30,6 +30,7 @@ const MonthlyScreen frmPware{
                  {.text = u"  WH: "},
                  {.line = 4, .after = u":", .from = 1, .length = 3}},
     .periods = periodsLong(),
+    // Kept: captions that differ from window to window (docs/kept.md).
     .periodFrame = u"",
     .typeFrame = u"",
 };

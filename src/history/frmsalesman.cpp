@@ -9,7 +9,7 @@
 //   7  OCT99   8403.74  36838.63   7873.25
 //   8  SEP99  22473.64  97780.36  19857.15      SEP98  22207.05  97217.75  15444.03
 //
-// A capture of another screen is charted in the window that has just been hidden.
+// Kept: a window charted while hidden (docs/kept.md).
 
 #include "history/salesfields.h"
 

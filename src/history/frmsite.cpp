@@ -6,8 +6,8 @@
 //   5   NOV99  62159.09  75185.33   6166.18
 //   6   OCT99 118114.87 141100.53  12280.43      OCT98 110518.10 125481.06  12572.32
 //
-// The day is to the left of the identifier. A capture without "QTY" is charted in the window that has just
-// been hidden. Without the identifier the process ends.
+// The day is to the left of the identifier.
+// Kept: a window charted while hidden, a text that ends the process (docs/kept.md).
 
 #include "history/salesfields.h"
 
@@ -15,7 +15,7 @@ namespace plotvue {
 
 const MonthlyScreen frmSite{
     .window = "frmSite",
-    .words = {{u"QTY", RequiredWord::Otherwise::GoOn}, {u"CRD812H", RequiredWord::Otherwise::End}},
+    .words = {{u"QTY", RequiredWord::Otherwise::GoOn}, {u"CRD812H", RequiredWord::Otherwise::Stop}},
     .day = -3,
     .blocks = twoHalves(5),
     .types = salesTypes(hundredTimesQuotient, u"G/P %", u"Unit G/P"),

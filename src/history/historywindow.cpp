@@ -49,6 +49,7 @@ Declaration HistoryWindow::declare() const
 bool HistoryWindow::drawChart(const Text& capture)
 {
     const Acceptance acceptance = accept(screen_, capture);
+    // Kept: a window charted while hidden, a text that ends the process (docs/kept.md).
     if (acceptance.leave)
         refuse();
     if (acceptance.end)

@@ -15,6 +15,7 @@ MonthRow rowOf(const MonthlyScreen& screen, const ScreenLines& lines, int month)
     return {month, place.column, lines[place.line], screen.dropCommas};
 }
 
+// Kept: the day beside the identifier (docs/kept.md).
 double dayAt(TextSpan capture, Position position)
 {
     const TextSpan field = mid(capture, position, 2);
@@ -53,6 +54,7 @@ MonthlyFigures readMonths(const MonthlyScreen& screen, TextSpan capture, Positio
     lines.requireAll();
 
     MonthlyFigures series;
+    // Kept: an empty point at the end (docs/kept.md).
     const auto slots = static_cast<std::size_t>(months) + 1;
     series.values.resize(slots);
     series.labels.resize(slots);

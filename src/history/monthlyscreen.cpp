@@ -31,6 +31,7 @@ MonthLabel monthAndYear(const MonthRow& row, int months, int)
     const Text full(mid(row.line, row.column, 5));
     if (months <= maxLongLabels)
         return {full, full};
+    // Kept: labels of three characters (docs/kept.md).
     return {Text(mid(row.line, row.column, 1)) + Text(mid(row.line, row.column + 3, 2)), full};
 }
 

@@ -24,14 +24,14 @@ struct RequiredWord {
     TextSpan word;
     enum class Otherwise {
         Stop, // the window is left and nothing is charted
-        GoOn, // the window is left, and the capture is charted in it all the same
-        End   // the process ends
+        GoOn, // the window is left. Kept: a window charted while hidden (docs/kept.md).
+        End   // the process ends. Kept: a text that ends the process (docs/kept.md).
     } otherwise = Otherwise::Stop;
     bool (*accepts)(Position) = isPresent; // is given the word's first position; 0 where it is absent
 };
 
 // Which positions must fit into 16 bits: those of the required words in the capture, and those at which a
-// title is cut in its line.
+// title is cut in its line. Kept: positions of 16 bits (docs/kept.md).
 enum class ShortPositions { None, OfWords, OfWordsAndTitles };
 
 struct MonthPlace {
@@ -76,7 +76,7 @@ MonthLabel monthAndYear(const MonthRow& row, int months, int firstYear);
 using Value = std::function<double(const MonthRow&)>;
 
 Value valueOf(Field field);
-// Two ways to work out a percentage, which can differ in the last bit. Both give 0 when `b` is 0.
+// Kept: two ways to a percentage (docs/kept.md). Both give 0 when `b` is 0.
 Value quotientTimesHundred(Field a, Field b); // a / b * 100
 Value hundredTimesQuotient(Field a, Field b); // 100 * a / b
 
@@ -97,7 +97,9 @@ struct Piece {
     TextSpan after{}; // its first occurrence in the line; empty or absent: position 0
     int from = 0;     // the piece begins this many characters after the position of `after`
     Position length = toTheEnd;
-    bool lineEnd = true; // whether the piece may hold the line's last character, its carriage return
+    // Whether the piece may hold the line's last character, its carriage return.
+    // Kept: a line end in a text (docs/kept.md).
+    bool lineEnd = true;
 
     TextSpan (*cut)(const ScreenLines&, const DataType&) = nullptr; // returns the piece in place of all this
 };
@@ -109,9 +111,10 @@ struct Period {
 
 struct MonthlyScreen {
     Name window;
-    TextSpan caption = u"Plotvue!";
+    TextSpan caption = u"Plotvue!"; // Kept: spellings of the caption (docs/kept.md).
 
-    std::vector<RequiredWord> words; // the screen identifier is the last
+    // The screen identifier is the last. Kept: a screen that is recognised and refused (docs/kept.md).
+    std::vector<RequiredWord> words;
     ShortPositions shortPositions = ShortPositions::None;
     // The two digits of the day begin this many characters after the first one of the identifier. They tell
     // how much of the newest month is over; without a day nothing is projected.
@@ -131,9 +134,10 @@ struct MonthlyScreen {
 
     std::vector<Period> periods;                                // by option index
     TextSpan periodFrame = u"Months", typeFrame = u"Data Type"; // captions; empty: none
-    std::vector<int> periodOrder = {1, 0, 2};                   // indices from the top
-    std::vector<int> typeOrder = {0, 1, 2, 3, 4};               // indices from the top; empty: no choice
-    std::map<int, TextSpan> legends{};                          // by series, where nothing is projected
+    // Kept: options out of order (docs/kept.md).
+    std::vector<int> periodOrder = {1, 0, 2};     // indices from the top
+    std::vector<int> typeOrder = {0, 1, 2, 3, 4}; // indices from the top; empty: no choice
+    std::map<int, TextSpan> legends{};            // by series, where nothing is projected
 };
 
 // Whether a data type has a second series that is not the projection.

@@ -13,6 +13,7 @@ TextSpan cut(const Piece& piece, const ScreenLines& lines, const DataType& type,
     if (piece.line == 0)
         return piece.text;
     const TextSpan line = lines[piece.line];
+    // Kept: a missing mark (docs/kept.md).
     const Position after = piece.after.empty() ? 0 : find(line, piece.after);
     if (positions == ShortPositions::OfWordsAndTitles)
         toInt16(static_cast<double>(after), u"A line of the copied text");

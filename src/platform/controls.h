@@ -112,7 +112,7 @@ public:
 
     // User actions.
     void press(Name button);
-    void choose(Name group, int index);
+    void choose(Name group, int index); // Kept: the option that is chosen already (docs/kept.md).
     void clickRow(Name grid, int row);
     void close();
 

@@ -62,7 +62,7 @@ void DrillDownWindow::drawChart()
     setNotice({});
 }
 
-// A click on a row brings an open window to the front, but does not draw the row.
+// Kept: a second click (docs/kept.md).
 void DrillDownWindow::shownAgain()
 {
     bool isDrawn = false;
@@ -105,6 +105,7 @@ void DrillDownWindow::cmdNext_Click()
         next = list.next();
     } catch (const Failure&) {
         // The chosen record was the last: the file ends too early for another one.
+        // Kept: Down takes any failure for the end (docs/kept.md).
         return endOfList();
     }
     choose(next);
@@ -118,6 +119,7 @@ void DrillDownWindow::choose(const EntryLines& record)
 
 void DrillDownWindow::endOfList()
 {
+    // Kept: the end of the list closes the chart (docs/kept.md).
     platform().message({}, u"End of list");
     unload();
 }

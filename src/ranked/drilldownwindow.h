@@ -1,5 +1,5 @@
 // The drill-down window of a ranked analysis: charts one entry of the list file and steps through the list.
-// It shares no memory with the list window: it reads the small files again at every drawing.
+// Kept: files between two windows (docs/kept.md).
 #pragma once
 
 #include "ranked/rankedscreen.h"

@@ -23,7 +23,7 @@ namespace {
 
 using To = LineField::To;
 
-constexpr Position previousColumn = 20; // of the previous profit on the "Mprofit" line
+constexpr Position previousColumn = 20; // Kept: where the previous profit begins (docs/kept.md).
 
 void drawEntry(Controls& controls, const EntryLines& record, int type)
 {
@@ -44,8 +44,7 @@ const RankedScreen frmM2Mpft = list(
                               {To::EntryNumber, marginPart, 32, 9}},
                    .then = count},
                   {.marker = u"MONTH TO MONTH", .fields = {{To::ScreenText, header, 1}}}},
-        // A gain of exactly 0 is counted as a loss, but both grids list it. So it takes a row of the gains
-        // that was counted for another entry, and the last gain is not listed.
+        // Kept: a gain of 0, blanks in texts (docs/kept.md).
         .grids = {grid(gains,
                        {.name = "MSFlexGrid1",
                         .spokenName = u"Gains",

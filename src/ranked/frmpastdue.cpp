@@ -28,7 +28,7 @@ enum ScreenText { ageingKey, title };
 
 constexpr int months = 6;
 constexpr int maxBuckets = 8;
-constexpr int bucketsAlwaysRead = 4;
+constexpr int bucketsAlwaysRead = 4; // Kept: four amounts are always summed (docs/kept.md).
 
 double bucket(TextSpan line, int number)
 {
@@ -41,19 +41,19 @@ bool reaches(TextSpan line, int number)
     return static_cast<int>(line.size()) >= 15 + 8 * number;
 }
 
-// Before the first "Mlabel" line, a line with five crosses is an ageing line.
+// Kept: the month's label anywhere (docs/kept.md).
 void startWithCrosses(RankedFigures& screen)
 {
     screen.texts[ageingKey] = u"xxxxx";
 }
 
+// Kept: how rows are counted (docs/kept.md).
 void countEntry(RankedFigures& screen, TextSpan)
 {
     ++screen.counts[0];
 }
 
-// Every line that holds the current month's label is taken for the current entry's ageing line. An "Mlabel"
-// line may be one, too.
+// Kept: the month's label anywhere (docs/kept.md).
 void takeAgeing(RankedFigures& screen, TextSpan line)
 {
     if (!holds(line, mid(screen.texts[ageingKey], 1, 5)))
@@ -119,6 +119,7 @@ using Content = GridColumn::Content;
 
 const RankedScreen frmPastdue{
     .window = "frmPastdue",
+    // Kept: names of controls (docs/kept.md).
     .heading = {{Label{.name = "txtHeader", .font = {.bold = true}}}},
     .title = u"RANKED PAST",
     .maxLines = 1000,
@@ -155,6 +156,7 @@ const RankedScreen frmPastdue{
 const DrillDownDesign frmPastdueA{
     .window = "frmPastdueA",
     .analysis = frmPastdue,
+    // Kept: the hundredth record (docs/kept.md).
     .limits = {.draw = 1000, .step = 500},
     .charts = {{ChartBox{.name = "ChartFX1"}, 1}},
     .draw = draw,

@@ -21,7 +21,7 @@ namespace {
 
 using To = LineField::To;
 
-constexpr Position previousColumn = 21; // of the previous profit on the "Mprofit" line
+constexpr Position previousColumn = 21; // Kept: where the previous profit begins (docs/kept.md).
 
 // The last of the lines 2 to 5 that holds either marker; the second where none does, as when the list has a
 // row for a rank that the screen lacks.
@@ -45,8 +45,7 @@ const RankedScreen frmProfRank = list(
     {
         .window = "frmProfRank",
         .title = u"RANKED PROFIT AN",
-        // Where an entry has both lines, it keeps the components of the later one. A heading may hold "P:" as
-        // well: "FOR SALES REP: 014".
+        // Kept: the later of two lines, any line with P and a colon (docs/kept.md).
         .rules = {{.marker = u"GAIN:",
                    .afterRank = true,
                    .fields = {{To::EntryNumber, volumePart, 19, 9}, {To::EntryNumber, marginPart, 32, 9}}},

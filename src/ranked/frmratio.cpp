@@ -25,7 +25,7 @@ namespace plotvue {
 
 namespace {
 
-enum EntryNumber { currentValue };
+enum EntryNumber { currentValue }; // Kept: figures that are not shown (docs/kept.md).
 enum EntryText { code, name, valueText, benchmarkText };
 enum ScreenText { monthLabels, title, company };
 
@@ -83,6 +83,7 @@ Text formulaMessage(const EntryLines& record)
            Text(textOf(record, 4));
 }
 
+// Kept: only STD is STD (docs/kept.md).
 Text noteMessage(const EntryLines& record)
 {
     const TextSpan note = textOf(record, 6);
@@ -109,7 +110,7 @@ void draw(Controls& controls, const EntryLines& record, int)
         largest = std::max(largest, values[point]);
     }
     largest = std::max(largest, leadingNumber(mid(record[3], 3, valueLength)));
-    // Where the screen is too short for the formula or the note, drawing fails, not the button.
+    // Kept: a ratio that is cut off (docs/kept.md).
     for (const std::size_t line : {4u, 5u, 6u})
         textOf(record, line);
 

@@ -11,7 +11,7 @@
 //     P     1409    1281    1423    1197    1196    1162...
 //
 // The labels begin in column 8. Every figure of the last three lines has 8 columns, the first from column 3
-// on. The first two fields of the "F:" line share column 11.
+// on. Kept: fields that share a column (docs/kept.md).
 
 #include "capture/failure.h"
 #include "capture/number.h"
@@ -26,7 +26,7 @@ namespace plotvue {
 
 namespace {
 
-enum EntryNumber { fifoValue, secondAmount };
+enum EntryNumber { fifoValue, secondAmount }; // Kept: figures that are not shown (docs/kept.md).
 enum EntryText { vendor, category, stockMonths };
 enum ScreenText { monthLabels, title, summaryLine };
 
@@ -34,7 +34,7 @@ constexpr int buckets = 5;
 constexpr Position bucketLength = 8;
 constexpr TextSpan bucketLabels = u"<30 Days31 - 60 61 - 90 91 - 120Over 120";
 
-// Ranks that the screen lacks get a row as well.
+// Kept: how rows are counted, a missing rank (docs/kept.md).
 void countHighestRank(RankedFigures& screen, TextSpan)
 {
     screen.counts[0] = std::max(screen.counts[0], screen.currentRank);
@@ -47,8 +47,7 @@ Text tips(const EntryLines&)
            u"this inventory, based on past sales, averaged over three months.";
 }
 
-// "$1,234" or "-$1,234", rounded to whole dollars, a half away from zero. Nothing is "$": the format of the
-// title has no digit that is always written.
+// "$1,234" or "-$1,234", rounded to whole dollars. Kept: nothing in dollars (docs/kept.md).
 Text dollars(double amount)
 {
     const double whole = std::round(amount);
@@ -83,6 +82,7 @@ void draw(Controls& controls, const EntryLines& record, int type)
     const ChartArrayData months =
         monthSeries(record[0], {.volume = record[3], .sales = record[4], .profit = record[5]}, type);
     controls.chart("ChartFX1").change([&](Chart& ChartFX1) {
+        // Kept: decimals that are not set (docs/kept.md).
         ChartFX1.SetTitle(1, monthTypes()[static_cast<std::size_t>(type)].title);
         ChartFX1.SetTitle(2, u"Vendor: " + Text(mid(entry, 17, 30)));
         ChartFX1.SetTitle(3, u"Category: " + Text(mid(entry, 54, 30)));
@@ -100,7 +100,7 @@ const RankedScreen frmVendInv{
     .heading = {{TextBox{.name = "txtHeader", .spokenName = u"Analysis"}},
                 {TextBox{.name = "txtHeader2", .spokenName = u"Summary"}}},
     .buttons = {{.button = {.name = "cmdTips", .caption = u"Tips", .shortcut = u"F1"}, .text = tips}},
-    .title = u"VENDOR INVENTORY AN",
+    .title = u"VENDOR INVENTORY AN", // Kept: a screen that is recognised and refused (docs/kept.md).
     .rules = {{.marker = u"RANK:",
                .open = openRank,
                .fields = {{To::EntryText, vendor, 17, 30}, {To::EntryText, category, 54, 30}},

@@ -12,6 +12,7 @@ Declaration RankedListWindow::declare() const
     for (const MessageButton& message : analysis_.buttons)
         buttons.push_back({message.button});
     buttons.push_back({printButton()});
+    // Kept: captions that differ from window to window (docs/kept.md).
     buttons.push_back({exitButton(u"Exit")});
 
     std::vector<Item> content = analysis_.heading;
@@ -44,7 +45,7 @@ Handlers RankedListWindow::handlers()
 
 void RankedListWindow::Form_Load()
 {
-    capture_ = RecordReader(scratchFile).next();
+    capture_ = RecordReader(scratchFile).next(); // Kept: a quote that ends a capture (docs/kept.md).
     screen_ = nameFailedLine(capture_, [this] { return readRanked(analysis_, capture_); });
     if (!screen_.accepted)
         return cmdExit_Click();
@@ -65,6 +66,7 @@ void RankedListWindow::fill(const RankedGrid& grid)
             for (std::size_t c = 0; c < grid.columns.size(); ++c) {
                 const GridColumn& column = grid.columns[c];
                 const auto slot = static_cast<std::size_t>(column.slot);
+                // Kept: row numbers for ranks, numbers without separators (docs/kept.md).
                 const bool isText = column.content == GridColumn::Content::TextSlot;
                 const bool isRow = column.content == GridColumn::Content::RowNumber;
                 control.setCell(row, static_cast<int>(c),

@@ -26,7 +26,7 @@ protected:
     Handlers handlers() override;
     void Form_Load() override;
     void wayOut() override { cmdExit_Click(); }
-    bool loadsAnew() const override { return true; }
+    bool loadsAnew() const override { return true; } // Kept: a loaded window keeps its chart (docs/kept.md).
 
 private:
     void cmdExit_Click() { leaveFor(startup_); }

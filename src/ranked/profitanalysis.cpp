@@ -102,7 +102,7 @@ void draw(Controls& controls, const EntryLines& record, int type, TextSpan compo
     const double margin = leadingNumber(mid(componentLine, 32, 9));
     const TextSpan entry = record[1];
     const MonthType& chosen = monthTypes()[static_cast<std::size_t>(type)];
-    // The percentage reads each profit one column too wide, into the next month.
+    // Kept: a percentage one column too wide (docs/kept.md).
     const ChartArrayData months = monthSeries(
         record[0], {.volume = record[3], .sales = record[4], .profit = record[5], .profitWidthOfPercent = 9},
         type);
@@ -121,6 +121,7 @@ void draw(Controls& controls, const EntryLines& record, int type, TextSpan compo
         constexpr Colour green{0, 255, 0}, red{255, 0, 0};
         ChartFX2.SetAxisMax(std::max({volume, margin, 0.0}));
         ChartFX2.SetAxisMin(std::min({volume, margin, 0.0}));
+        // Kept: a component of 0 is red (docs/kept.md).
         ChartFX2.SetSeriesColor(0, volume > 0 ? green : red);
         ChartFX2.SetSeriesColor(1, margin > 0 ? green : red);
         ChartFX2.SetChartData(components);

@@ -14,9 +14,10 @@ enum ScreenNumber { current, previous }; // the territory's profits
 enum Count { gains, losses };
 
 // Counts the current entry as a loss when its figure is 0 or less, otherwise as a gain.
+// Kept: a gain of 0, an entry counted twice (docs/kept.md).
 void count(RankedFigures& screen, TextSpan line);
 
-// The grid of the gains or the losses. Both list an entry whose figure is exactly 0.
+// The grid of the gains or the losses. Kept: a gain of 0 (docs/kept.md).
 RankedGrid grid(Count count, GridBox box, std::optional<PictureBox> picture = {});
 
 // Adds what both have in common: a rule before `own` rules and three after them, the heading, the key. On the

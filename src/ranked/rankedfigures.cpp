@@ -10,11 +10,13 @@ namespace {
 
 constexpr Position rankColumn = 6;
 constexpr Position rankLength = 3;
+// Kept: lines after the 500th (docs/kept.md).
 constexpr int searchedLines = 1000; // for an entry's first line; empty ones follow the screen's last
 
 std::vector<TextSpan> cutLines(TextSpan rest, int maxLines)
 {
     std::vector<TextSpan> lines;
+    // Kept: a last line without its end (docs/kept.md).
     for (int i = 0; i < maxLines && holds(rest, TextSpan(&carriageReturn, 1)); ++i) {
         lines.push_back(cutLine(rest));
         dropControls(rest);
@@ -45,6 +47,7 @@ void take(const LineField& field, TextSpan line, RankedFigures& screen)
 
 void apply(const LineRule& rule, TextSpan line, RankedFigures& screen)
 {
+    // Kept: markers anywhere, figures before the first entry (docs/kept.md).
     if (!holds(line, rule.marker) || (rule.afterRank && screen.currentRank == 0))
         return;
     if (rule.open)
@@ -109,7 +112,7 @@ std::vector<int> ranksIn(const RankedGrid& grid, const RankedFigures& screen)
     for (int row = 1; row <= screen.counts.at(static_cast<std::size_t>(grid.count)); ++row) {
         const Entry* entry = nullptr;
         do
-            entry = &screen.entry(++rank);
+            entry = &screen.entry(++rank); // Kept: a missing rank (docs/kept.md).
         while (grid.lists && !grid.lists(*entry));
         ranks.push_back(rank);
     }
@@ -127,6 +130,7 @@ std::vector<int> firstLines(const std::vector<int>& ranks, const Key& key, const
                 found = number;
                 break;
             }
+        // Kept: a row that is not found (docs/kept.md).
         if (found == 0)
             throw Failure{u"The first row of the list is not found again on the copied screen."};
         lines.push_back(found);

@@ -9,7 +9,7 @@
 
 namespace plotvue {
 
-inline constexpr int maxRanks = 100;
+inline constexpr int maxRanks = 100; // Kept: a hundred ranks (docs/kept.md).
 
 struct RankedFigures;
 
@@ -55,11 +55,12 @@ struct MessageButton {
 
 struct RankedScreen {
     Name window;
-    TextSpan caption = u"PlotVue";             // of both windows
+    // Of both windows. Kept: spellings of the caption (docs/kept.md).
+    TextSpan caption = u"PlotVue";
     std::vector<Item> heading{};               // labels and text boxes above the grids
     std::vector<MessageButton> buttons{};      // of the list window
     TextSpan title;                            // a capture without it is refused
-    int maxLines = 500;                        // the lines after these are not read
+    int maxLines = 500;                        // Kept: lines after the 500th (docs/kept.md).
     void (*prepare)(RankedFigures&) = nullptr; // runs before the first line
     std::vector<LineRule> rules;               // tested on every line, in this order
     std::vector<RankedGrid> grids;

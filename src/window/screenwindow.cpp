@@ -24,13 +24,14 @@ void ScreenWindow::RefreshChart()
 
 void ScreenWindow::refuse()
 {
+    // Kept: a click that leaves the window (docs/kept.md).
     const bool clicked = visible(); // while it loads, it is not
     cmdExit_Click();
     if (clicked)
         home_.setNotice(u"The clipboard holds another text now. Press Refresh to chart it.");
 }
 
-// The start-up window shows a loaded window as it is, with its old chart.
+// Kept: a loaded window keeps its chart (docs/kept.md).
 void ScreenWindow::shownAgain()
 {
     if (!drawn_)

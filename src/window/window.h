@@ -51,7 +51,7 @@ protected:
     void leaveFor(Window& home);
 
     // Asks for a printer and the number of copies, and prints each copy as a job of its own. If the user
-    // cancels or printing fails, it returns without a message.
+    // cancels or printing fails, it returns without a message. Kept: a failed print (docs/kept.md).
     void printWindow();
 
     Platform& platform() const { return platform_; }

@@ -192,6 +192,14 @@ TEST_F(SalesmenByCategory, TheTypeIsATitleOnlyWhereAFigureIsRead)
     EXPECT_EQ(session.chart(sxc).titles.at(3), u"Sales");
 }
 
+TEST_F(SalesmenByCategory, WithoutFiguresTheTitleOfTheDrawingBeforeStays)
+{
+    chart(screen(2), Profit);
+    session.copy(screen(2, 0).text());
+    session.choose(sxc, "optSales", Volume);
+    EXPECT_EQ(session.chart(sxc).titles.at(3), u"Profit");
+}
+
 TEST_F(SalesmenByCategory, WithoutAGroupLineTheChartIsAnEmptyPoint)
 {
     const Chart content = chart(CaptureBuilder().put(1, 1, u"QXM21SXC"));

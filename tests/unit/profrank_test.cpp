@@ -128,6 +128,19 @@ TEST(RankedProfit, OfTwoComponentLinesTheLaterIsShown)
     EXPECT_EQ(components(session, 1), (Numbers{11, 22}));
 }
 
+TEST(RankedProfit, TheMonthsOfAnEntryWithBothLinesAreALineOff)
+{
+    // The lines of figures begin in column 3. The ones below are the volume and the sales of the newest
+    // month.
+    CaptureBuilder screen = withBothLines(true);
+    screen.put(8, 1, u"V       70").put(9, 1, u"S      700");
+    RankedSession session = opened(screen);
+    session.click(1);
+    EXPECT_EQ(session.newest(), 70); // as sales
+    session.chooseType(1);
+    EXPECT_EQ(session.newest(), 700); // as profit
+}
+
 TEST(RankedProfit, TheLaterComponentLineIsKeptOfTheEntryToo)
 {
     for (const bool profitLast : {true, false}) {
