@@ -1,4 +1,4 @@
-// Reads any file, and checks that a text that was written is read back unchanged.
+// Reads any file, and checks that a text without quotation marks that was written is read back unchanged.
 #include "files/exchange.h"
 
 #include "fuzz.h"

@@ -1,5 +1,5 @@
-// Reads the number at the beginning of a field, and checks that a number written as text is read back
-// unchanged.
+// Reads the number at the beginning of a field, and checks that a number written as text is read back with
+// its 15 digits.
 #include "capture/number.h"
 
 #include "fuzz.h"
