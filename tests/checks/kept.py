@@ -1,5 +1,5 @@
-"""Compares docs/kept.md with the code and the tests. Every entry is named in a comment of the code, and every name there
-is an entry; the captures and the tests that an entry names exist. Prints what does not fit, and exits 1 if anything."""
+"""Compares docs/kept.md with the code and the tests. Every entry is named in a comment of the code, every name there is
+an entry, and the captures and tests that an entry names exist. Prints what does not fit, and exits 1 if anything."""
 
 import re
 import sys
