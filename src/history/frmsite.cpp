@@ -15,7 +15,7 @@ namespace plotvue {
 
 const MonthlyScreen frmSite{
     .window = "frmSite",
-    .words = {{u"QTY", RequiredWord::Otherwise::GoOn}, {u"CRD812H", RequiredWord::Otherwise::Stop}},
+    .words = {{u"QTY", RequiredWord::Otherwise::GoOn}, {u"CRD812H", RequiredWord::Otherwise::End}},
     .day = -3,
     .blocks = twoHalves(5),
     .types = salesTypes(hundredTimesQuotient, u"G/P %", u"Unit G/P"),
