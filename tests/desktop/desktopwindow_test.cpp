@@ -254,6 +254,16 @@ TEST_F(DesktopWindowTest, IsNoLongerHeardOnceItIsDestroyed)
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
+TEST_F(DesktopWindowTest, KeepsItsControlsUntilItsWidgetsAreDeleted)
+{
+    bool kept = false;
+    QObject::connect(&find<QPushButton>("&Go"), &QObject::destroyed,
+                     [&kept, controls = std::weak_ptr(every.controls)] { kept = !controls.expired(); });
+    every = {};
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(kept);
+}
+
 TEST_F(DesktopWindowTest, CanBeUnloadedByItsOwnButton)
 {
     onOperated = [this] { every = {}; };
