@@ -142,12 +142,12 @@ TEST_P(RankedList, ARankOutsideTheTableIsARunTimeError)
     }
 }
 
-struct Screen {
+struct RankedLines {
     Name list;
     Lines lines;
 };
 
-class RankedScreens : public testing::TestWithParam<Screen> {};
+class RankedScreens : public testing::TestWithParam<RankedLines> {};
 class RankedFirstFigures : public RankedScreens {};
 
 TEST_P(RankedFirstFigures, BeforeAnyEntryAreARunTimeError)
@@ -159,10 +159,10 @@ TEST_P(RankedFirstFigures, BeforeAnyEntryAreARunTimeError)
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, RankedFirstFigures,
-                         testing::Values(Screen{pastdue, {pastdueTitle, pastdueMonths, u"OCT99     1"}},
-                                         Screen{vendors, {vendorTitle, u"F:  1"}},
-                                         Screen{ratios, {ratioTitle, u"2:CUR "}},
-                                         Screen{ratios, {ratioTitle, u"3:    1.0"}}));
+                         testing::Values(RankedLines{pastdue, {pastdueTitle, pastdueMonths, u"OCT99     1"}},
+                                         RankedLines{vendors, {vendorTitle, u"F:  1"}},
+                                         RankedLines{ratios, {ratioTitle, u"2:CUR "}},
+                                         RankedLines{ratios, {ratioTitle, u"3:    1.0"}}));
 
 class RankedHundred : public RankedScreens {
 protected:
@@ -200,11 +200,12 @@ TEST_P(RankedHundred, AndOneMoreAreARunTimeError)
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, RankedHundred,
-                         testing::Values(Screen{m2m, {u"TO MONTH PROFIT AN", u"RANK:***", u"GAIN:  5"}},
-                                         Screen{profRank, {u"RANKED PROFIT AN", u"RANK:***", u"P:     5"}},
-                                         Screen{pastdue, {pastdueTitle, u"RANK:***"}},
-                                         Screen{vendors, {vendorTitle, u"RANK:***"}},
-                                         Screen{ratios, {ratioTitle, u"1:R999"}}));
+                         testing::Values(RankedLines{m2m, {u"TO MONTH PROFIT AN", u"RANK:***", u"GAIN:  5"}},
+                                         RankedLines{profRank,
+                                                     {u"RANKED PROFIT AN", u"RANK:***", u"P:     5"}},
+                                         RankedLines{pastdue, {pastdueTitle, u"RANK:***"}},
+                                         RankedLines{vendors, {vendorTitle, u"RANK:***"}},
+                                         RankedLines{ratios, {ratioTitle, u"1:R999"}}));
 
 struct Windows {
     Name list;
