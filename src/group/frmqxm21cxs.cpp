@@ -11,7 +11,7 @@ namespace {
 
 // The options by index are the data types, then the groups, then the total.
 // Kept: one option group in two frames, two orders of the figures (docs/kept.md).
-constexpr std::array<TextSpan, valuesPerGroup> types{u"Sales", u"Profit", u"Volume"};
+constexpr std::array<TextSpan, valuesPerGroup> typeNames{u"Sales", u"Profit", u"Volume"};
 constexpr int firstGroup = 3;
 constexpr int total = firstGroup + maxGroups;
 constexpr TextSpan totalName = u"ALL";
@@ -46,7 +46,7 @@ void frmQXM21CXS::drawGroups(TextSpan capture)
                          (group == total || group == firstGroup + i / valuesPerGroup));
     const GroupFigures screen = nameFailedLine(capture, [&] { return readGroups(capture, wanted); });
 
-    Text title(types.at(static_cast<std::size_t>(type)));
+    Text title(typeNames.at(static_cast<std::size_t>(type)));
     title += u" - ";
     title += nameGroups(screen);
 
