@@ -8,25 +8,28 @@ docs/pictures.py --windows  every window of plotvue.exe under Wine, at 100 %, 15
 
 Requires the release build, or the build of packaging/windows, and xvfb, xclip, xdotool and imagemagick.
 """
-import os
-import pathlib
-import subprocess
+import re
 import sys
 import tempfile
 import time
+from pathlib import Path
 
-ROOT = pathlib.Path(__file__).resolve().parent.parent
+ROOT = Path(__file__).resolve().parent.parent
+sys.path.append(str(ROOT))
+from tests.display.display import Display, soon  # noqa: E402
+from tests.display.wine import Wine  # noqa: E402
+
 PROGRAM = ROOT / "build/release/src/plotvue"
 FOR_WINDOWS = ROOT / "build/windows/plotvue.exe"
-sys.path.append(str(ROOT))
-from tests.display.wine import Wine  # noqa: E402
+SCREEN = "2400x1800x24"
 
 SAMPLES = ["startup"] + sorted(path.stem for path in (ROOT / "samples").glob("*.txt"))
 # The keys that open the first row of a list. In a chart window they open nothing.
 OPEN_ROW = ["Down", "Return"]
 # Samples whose window is also shown with its context menu.
 MENUS = ["product", "monthtomonth"]
-README = ["product", "product-menu", "monthtomonth", "monthtomonth-chart", "pastdue-chart", "salesmencategories", "glhistory"]
+README = ["product", "product-menu", "monthtomonth", "monthtomonth-chart", "pastdue-chart", "salesmencategories",
+          "glhistory"]
 
 DARK = """[Colors:Window]
 BackgroundNormal=49,54,59
@@ -47,125 +50,75 @@ ForegroundNormal=239,240,241
 """
 
 
-class Display:
-    """A virtual display; all programs on it end with it."""
+class OnDisplay:
+    """The program on a virtual display. `slowness` stretches the pauses in which it draws."""
 
-    program = [PROGRAM]
-    slowness = 1
-    keeps_text = False  # whether the clipboard keeps its text when its owner ends
+    def __init__(self, display, command, slowness=1):
+        self.display, self.command, self.slowness = display, command, slowness
+        self.directory = display.home / "work"
+        self.directory.mkdir()
 
-    def __init__(self):
-        read, write = os.pipe()
-        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(write), "-screen", "0", "2400x1800x24",
-                                        "-noreset"],
-                                       pass_fds=[write], stderr=subprocess.DEVNULL)
-        os.close(write)
-        self.name = ":" + os.fdopen(read).readline().strip()
-        self.environment = {**os.environ, "DISPLAY": self.name, "QT_QPA_PLATFORM": "xcb"}
-        self.environment.pop("SESSION_MANAGER", None)
-
-    def __enter__(self):
-        return self
-
-    def __exit__(self, *_):
-        self.server.terminate()
-        self.server.wait()
-
-    def run(self, *command, **options):
-        return subprocess.run(command, env=self.environment, capture_output=True, text=True, timeout=20, **options)
+    def pause(self, seconds):
+        time.sleep(seconds * self.slowness)
 
     def windows(self):
-        return self.run("xdotool", "search", "--onlyvisible", "--class", "plotvue").stdout.split()
+        return self.display.output("xdotool", "search", "--onlyvisible", "--class", "plotvue").split()
 
+    def press(self, *keys):
+        for key in keys:
+            self.display.key(key)
+            self.pause(0.3)
 
-class WineDisplay(Display):
-    """A virtual display with Wine."""
+    def save(self, window, file):
+        """A picture of the screen, because a menu is a window of its own."""
+        file.parent.mkdir(parents=True, exist_ok=True)
+        width, height = self.display.size(window)
+        x, y = re.findall(r"[XY]=(-?\d+)", self.display.output("xdotool", "getwindowgeometry", "--shell", window))
+        self.display.output("import", "-window", "root", "-crop", f"{width}x{height}+{x}+{y}", "+repage", "-strip",
+                            str(file))
 
-    program = ["wine", FOR_WINDOWS]
-    slowness = 3
-    keeps_text = True
+    def take(self, sample, folder, wanted=None):
+        """Takes pictures of the window that the sample opens and, as SAMPLE-chart, of the window that its first row
+        opens. `wanted` limits them to these names. Returns the names of the pictures taken."""
+        names = []
 
-    def __init__(self):
-        self.desktop = Wine(screen="2400x1800x24")
+        def save(window, name):
+            if wanted is None or name in wanted:
+                self.save(window, folder / f"{name}.png")
+                names.append(name)
 
-    def __enter__(self):
-        self.desktop.__enter__()
-        self.environment = self.desktop.env
-        return self
-
-    def __exit__(self, *_):
-        self.desktop.__exit__()
-
-    def scale(self, percent):
-        self.desktop.windows_program("reg", "add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t", "REG_DWORD",
-                                     "/d", percent * 96 // 100, "/f")
-
-
-def wait_for(condition, seconds=10):
-    end = time.monotonic() + seconds
-    while time.monotonic() < end:
-        if condition():
-            return
-        time.sleep(0.05)
-    raise SystemExit("a window did not appear")
-
-
-def take(display, sample, folder, directory, extra, wanted=None):
-    """Takes pictures of the window that the sample opens and, as SAMPLE-chart, of the window that its first row opens.
-    `wanted` limits them to these names. Returns the names of the pictures taken."""
-    owner = None
-    names = []
-
-    def save(window, name):
-        if wanted is None or name in wanted:
-            folder.mkdir(parents=True, exist_ok=True)
-            # A picture of the screen, because a menu is a window of its own.
-            place = dict(line.split("=") for line in display.run(
-                "xdotool", "getwindowgeometry", "--shell", window).stdout.split())
-            display.run("import", "-window", "root", "-crop", "{WIDTH}x{HEIGHT}+{X}+{Y}".format(**place), "+repage", "-strip",
-                        str(folder / (name + ".png")), check=True)
-            names.append(name)
-
-    text = None if sample == "startup" else ROOT / "samples" / (sample + ".txt")
-    if text or display.keeps_text:  # else the clipboard has no owner
-        owner = subprocess.Popen(["xclip", "-quiet", "-selection", "clipboard", text or os.devnull],
-                                 env=display.environment, stderr=subprocess.DEVNULL)
-        time.sleep(0.2 * display.slowness)
-    program = subprocess.Popen(display.program, cwd=directory, env={**display.environment, **extra},
-                               stderr=subprocess.DEVNULL)
-    try:
-        if sample == "startup":
-            wait_for(lambda: len(display.windows()) > 0)
-            time.sleep(0.6 * display.slowness)
-            display.run("xdotool", "key", "Return")
-        wait_for(lambda: len(display.windows()) > 0)
-        time.sleep(0.4 * display.slowness)
-        before = display.windows()
-        display.run("xdotool", "windowfocus", "--sync", before[-1])
-        time.sleep(0.3 * display.slowness)
-        save(before[-1], sample)
-        if sample == "startup":
+        # Under Wine the clipboard keeps its text when its owner ends.
+        self.display.copy(b"" if sample == "startup" else (ROOT / f"samples/{sample}.txt").read_bytes())
+        program = self.display.launch(*self.command, cwd=self.directory)
+        try:
+            soon("a window is shown", self.windows)
+            if sample == "startup":
+                self.pause(0.6)
+                self.press("Return")
+                soon("a window is shown", self.windows)
+            self.pause(0.4)
+            before = self.windows()
+            self.display.output("xdotool", "windowfocus", "--sync", before[-1])
+            self.pause(0.3)
+            save(before[-1], sample)
+            if sample == "startup":
+                return names
+            if sample in MENUS:
+                self.press("Menu")
+                save(before[-1], f"{sample}-menu")
+                self.press("Escape")
+            self.press(*OPEN_ROW)
+            self.pause(0.3)
+            for window in self.windows():
+                if window not in before:
+                    save(window, f"{sample}-chart")
             return names
-        if sample in MENUS:
-            display.run("xdotool", "key", "Menu")
-            time.sleep(0.3 * display.slowness)
-            save(before[-1], sample + "-menu")
-            display.run("xdotool", "key", "Escape")
-            time.sleep(0.3 * display.slowness)
-        for key in OPEN_ROW:
-            display.run("xdotool", "key", key)
-            time.sleep(0.3 * display.slowness)
-        time.sleep(0.3 * display.slowness)
-        for window in display.windows():
-            if window not in before:
-                save(window, sample + "-chart")
-        return names
-    finally:
-        program.kill()
-        program.wait()
-        if owner:
-            owner.kill()
-            owner.wait()
+        finally:
+            program.kill()
+            program.wait()
+
+    def take_all(self, folder):
+        return [name for sample in SAMPLES for name in self.take(sample, folder)]
 
 
 def write_page(folder, names, kinds):
@@ -180,38 +133,45 @@ def write_page(folder, names, kinds):
 def take_under_wine():
     folder = ROOT / "build/pictures-windows"
     kinds = [100, 150, 200]
-    with WineDisplay() as display, tempfile.TemporaryDirectory() as directory:
+    with Wine(screen=SCREEN) as display:
+        wine = OnDisplay(display, ["wine", FOR_WINDOWS], slowness=3)
         for percent in kinds:
-            display.scale(percent)
-            names = [name for sample in SAMPLES for name in take(display, sample, folder / str(percent), directory, {})]
+            display.windows_program("reg", "add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t", "REG_DWORD",
+                                    "/d", percent * 96 // 100, "/f")
+            names = wine.take_all(folder / str(percent))
     write_page(folder, names, [str(percent) for percent in kinds])
+    print(folder / "index.html")
+
+
+def take_everything():
+    folder = ROOT / "build/pictures"
+    with tempfile.TemporaryDirectory() as directory:
+        Path(directory, "kdeglobals").write_text(DARK)
+        dark = {"XDG_CONFIG_HOME": directory, "XDG_CURRENT_DESKTOP": "KDE", "KDE_FULL_SESSION": "true",
+                "KDE_SESSION_VERSION": "5", "QT_QPA_PLATFORMTHEME": "kde"}
+        kinds = {"light": {}, "dark": dark, "light-150": {"QT_SCALE_FACTOR": "1.5"},
+                 "light-200": {"QT_SCALE_FACTOR": "2"}, "dark-200": {**dark, "QT_SCALE_FACTOR": "2"}}
+        for kind, extra in kinds.items():
+            with Display(PROGRAM, manager=None, screen=SCREEN) as display:
+                display.env.update(extra)
+                names = OnDisplay(display, [PROGRAM]).take_all(folder / kind)
+    write_page(folder, names, list(kinds))
     print(folder / "index.html")
 
 
 def main():
     if sys.argv[1:] == ["--windows"]:
-        take_under_wine()
-        return
-    everything = sys.argv[1:] == ["--all"]
-    if sys.argv[1:] and not everything:
+        return take_under_wine()
+    if sys.argv[1:] not in ([], ["--all"]):
         raise SystemExit(__doc__)
     if not PROGRAM.exists():
         raise SystemExit("Build the release preset first: ./run does it.")
-    with Display() as display, tempfile.TemporaryDirectory() as directory:
-        if not everything:
-            for sample in sorted({name.removesuffix("-chart").removesuffix("-menu") for name in README}):
-                take(display, sample, ROOT / "docs", directory, {}, wanted=README)
-            return
-        pathlib.Path(directory, "kdeglobals").write_text(DARK)
-        dark = {"XDG_CONFIG_HOME": directory, "XDG_CURRENT_DESKTOP": "KDE", "KDE_FULL_SESSION": "true",
-                "KDE_SESSION_VERSION": "5", "QT_QPA_PLATFORMTHEME": "kde"}
-        kinds = {"light": {}, "dark": dark, "light-150": {"QT_SCALE_FACTOR": "1.5"}, "light-200": {"QT_SCALE_FACTOR": "2"},
-                 "dark-200": {**dark, "QT_SCALE_FACTOR": "2"}}
-        folder = ROOT / "build/pictures"
-        for kind, extra in kinds.items():
-            names = [name for sample in SAMPLES for name in take(display, sample, folder / kind, directory, extra)]
-        write_page(folder, names, list(kinds))
-        print(folder / "index.html")
+    if sys.argv[1:]:
+        return take_everything()
+    with Display(PROGRAM, manager=None, screen=SCREEN) as display:
+        pictures = OnDisplay(display, [PROGRAM])
+        for sample in sorted({name.removesuffix("-chart").removesuffix("-menu") for name in README}):
+            pictures.take(sample, ROOT / "docs", wanted=README)
 
 
 main()

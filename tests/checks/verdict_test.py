@@ -31,7 +31,8 @@ class Verdict(unittest.TestCase):
                     "PATH": f"{self.folder}:{os.environ['PATH']}"}
 
     def run_verdict(self, *words, **env):
-        return subprocess.run([VERDICT, *words], env={**self.env, **env}, stdout=subprocess.PIPE, text=True, check=False)
+        return subprocess.run([VERDICT, *words], env={**self.env, **env}, stdout=subprocess.PIPE, text=True,
+                              check=False)
 
     def ctest(self, *cases, status=0):
         results = f"<testsuite>{''.join(cases)}</testsuite>" if cases else ""
@@ -97,7 +98,8 @@ class Verdict(unittest.TestCase):
         self.must_say(0, 1)
 
     def test_a_second_try_is_told(self):
-        self.run_verdict("test", "one", sys.executable, "-c", "from tests.verdict import remark; remark('Tried twice.')")
+        self.run_verdict("test", "one", sys.executable, "-c",
+                         "from tests.verdict import remark; remark('Tried twice.')")
         self.assertEqual(self.run_verdict("sum").stdout.splitlines()[-2:], ["Tried twice.", "1 passed, 0 failed"])
 
 

@@ -20,7 +20,7 @@ SETTINGS = r"""Windows Registry Editor Version 5.00
 "Segoe UI"="DejaVu Sans"
 "Tahoma"="DejaVu Sans"
 
-; Wine itself places these windows, at once, as Windows does. Elsewhere the X window manager places them, a moment later.
+; Wine itself places these windows, at once, as Windows does. Elsewhere the X window manager does it, a moment later.
 [HKEY_CURRENT_USER\Software\Wine\AppDefaults\desktoptests.exe\X11 Driver]
 "Managed"="N"
 """

@@ -6,7 +6,9 @@ from tests.display.display import CHART, LIST, PRODUCT, START, Display, DisplayT
 
 WIDTH, HEIGHT = 960, 560
 THICK = 30  # a border that nobody expects, in pixels
-CONFIGURATION = """<openbox_config xmlns="http://openbox.org/3.4/rc"><theme><name>thick</name></theme></openbox_config>"""
+CONFIGURATION = """<openbox_config xmlns="http://openbox.org/3.4/rc">
+<theme><name>thick</name></theme>
+</openbox_config>"""
 
 
 class SmallScreen(DisplayTest):

@@ -123,7 +123,8 @@ class Wayland(DisplayTest):
         other = self.display.start()
         self.addCleanup(other.wait)
         self.addCleanup(other.kill)
-        soon("another PlotVue charts it, too", lambda: [title for title, _ in self.display.all_windows()] == [CHART, CHART])
+        soon("another PlotVue charts it, too",
+             lambda: [title for title, _ in self.display.all_windows()] == [CHART, CHART])
         self.still_runs()
 
 

@@ -26,7 +26,8 @@ BARE = ("setpriv", "--bounding-set=-dac_override,-dac_read_search") if os.getuid
 def disk_of(pages, directory):
     """The command that makes the directory a disk of that many pages of 4 KB for the command that follows it."""
     if MAY_MOUNT:
-        return (*MOUNTING, f'mount -t tmpfs -o size={4 * pages}k none "{directory}" && cd "{directory}" && exec "$0" "$@"')
+        mount = f'mount -t tmpfs -o size={4 * pages}k none "{directory}"'
+        return (*MOUNTING, f'{mount} && cd "{directory}" && exec "$0" "$@"')
     # A limit to the size of files has the same effect.
     return ("prlimit", f"--fsize={4096 * pages}", "--", "env", "--ignore-signal=XFSZ")
 

@@ -1,5 +1,5 @@
-"""plotvue.exe with an argument, as when a file is dropped on its icon: a box refuses it, and so does a line where standard
-error leads to a file or a pipe."""
+"""plotvue.exe with an argument, as when a file is dropped on its icon: a box refuses it, and so does a line where
+standard error leads to a file or a pipe."""
 
 import os
 import tempfile

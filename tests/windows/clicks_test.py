@@ -9,7 +9,8 @@ import time
 import unittest
 from pathlib import Path
 
-from tests.display.display import CHART, FIGURES, LIST, NEED_DATA, PRODUCT, SCREEN, START, NotInTime, ended, sample, soon
+from tests.display.display import (
+    CHART, FIGURES, LIST, NEED_DATA, PRODUCT, SCREEN, START, NotInTime, ended, sample, soon)
 from tests.display.printserver import PrintServer
 from tests.display.wine import DEFAULT_PRINTER, WineTest
 from tests.verdict import remark
@@ -329,7 +330,8 @@ class Clicks(WineTest):
         self.display.key("Return")
         self.ends(1)
         self.assertRegex(self.errors(),
-                         r"^PlotVue: The file pvuscrn.txt in the working directory cannot be created \([^\r\n]+\)\.\r\n$")
+                         r"^PlotVue: The file pvuscrn.txt in the working directory cannot be created "
+                         r"\([^\r\n]+\)\.\r\n$")
 
 
 if __name__ == "__main__":
