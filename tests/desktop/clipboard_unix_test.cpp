@@ -27,8 +27,6 @@ const QMimeData& held()
     return *QGuiApplication::clipboard()->mimeData();
 }
 
-} // namespace
-
 TEST(Clipboard, TextIsUnchangedApartFromLineEnds)
 {
     const Text raw(u"a\nb\r\nc\rd\n\n\r\r\n\0e\xD800", 16);
@@ -96,5 +94,7 @@ TEST(Clipboard, APictureIsPutThereAsPng)
     EXPECT_EQ(QImage::fromData(held().data("image/png")).convertToFormat(QImage::Format_RGB32), picture);
     EXPECT_FALSE(held().hasText());
 }
+
+} // namespace
 
 } // namespace plotvue

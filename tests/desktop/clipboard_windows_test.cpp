@@ -47,8 +47,6 @@ private:
     HWND owner_ = CreateWindowExA(0, "STATIC", "owner", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
 };
 
-} // namespace
-
 TEST_F(Clipboard, TextIsUnchangedApartFromLineEnds)
 {
     copy(u"a\nb\r\nc\rd\n\n\r\r\ne\xD800");
@@ -107,5 +105,7 @@ TEST_F(Clipboard, WithoutTextIsEmpty)
     CloseClipboard();
     EXPECT_EQ(readClipboard(), u"");
 }
+
+} // namespace
 
 } // namespace plotvue

@@ -125,7 +125,7 @@ class Keyboard(SpokenTest):
         rows = self.display.focus()
         self.display.key("Return")
         charts = soon("the charts have the focus",
-                      lambda: self.display.focus() not in ("", rows) and self.display.focus())
+                      lambda: (now := self.display.focus()) not in ("", rows) and now)
         for key in ("Return", "KP_Enter"):
             self.display.output("xdotool", "windowactivate", "--sync", rows)
             self.display.focused(rows)

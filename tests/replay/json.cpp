@@ -1,6 +1,7 @@
 #include "replay/json.h"
 
 #include "capture/utf8.h"
+#include "support/eventname.h"
 
 #include <array>
 #include <charconv>
@@ -139,31 +140,15 @@ struct ControlWriter {
 
 std::string toJson(const Event& event)
 {
-    const auto of = [](std::string_view kind) { return R"({"event":)" + quote(kind); };
-    const std::string window = R"(,"window":)" + quote(event.window) + "}";
-    switch (event.kind) {
-    case Event::Kind::Load:
-        return of("load") + window;
-    case Event::Kind::Show:
-        return of("show") + window;
-    case Event::Kind::Hide:
-        return of("hide") + window;
-    case Event::Kind::Unload:
-        return of("unload") + window;
-    case Event::Kind::Print:
-        return of("print") + window;
-    case Event::Kind::Message:
-        return of("message") + R"(,"title":)" + quote(event.title) + R"(,"text":)" + quote(event.text) + "}";
-    case Event::Kind::Copy:
-        return of("copy") + R"(,"text":)" + quote(event.text) + "}";
-    case Event::Kind::Error:
-        return of("error") + R"(,"text":)" + quote(event.text) + "}";
-    case Event::Kind::Wait:
-        return of("spin") + "}";
-    case Event::Kind::End:
-        return of("end") + "}";
-    }
-    return {};
+    using Kind = Event::Kind;
+    std::string text = R"({"event":)" + quote(test::nameOf(event.kind));
+    if (!event.window.empty())
+        text += R"(,"window":)" + quote(event.window);
+    if (event.kind == Kind::Message)
+        text += R"(,"title":)" + quote(event.title);
+    if (event.kind == Kind::Message || event.kind == Kind::Copy || event.kind == Kind::Error)
+        text += R"(,"text":)" + quote(event.text);
+    return text + "}";
 }
 
 std::string toJson(Name window, bool visible, const SeenWindow& seen)

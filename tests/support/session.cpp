@@ -1,6 +1,7 @@
 #include "support/session.h"
 
 #include "capture/utf8.h"
+#include "support/eventname.h"
 #include "support/windows.h"
 
 #include <algorithm>
@@ -21,30 +22,14 @@ namespace {
 
 std::string sentence(const Event& event)
 {
-    const std::string window(event.window);
-    switch (event.kind) {
-    case Event::Kind::Load:
-        return "load " + window;
-    case Event::Kind::Show:
-        return "show " + window;
-    case Event::Kind::Hide:
-        return "hide " + window;
-    case Event::Kind::Unload:
-        return "unload " + window;
-    case Event::Kind::Message:
-        return "message " + toUtf8(event.title) + ": " + toUtf8(event.text);
-    case Event::Kind::Print:
-        return "print " + window;
-    case Event::Kind::Copy:
-        return "copy " + toUtf8(event.text);
-    case Event::Kind::Wait:
-        return "spin";
-    case Event::Kind::Error:
-        return "error " + toUtf8(event.text);
-    case Event::Kind::End:
-        return "end";
-    }
-    return {};
+    std::string text(nameOf(event.kind));
+    if (!event.window.empty())
+        text += ' ' + std::string(event.window);
+    if (event.kind == Event::Kind::Message)
+        text += ' ' + toUtf8(event.title) + ':';
+    if (!event.text.empty())
+        text += ' ' + toUtf8(event.text);
+    return text;
 }
 
 } // namespace

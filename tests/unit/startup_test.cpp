@@ -171,23 +171,13 @@ TEST(Startup, RefreshAsksTheClipboardAgain)
     EXPECT_THAT(session.events(), ElementsAre("hide startup", "load frmProduct", "show frmProduct"));
 }
 
-struct CountingPlatform : RecordingPlatform {
-    int reads = 0;
-    Text readClipboard() override
-    {
-        ++reads;
-        return RecordingPlatform::readClipboard();
-    }
-};
-
 TEST(Startup, ReadsTheClipboardOnceARecognition)
 {
-    CountingPlatform platform;
-    Application app(platform);
-    app.start();
-    EXPECT_EQ(platform.reads, 1);
-    test::windowNamed(app, "startup")->controls().press("Command1");
-    EXPECT_EQ(platform.reads, 2);
+    Session session;
+    session.start();
+    EXPECT_EQ(session.platform.clipboardReads, 1);
+    session.press("startup", "Command1");
+    EXPECT_EQ(session.platform.clipboardReads, 2);
 }
 
 TEST(Startup, AWindowIsCreatedOnceAndShownAgainAsItWas)
