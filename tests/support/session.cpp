@@ -26,8 +26,8 @@ std::string sentence(const Event& event)
     if (!event.window.empty())
         text += ' ' + std::string(event.window);
     if (event.kind == Event::Kind::Message)
-        text += ' ' + toUtf8(event.title) + ':';
-    if (!event.text.empty())
+        text += ' ' + toUtf8(event.title) + ": " + toUtf8(event.text);
+    else if (!event.text.empty())
         text += ' ' + toUtf8(event.text);
     return text;
 }
