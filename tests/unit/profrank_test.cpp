@@ -49,7 +49,7 @@ TEST(RankedProfit, AProfitOfZeroTakesTheRowOfTheLastAndALossNone)
 TEST(RankedProfit, SaysWhatTheTerritoryGained)
 {
     RankedProfitScreen screen;
-    screen.add(1, u"5").put(totalsLine, 1, u"Mprofit   8000.75 9 -9250.25");
+    screen.add(1, u"5").put(totalsLine, 1, u"Mprofit   8000.75  9 -9250.25");
     RankedSession session = opened(screen);
     // The 9 is in column 20, which is read on the month-to-month screen only.
     EXPECT_EQ(session.header("txtL2"),
