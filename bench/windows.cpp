@@ -8,6 +8,7 @@
 #include "desktop/desktopplatform.h"
 #include "desktop/desktopwindow.h"
 #include "rounds.h"
+#include "support/windows.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -27,8 +28,8 @@ public:
         application_.start();
     }
 
-    Controls& controls(Name window) { return application_.window(window)->controls(); }
-    bool visible(Name window) { return application_.window(window)->visible(); }
+    Controls& controls(Name window) { return test::windowNamed(application_, window)->controls(); }
+    bool visible(Name window) { return test::windowNamed(application_, window)->visible(); }
 
     // Runs the action and returns when that window has been painted.
     template <typename Action>
@@ -60,7 +61,7 @@ public:
 private:
     QWidget& widget(Name window)
     {
-        return static_cast<DesktopWindow&>(application_.window(window)->native()).widget();
+        return static_cast<DesktopWindow&>(test::windowNamed(application_, window)->native()).widget();
     }
 
     DesktopPlatform platform_;
