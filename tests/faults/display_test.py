@@ -31,9 +31,8 @@ class OnTheDisplay(DisplayTest):
         """Another program holds the capture, in these formats, and halts after so many pieces of its answer."""
         path = self.display.home / "long"
         path.write_bytes(capture)
-        owner = self.display.launch(os.environ["OWNER"], str(path), str(pieces), *formats)
-        soon("it holds the clipboard", lambda: (formats or ["UTF8_STRING"])[0] in self.display.output(
-            "xclip", "-selection", "clipboard", "-t", "TARGETS", "-out"))
+        owner = self.display.launch(os.environ["OWNER"], str(path), str(pieces), *formats, stdout=subprocess.PIPE)
+        self.assertEqual(owner.stdout.readline(), b"held\n")  # and not the owner before it
         return owner
 
     def start_until_the_owner_halts(self, pieces, *formats):

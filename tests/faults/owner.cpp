@@ -1,7 +1,7 @@
 // plotvue-owner FILE [PIECES [FORMAT...]]: a well-behaved owner of the X11 clipboard, which holds the file's
 // bytes in each of the formats, or as UTF8_STRING. It stops itself, as a debugger or a suspended session
 // would, after that many pieces of its first long answer, with 0 before its first answer; when it is made to
-// go on, it goes on. It ends when another program takes the clipboard.
+// go on, it goes on. It writes "held" when the clipboard is its own, and ends when another program takes it.
 #include <algorithm>
 #include <csignal>
 #include <cstdlib>
@@ -36,7 +36,14 @@ public:
         for (const std::string& format : formats)
             offered_.push_back(atom(format));
         xcb_set_selection_owner(display, window_, clipboard_, XCB_CURRENT_TIME);
-        xcb_flush(display);
+    }
+
+    bool holdsTheClipboard() const
+    {
+        const auto asked = xcb_get_selection_owner(display_, clipboard_);
+        const std::unique_ptr<xcb_get_selection_owner_reply_t, void (*)(void*)> reply{
+            xcb_get_selection_owner_reply(display_, asked, nullptr), &std::free};
+        return reply && reply->owner == window_;
     }
 
     void serve()
@@ -147,7 +154,11 @@ int main(int argc, char** argv)
     std::vector<std::string> formats(argv + std::min(argc, 3), argv + argc);
     if (formats.empty())
         formats.emplace_back("UTF8_STRING");
-    Owner(display, text.str(), argc > 2 ? std::atoi(argv[2]) : never, formats).serve();
+    Owner owner(display, text.str(), argc > 2 ? std::atoi(argv[2]) : never, formats);
+    if (!owner.holdsTheClipboard())
+        return EXIT_FAILURE;
+    std::cout << "held" << std::endl; // at once: a test waits for it
+    owner.serve();
     xcb_disconnect(display);
     return EXIT_SUCCESS;
 }
