@@ -45,7 +45,7 @@ inline constexpr SupportedRow salesmanCategory{6, u"Salesman/Category Analysis"}
 inline constexpr bool needsZero = true; // Kept: a screen must hold a 0 (docs/kept.md).
 
 // The order is that of recognition: of two markers in a text the earlier one wins. Every "QXM12P2" screen
-// holds "QXM12P" too. A ranked analysis has no identifier and is recognised by words of its title.
+// holds "QXM12P" too. A ranked screen has no identifier and is recognised by words of its title.
 // Kept: the first marker wins, markers anywhere (docs/kept.md).
 inline constexpr std::array screens{
     Screen{u"QXM31H", {7, u"Product History"}, &frmProduct},

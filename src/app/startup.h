@@ -29,7 +29,7 @@ private:
     void ReloadScreen();
 
     // The screen on the clipboard; null, after a message, when there is none. The capture of a ranked
-    // analysis is saved for its list window to read.
+    // screen is saved for its list window to read.
     const Screen* IdentifyScreen();
 };
 

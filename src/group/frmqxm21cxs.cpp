@@ -44,18 +44,18 @@ void frmQXM21CXS::drawGroups(TextSpan capture)
     for (int i = 0; i < maxGroups * valuesPerGroup; ++i)
         wanted.push_back(i % valuesPerGroup == type &&
                          (group == total || group == firstGroup + i / valuesPerGroup));
-    const GroupFigures screen = nameFailedLine(capture, [&] { return readGroups(capture, wanted); });
+    const GroupFigures figures = nameFailedLine(capture, [&] { return readGroups(capture, wanted); });
 
     Text title(typeNames.at(static_cast<std::size_t>(type)));
     title += u" - ";
-    title += nameGroups(screen);
+    title += nameGroups(figures);
 
-    const std::size_t slots = screen.salesmen.size() + 1;
+    const std::size_t slots = figures.salesmen.size() + 1;
     std::vector<double> values(slots);
     std::vector<Text> labels(slots);
     for (std::size_t s = 0; s + 1 < slots; ++s) {
-        labels[s] = screen.salesmen[s].label;
-        for (const double value : screen.salesmen[s].values)
+        labels[s] = figures.salesmen[s].label;
+        for (const double value : figures.salesmen[s].values)
             values[s] = finite(values[s] + value);
     }
     fillGrid(labels, values, title);
@@ -64,20 +64,20 @@ void frmQXM21CXS::drawGroups(TextSpan capture)
     data.AddArray(values);
     data.AddArray(labels);
     controls().chart("ChartFX1").change([&](Chart& ChartFX1) {
-        ChartFX1.SetTitle(2, screen.subject);
+        ChartFX1.SetTitle(2, figures.subject);
         ChartFX1.SetTitle(3, title);
         ChartFX1.SetChartData(data);
     });
 }
 
-TextSpan frmQXM21CXS::nameGroups(const GroupFigures& screen)
+TextSpan frmQXM21CXS::nameGroups(const GroupFigures& figures)
 {
     const int group = chosenGroup();
     TextSpan chosen;
     controls().options("optSales").change([&](OptionGroup& optSales) {
         for (int i = 0; i < maxGroups; ++i) {
-            const bool there = i < screen.groups;
-            const TextSpan caption = there ? screen.names[static_cast<std::size_t>(i)] : TextSpan{};
+            const bool there = i < figures.groups;
+            const TextSpan caption = there ? figures.names[static_cast<std::size_t>(i)] : TextSpan{};
             optSales.setCaption(firstGroup + i, caption);
             optSales.setVisible(firstGroup + i, there); // Kept: a chosen group that is hidden (docs/kept.md).
             if (group == firstGroup + i)

@@ -19,7 +19,7 @@ protected:
 private:
     int chosenGroup() const { return controls().options("optSales")->chosenIn(1); }
     // Gives the group options their captions and returns the name of the chosen group.
-    TextSpan nameGroups(const GroupFigures& screen);
+    TextSpan nameGroups(const GroupFigures& figures);
     void fillGrid(const std::vector<Text>& labels, const std::vector<double>& values, TextSpan title);
 };
 

@@ -62,23 +62,23 @@ GroupFigures readGroups(TextSpan capture, const std::vector<bool>& wanted)
     TextSpan rest = capture;
     nextLine(rest); // the heading
     const TextSpan groupLine = nextLine(rest);
-    GroupFigures screen;
-    screen.subject = mid(nextLine(rest), 7, 9);
+    GroupFigures figures;
+    figures.subject = mid(nextLine(rest), 7, 9);
     const int salesmen = locateFailure(groupLine, [&] {
-        screen.groups = countAfter(groupLine, u"GROUPS:", 2);
+        figures.groups = countAfter(groupLine, u"GROUPS:", 2);
         const int count = countAfter(groupLine, u"SCOUNT:", 9);
         if (count < 0 || count > maxSalesmen)
             throw Failure{
                 u"The count of salesmen on the screen is outside 0 to 23, which is all that can be charted."};
         return count;
     });
-    screen.names = namesIn(groupLine, screen.groups);
-    const auto values = static_cast<std::size_t>(std::clamp(screen.groups, 0, maxGroups) * valuesPerGroup);
+    figures.names = namesIn(groupLine, figures.groups);
+    const auto values = static_cast<std::size_t>(std::clamp(figures.groups, 0, maxGroups) * valuesPerGroup);
     for (int i = 0; i < salesmen; ++i) {
         const TextSpan line = nextLine(rest);
-        screen.salesmen.push_back(locateFailure(line, [&] { return readSalesman(line, values, wanted); }));
+        figures.salesmen.push_back(locateFailure(line, [&] { return readSalesman(line, values, wanted); }));
     }
-    return screen;
+    return figures;
 }
 
 } // namespace plotvue

@@ -15,7 +15,6 @@ void Platform::message(TextSpan title, TextSpan text)
 {
     tell({.kind = Event::Kind::Message, .title = title, .text = text});
     showMessage(title, text);
-    clipboard_.reset(); // the user may have copied while the box was open
 }
 
 void Platform::print(NativeWindow& window, Name name)

@@ -29,7 +29,7 @@ Declaration DrillDownWindow::declare() const
     std::vector<Item> content = design_.charts;
     content.push_back(column(std::move(side)));
     return {.name = design_.window,
-            .caption = design_.analysis.caption,
+            .caption = design_.screen.caption,
             .content = {Panel::Direction::Row, std::move(content)},
             .width = design_.width};
 }
@@ -50,8 +50,8 @@ Handlers DrillDownWindow::handlers()
 
 EntryLines DrillDownWindow::chosenRecord() const
 {
-    const KeyValues chosen = readChosenRow(design_.analysis.key);
-    return ListFile(design_.analysis).readUpTo(chosen, design_.limits.draw);
+    const KeyValues chosen = readChosenRow(design_.screen.key);
+    return ListFile(design_.screen).readUpTo(chosen, design_.limits.draw);
 }
 
 void DrillDownWindow::drawChart()
@@ -87,8 +87,8 @@ void DrillDownWindow::listReplaced()
 
 void DrillDownWindow::cmdBack_Click()
 {
-    const KeyValues chosen = readChosenRow(design_.analysis.key);
-    ListFile list(design_.analysis);
+    const KeyValues chosen = readChosenRow(design_.screen.key);
+    ListFile list(design_.screen);
     list.readUpTo(chosen, design_.limits.step);
     if (list.position() == 1)
         return endOfList();
@@ -97,10 +97,10 @@ void DrillDownWindow::cmdBack_Click()
 
 void DrillDownWindow::cmdNext_Click()
 {
-    const KeyValues chosen = readChosenRow(design_.analysis.key);
+    const KeyValues chosen = readChosenRow(design_.screen.key);
     EntryLines next;
     try {
-        ListFile list(design_.analysis);
+        ListFile list(design_.screen);
         list.readUpTo(chosen, design_.limits.step);
         next = list.next();
     } catch (const Failure&) {
@@ -113,7 +113,7 @@ void DrillDownWindow::cmdNext_Click()
 
 void DrillDownWindow::choose(const EntryLines& record)
 {
-    writeRecords(chosenRowFile, {keyOf(design_.analysis.key, record[1])});
+    writeRecords(chosenRowFile, {keyOf(design_.screen.key, record[1])});
     drawChart();
 }
 

@@ -1,4 +1,4 @@
-// The drill-down window of a ranked analysis: charts one entry of the list file and steps through the list.
+// The drill-down window of a ranked screen: charts one entry of the list file and steps through the list.
 // Kept: files between two windows (docs/kept.md).
 #pragma once
 
@@ -9,7 +9,7 @@ namespace plotvue {
 
 struct DrillDownDesign {
     Name window;
-    const RankedScreen& analysis;
+    const RankedScreen& screen;
     struct Limits {
         int draw = 100, step = 100;
     } limits{}; // the records of the list file that are searched for the entry to draw, or to step from

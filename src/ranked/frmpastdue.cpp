@@ -42,23 +42,23 @@ bool reaches(TextSpan line, int number)
 }
 
 // Kept: the month's label anywhere (docs/kept.md).
-void startWithCrosses(RankedFigures& screen)
+void startWithCrosses(RankedFigures& figures)
 {
-    screen.texts[ageingKey] = u"xxxxx";
+    figures.texts[ageingKey] = u"xxxxx";
 }
 
 // Kept: how rows are counted (docs/kept.md).
-void countEntry(RankedFigures& screen, TextSpan)
+void countEntry(RankedFigures& figures, TextSpan)
 {
-    ++screen.counts[0];
+    ++figures.counts[0];
 }
 
 // Kept: the month's label anywhere (docs/kept.md).
-void takeAgeing(RankedFigures& screen, TextSpan line)
+void takeAgeing(RankedFigures& figures, TextSpan line)
 {
-    if (!holds(line, mid(screen.texts[ageingKey], 1, 5)))
+    if (!holds(line, mid(figures.texts[ageingKey], 1, 5)))
         return;
-    Entry& entry = screen.currentEntry();
+    Entry& entry = figures.currentEntry();
     const double current = bucket(line, 0);
     double sum = current;
     for (int j = 1; j < maxBuckets && reaches(line, j); ++j)
@@ -147,7 +147,7 @@ const RankedScreen frmPastdue{
                            {Content::TextSlot, state},
                            {Content::NumberSlot, total},
                            {Content::NumberSlot, pastDue}}}},
-    .summary = {{"txtHeader", [](const RankedFigures& screen) { return screen.texts[title]; }}},
+    .summary = {{"txtHeader", [](const RankedFigures& figures) { return figures.texts[title]; }}},
     .key = {.parts = {{.number = true, .gridColumn = 1, .slot = customer, .column = 14, .length = 5}},
             .lineStart = u"RANK:"},
     .linesAnEntry = 8,
@@ -155,7 +155,7 @@ const RankedScreen frmPastdue{
 
 const DrillDownDesign frmPastdueA{
     .window = "frmPastdueA",
-    .analysis = frmPastdue,
+    .screen = frmPastdue,
     // Kept: the hundredth record (docs/kept.md).
     .limits = {.draw = 1000, .step = 500},
     .charts = {{ChartBox{.name = "ChartFX1"}, 1}},

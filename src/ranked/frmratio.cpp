@@ -38,19 +38,19 @@ TextSpan codeOf(TextSpan line)
 }
 
 // Ratios have no ranks: they are numbered as they come.
-void openNext(RankedFigures& screen, TextSpan)
+void openNext(RankedFigures& figures, TextSpan)
 {
-    ++screen.currentRank;
+    ++figures.currentRank;
 }
 
-void countEntry(RankedFigures& screen, TextSpan)
+void countEntry(RankedFigures& figures, TextSpan)
 {
-    screen.counts[0] = screen.currentRank;
+    figures.counts[0] = figures.currentRank;
 }
 
-void nameByCode(RankedFigures& screen, TextSpan line)
+void nameByCode(RankedFigures& figures, TextSpan line)
 {
-    screen.currentEntry().texts[name] = ratio(codeOf(line)).name;
+    figures.currentEntry().texts[name] = ratio(codeOf(line)).name;
 }
 
 // The name after "3A:", up to a bar or the end of the line; absent where the line has no "3A:".
@@ -65,10 +65,10 @@ std::optional<TextSpan> ownName(TextSpan line)
     return bar ? mid(rest, 1, bar - 1) : withoutLast(rest);
 }
 
-void nameByLine(RankedFigures& screen, TextSpan line)
+void nameByLine(RankedFigures& figures, TextSpan line)
 {
     if (const auto own = ownName(line))
-        screen.currentEntry().texts[name] = *own;
+        figures.currentEntry().texts[name] = *own;
 }
 
 // The text after "4: ", "5: " or "6: ". Throws Failure where the line has fewer than 3 characters.
@@ -155,8 +155,8 @@ const RankedScreen frmRatio{
                            {Content::TextSlot, name},
                            {Content::TextSlot, valueText},
                            {Content::TextSlot, benchmarkText}}}},
-    .summary = {{"lblA", [](const RankedFigures& screen) { return screen.texts[title]; }},
-                {"lblCompany", [](const RankedFigures& screen) { return screen.texts[company]; }}},
+    .summary = {{"lblA", [](const RankedFigures& figures) { return figures.texts[title]; }},
+                {"lblCompany", [](const RankedFigures& figures) { return figures.texts[company]; }}},
     .key = {.parts = {{.number = false, .gridColumn = 0, .slot = code, .column = 3, .length = 4}},
             .lineStart = u"1:",
             .recordStart = u"1:"},
@@ -165,7 +165,7 @@ const RankedScreen frmRatio{
 
 const DrillDownDesign frmRatioA{
     .window = "frmRatioA",
-    .analysis = frmRatio,
+    .screen = frmRatio,
     .charts = {{ChartBox{.name = "ChartFX1"}, 1}},
     .draw = draw,
     .buttons = {{.button = {.name = "cmdFormula", .caption = u"Formula", .shortcut = u"Alt+F"},

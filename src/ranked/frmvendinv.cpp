@@ -35,9 +35,9 @@ constexpr Position bucketLength = 8;
 constexpr TextSpan bucketLabels = u"<30 Days31 - 60 61 - 90 91 - 120Over 120";
 
 // Kept: how rows are counted, a missing rank (docs/kept.md).
-void countHighestRank(RankedFigures& screen, TextSpan)
+void countHighestRank(RankedFigures& figures, TextSpan)
 {
-    screen.counts[0] = std::max(screen.counts[0], screen.currentRank);
+    figures.counts[0] = std::max(figures.counts[0], figures.currentRank);
 }
 
 Text tips(const EntryLines&)
@@ -123,8 +123,8 @@ const RankedScreen frmVendInv{
                            {Content::TextSlot, vendor},
                            {Content::TextSlot, category},
                            {Content::TextSlot, stockMonths}}}},
-    .summary = {{"txtHeader", [](const RankedFigures& screen) { return screen.texts[title]; }},
-                {"txtHeader2", [](const RankedFigures& screen) { return screen.texts[summaryLine]; }}},
+    .summary = {{"txtHeader", [](const RankedFigures& figures) { return figures.texts[title]; }},
+                {"txtHeader2", [](const RankedFigures& figures) { return figures.texts[summaryLine]; }}},
     .key = {.parts = {{.number = false, .gridColumn = 2, .slot = vendor, .column = 17, .length = 30},
                       {.number = false, .gridColumn = 3, .slot = category, .column = 54, .length = 30}}},
     .linesAnEntry = 5,
@@ -132,7 +132,7 @@ const RankedScreen frmVendInv{
 
 const DrillDownDesign frmVendInvA{
     .window = "frmVendInvA",
-    .analysis = frmVendInv,
+    .screen = frmVendInv,
     .width = 1100,
     .charts = {{ChartBox{.name = "ChartFX1"}, 2},
                {ChartBox{.name = "ChartFX2",

@@ -7,7 +7,7 @@
 
 namespace plotvue {
 
-// What is kept of an entry; each analysis names the slots. A rank that is not on the screen has an entry with
+// What is kept of an entry; each screen names the slots. A rank that is not on the screen has an entry with
 // zeros and empty texts.
 struct Entry {
     std::array<double, 4> numbers{};

@@ -15,7 +15,7 @@ const EntryLines& ListFile::next()
 {
     previous_ = std::move(record_);
     record_.clear();
-    for (int field = 0; field <= analysis_.linesAnEntry; ++field)
+    for (int field = 0; field <= screen_.linesAnEntry; ++field)
         record_.push_back(reader_.next());
     ++position_;
     return record_;
@@ -24,7 +24,7 @@ const EntryLines& ListFile::next()
 const EntryLines& ListFile::readUpTo(const KeyValues& key, int limit)
 {
     // Kept: the hundredth record, two entries alike (docs/kept.md).
-    const Key& wanted = analysis_.key;
+    const Key& wanted = screen_.key;
     do
         next();
     while (!(TextSpan(record_[1]).starts_with(wanted.recordStart) && hasKey(record_[1], wanted, key)) &&

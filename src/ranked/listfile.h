@@ -13,7 +13,7 @@ KeyValues readChosenRow(const Key& key);
 class ListFile {
 public:
     // Throws Failure when the list file cannot be read.
-    explicit ListFile(const RankedScreen& analysis) : analysis_(analysis), reader_(listFile) {}
+    explicit ListFile(const RankedScreen& screen) : screen_(screen), reader_(listFile) {}
 
     // Reads on until a record has the key, at most to the record number `limit`, and returns the last record
     // that was read. Throws Failure when the file ends before that.
@@ -24,7 +24,7 @@ public:
     const EntryLines& next();                                // Throws Failure after the last record.
 
 private:
-    const RankedScreen& analysis_;
+    const RankedScreen& screen_;
     RecordReader reader_;
     EntryLines previous_, record_;
     int position_ = 0;

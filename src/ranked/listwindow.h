@@ -1,4 +1,4 @@
-// The list window of a ranked analysis: a summary and grids, which every load fills from the scratch file. A
+// The list window of a ranked screen: a summary and grids, which every load fills from the scratch file. A
 // click on a row writes the list file and the chosen-row file and shows the drill-down window.
 #pragma once
 
@@ -11,15 +11,15 @@ class RankedListWindow : public Window {
 public:
     // `drillDowns`: the drill-down windows of all lists, which read the same small files.
     RankedListWindow(Platform& platform, Window& startup, DrillDownWindow& drillDown,
-                     const std::vector<DrillDownWindow*>& drillDowns, const RankedScreen& analysis)
+                     const std::vector<DrillDownWindow*>& drillDowns, const RankedScreen& screen)
         : Window(platform),
           startup_(startup),
           drillDown_(drillDown),
           drillDowns_(drillDowns),
-          analysis_(analysis)
+          screen_(screen)
     {}
 
-    Name name() const override { return analysis_.window; }
+    Name name() const override { return screen_.window; }
 
 protected:
     Declaration declare() const override;
@@ -39,9 +39,9 @@ private:
     Window& startup_;
     DrillDownWindow& drillDown_;
     const std::vector<DrillDownWindow*>& drillDowns_;
-    const RankedScreen& analysis_;
+    const RankedScreen& screen_;
     Text capture_; // the lines of the screen are views of it
-    RankedFigures screen_;
+    RankedFigures figures_;
 };
 
 } // namespace plotvue

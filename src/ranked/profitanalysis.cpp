@@ -15,10 +15,10 @@ using To = LineField::To;
 using Content = GridColumn::Content;
 
 // "Total profit for the territory increased by  1250 (from  8000 to  9250)."
-Text totalSentence(const RankedFigures& screen)
+Text totalSentence(const RankedFigures& figures)
 {
-    const double now = std::floor(screen.numbers[current]);
-    const double before = std::floor(screen.numbers[previous]);
+    const double now = std::floor(figures.numbers[current]);
+    const double before = std::floor(figures.numbers[previous]);
     const bool less = now < before;
     return Text(u"Total profit for the territory ") + (less ? u"decreased " : u"increased ") + u"by " +
            signedNumber(finite(less ? before - now : now - before)) + u" (from " + signedNumber(before) +
@@ -37,9 +37,9 @@ bool isLoss(const Entry& entry)
 
 } // namespace
 
-void count(RankedFigures& screen, TextSpan)
+void count(RankedFigures& figures, TextSpan)
 {
-    ++screen.counts[screen.currentEntry().numbers[figure] <= 0 ? losses : gains];
+    ++figures.counts[figures.currentEntry().numbers[figure] <= 0 ? losses : gains];
 }
 
 RankedGrid grid(Count count, GridBox box, std::optional<PictureBox> picture)
@@ -71,20 +71,20 @@ RankedScreen list(RankedScreen own, Position previousColumn)
     own.heading = {{TextBox{.name = "txtHeader", .spokenName = u"Analysis"}},
                    {TextBox{.name = "txtL2", .spokenName = u"Summary"}},
                    {TextBox{.name = "txtL3", .spokenName = u"Sales"}}};
-    own.summary = {{"txtHeader", [](const RankedFigures& screen) { return screen.texts[header]; }},
+    own.summary = {{"txtHeader", [](const RankedFigures& figures) { return figures.texts[header]; }},
                    {"txtL2", totalSentence},
-                   {"txtL3", [](const RankedFigures& screen) { return screen.texts[salesLine]; }}};
+                   {"txtL3", [](const RankedFigures& figures) { return figures.texts[salesLine]; }}};
     own.key = {.parts = {{.number = true, .gridColumn = 2, .slot = customer, .column = 14, .length = 5},
                          {.number = false, .gridColumn = 4, .slot = group, .column = 51, .length = 10}}};
     own.linesAnEntry = 5;
     return own;
 }
 
-DrillDownDesign drillDown(Name window, const RankedScreen& analysis,
+DrillDownDesign drillDown(Name window, const RankedScreen& screen,
                           void (*drawEntry)(Controls&, const EntryLines&, int type))
 {
     return {.window = window,
-            .analysis = analysis,
+            .screen = screen,
             .width = 1100,
             .charts = {{ChartBox{.name = "ChartFX1"}, 2},
                        {ChartBox{.name = "ChartFX2",

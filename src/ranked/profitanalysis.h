@@ -15,7 +15,7 @@ enum Count { gains, losses };
 
 // Counts the current entry as a loss when its figure is 0 or less, otherwise as a gain.
 // Kept: a gain of 0, an entry counted twice (docs/kept.md).
-void count(RankedFigures& screen, TextSpan line);
+void count(RankedFigures& figures, TextSpan line);
 
 // The grid of the gains or the losses. Kept: a gain of 0 (docs/kept.md).
 RankedGrid grid(Count count, GridBox box, std::optional<PictureBox> picture = {});
@@ -24,7 +24,7 @@ RankedGrid grid(Count count, GridBox box, std::optional<PictureBox> picture = {}
 // "Mprofit" line the territory's previous profit is in `previousColumn` to column 30.
 RankedScreen list(RankedScreen own, Position previousColumn);
 
-DrillDownDesign drillDown(Name window, const RankedScreen& analysis,
+DrillDownDesign drillDown(Name window, const RankedScreen& screen,
                           void (*drawEntry)(Controls&, const EntryLines&, int type));
 
 // Draws both charts. `componentLine` is the line with the two components of the change.

@@ -24,38 +24,38 @@ std::vector<TextSpan> cutLines(TextSpan rest, int maxLines)
     return lines;
 }
 
-void take(const LineField& field, TextSpan line, RankedFigures& screen)
+void take(const LineField& field, TextSpan line, RankedFigures& figures)
 {
     const TextSpan text = field.length == toTheEnd ? mid(withoutLast(line), field.column)
                                                    : mid(line, field.column, field.length);
     const auto slot = static_cast<std::size_t>(field.slot);
     switch (field.to) {
     case LineField::To::EntryNumber:
-        screen.currentEntry().numbers.at(slot) = leadingNumber(text);
+        figures.currentEntry().numbers.at(slot) = leadingNumber(text);
         break;
     case LineField::To::EntryText:
-        screen.currentEntry().texts.at(slot) = text;
+        figures.currentEntry().texts.at(slot) = text;
         break;
     case LineField::To::ScreenNumber:
-        screen.numbers.at(slot) = leadingNumber(text);
+        figures.numbers.at(slot) = leadingNumber(text);
         break;
     case LineField::To::ScreenText:
-        screen.texts.at(slot) = text;
+        figures.texts.at(slot) = text;
         break;
     }
 }
 
-void apply(const LineRule& rule, TextSpan line, RankedFigures& screen)
+void apply(const LineRule& rule, TextSpan line, RankedFigures& figures)
 {
     // Kept: markers anywhere, figures before the first entry (docs/kept.md).
-    if (!holds(line, rule.marker) || (rule.afterRank && screen.currentRank == 0))
+    if (!holds(line, rule.marker) || (rule.afterRank && figures.currentRank == 0))
         return;
     if (rule.open)
-        rule.open(screen, line);
+        rule.open(figures, line);
     for (const LineField& field : rule.fields)
-        take(field, line, screen);
+        take(field, line, figures);
     if (rule.then)
-        rule.then(screen, line);
+        rule.then(figures, line);
 }
 
 std::size_t indexOf(int rank)
@@ -83,50 +83,51 @@ TextSpan RankedFigures::line(int number) const
     return at > lines.size() ? TextSpan{} : lines[at - 1];
 }
 
-RankedFigures readRanked(const RankedScreen& analysis, TextSpan capture)
+RankedFigures readRanked(const RankedScreen& screen, TextSpan capture)
 {
-    RankedFigures screen;
-    screen.accepted = holds(capture, analysis.title);
-    if (!screen.accepted)
-        return screen;
-    if (analysis.prepare)
-        analysis.prepare(screen);
-    screen.lines = cutLines(capture, analysis.maxLines);
-    for (const TextSpan line : screen.lines)
+    RankedFigures figures;
+    figures.accepted = holds(capture, screen.title);
+    if (!figures.accepted)
+        return figures;
+    if (screen.prepare)
+        screen.prepare(figures);
+    figures.lines = cutLines(capture, screen.maxLines);
+    for (const TextSpan line : figures.lines)
         locateFailure(line, [&] {
-            for (const LineRule& rule : analysis.rules)
-                apply(rule, line, screen);
+            for (const LineRule& rule : screen.rules)
+                apply(rule, line, figures);
         });
-    return screen;
+    return figures;
 }
 
-void openRank(RankedFigures& screen, TextSpan line)
+void openRank(RankedFigures& figures, TextSpan line)
 {
-    screen.currentRank = toInt16(leadingNumber(mid(line, rankColumn, rankLength)), u"A rank on the screen");
+    figures.currentRank = toInt16(leadingNumber(mid(line, rankColumn, rankLength)), u"A rank on the screen");
 }
 
-std::vector<int> ranksIn(const RankedGrid& grid, const RankedFigures& screen)
+std::vector<int> ranksIn(const RankedGrid& grid, const RankedFigures& figures)
 {
     std::vector<int> ranks;
     int rank = 0;
-    for (int row = 1; row <= screen.counts.at(static_cast<std::size_t>(grid.count)); ++row) {
+    for (int row = 1; row <= figures.counts.at(static_cast<std::size_t>(grid.count)); ++row) {
         const Entry* entry = nullptr;
         do
-            entry = &screen.entry(++rank); // Kept: a missing rank (docs/kept.md).
+            entry = &figures.entry(++rank); // Kept: a missing rank (docs/kept.md).
         while (grid.lists && !grid.lists(*entry));
         ranks.push_back(rank);
     }
     return ranks;
 }
 
-std::vector<int> firstLines(const std::vector<int>& ranks, const Key& key, const RankedFigures& screen)
+std::vector<int> firstLines(const std::vector<int>& ranks, const Key& key, const RankedFigures& figures)
 {
     std::vector<int> lines;
     int found = 0;
     for (const int rank : ranks) {
-        const KeyValues values = keyOf(key, screen.entry(rank));
+        const KeyValues values = keyOf(key, figures.entry(rank));
         for (int number = 1; number <= searchedLines; ++number)
-            if (screen.line(number).starts_with(key.lineStart) && hasKey(screen.line(number), key, values)) {
+            if (figures.line(number).starts_with(key.lineStart) &&
+                hasKey(figures.line(number), key, values)) {
                 found = number;
                 break;
             }

@@ -1,5 +1,6 @@
-// A ranked analysis as data: what its list window takes from each line of the capture, what its grids show,
-// and which lines it hands to the drill-down window. Columns, ranks and lines count from 1.
+// A ranked screen of the host, described as data: what its list window takes from each line of the capture,
+// what its grids show, and which lines it hands to the drill-down window. Columns, ranks and lines count
+// from 1.
 #pragma once
 
 #include "platform/declaration.h"

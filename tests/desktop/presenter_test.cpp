@@ -26,9 +26,9 @@ protected:
         return nullptr;
     }
 
-    static bool realised(const Window& form)
+    static bool realised(const Window& window)
     {
-        const WindowWidget* widget = widgetOf(form.controls());
+        const WindowWidget* widget = widgetOf(window.controls());
         return widget && widget->internalWinId() != 0;
     }
 

@@ -68,12 +68,12 @@ public:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
-    SeenWindow look(const Window& form) override { return seenOnWidgets(form); }
-    void press(const Window& form, Name button) override { pressWidget(form, button); }
-    void choose(const Window& form, Name group, int index) override { chooseWidget(form, group, index); }
-    void clickRow(const Window& form, Name grid, int row) override { clickRowOfWidget(form, grid, row); }
-    void close(const Window& form) override { closeWidget(form); }
-    void copy(const Window& form, Name chartOrGrid) override { copyFromWidget(form, chartOrGrid); }
+    SeenWindow look(const Window& window) override { return seenOnWidgets(window); }
+    void press(const Window& window, Name button) override { pressWidget(window, button); }
+    void choose(const Window& window, Name group, int index) override { chooseWidget(window, group, index); }
+    void clickRow(const Window& window, Name grid, int row) override { clickRowOfWidget(window, grid, row); }
+    void close(const Window& window) override { closeWidget(window); }
+    void copy(const Window& window, Name chartOrGrid) override { copyFromWidget(window, chartOrGrid); }
 
 private:
     std::unique_ptr<QApplication> application_; // before the platform, which needs it

@@ -25,29 +25,30 @@ namespace plotvue::replay {
 
 namespace {
 
-WindowWidget& widgetOf(const Window& form)
+WindowWidget& widgetOf(const Window& window)
 {
-    return static_cast<DesktopWindow&>(form.native()).widget();
+    return static_cast<DesktopWindow&>(window.native()).widget();
 }
 
 template <typename Widget>
-Widget& widgetOf(const Window& form, Name name)
+Widget& widgetOf(const Window& window, Name name)
 {
-    auto* found = widgetOf(form).findChild<Widget*>(QString::fromLatin1(name.data(), qsizetype(name.size())));
+    auto* found =
+        widgetOf(window).findChild<Widget*>(QString::fromLatin1(name.data(), qsizetype(name.size())));
     if (!found)
         throw std::out_of_range("no such widget");
     return *found;
 }
 
 // The radio buttons of an option group, in the order of its options.
-std::vector<QRadioButton*> buttonsOf(const Window& form, Name group)
+std::vector<QRadioButton*> buttonsOf(const Window& window, Name group)
 {
     std::vector<QRadioButton*> buttons;
-    forEachControl(form.controls().declaration.content, [&](const auto& control) {
+    forEachControl(window.controls().declaration.content, [&](const auto& control) {
         if constexpr (requires { control.options; })
             if (control.group == group)
                 for (auto* button :
-                     widgetOf<QGroupBox>(form, control.name).template findChildren<QRadioButton*>())
+                     widgetOf<QGroupBox>(window, control.name).template findChildren<QRadioButton*>())
                     buttons.push_back(button);
     });
     return buttons;
@@ -65,32 +66,33 @@ QString captionOn(const QRadioButton& button)
     return elided.isEmpty() ? button.text().replace(QLatin1String("&&"), QLatin1String("&")) : elided;
 }
 
-void lookAt(SeenText& text, const Window& form, Name name)
+void lookAt(SeenText& text, const Window& window, Name name)
 {
     switch (text.of) {
     case SeenText::Of::Button:
-        text.text = toText(widgetOf<QPushButton>(form, name).text());
+        text.text = toText(widgetOf<QPushButton>(window, name).text());
         break;
     case SeenText::Of::Label:
-        text.text = seen(text.text, displayText(text.text), widgetOf<QLabel>(form, name).text());
+        text.text = seen(text.text, displayText(text.text), widgetOf<QLabel>(window, name).text());
         break;
     case SeenText::Of::TextBox:
-        text.text = seen(text.text, displayTextOnOneLine(text.text), widgetOf<QLineEdit>(form, name).text());
+        text.text =
+            seen(text.text, displayTextOnOneLine(text.text), widgetOf<QLineEdit>(window, name).text());
         break;
     }
 }
 
-void lookAt(SeenList& items, const Window& form, Name name)
+void lookAt(SeenList& items, const Window& window, Name name)
 {
-    const auto& list = widgetOf<QListWidget>(form, name);
+    const auto& list = widgetOf<QListWidget>(window, name);
     items.clear();
     for (int row = 0; row < list.count(); ++row)
         items.push_back(toText(list.item(row)->text()));
 }
 
-void lookAt(OptionGroup& group, const Window& form, Name name)
+void lookAt(OptionGroup& group, const Window& window, Name name)
 {
-    const auto buttons = buttonsOf(form, name);
+    const auto buttons = buttonsOf(window, name);
     group.chosen.clear();
     for (std::size_t i = 0; i < buttons.size(); ++i) {
         OptionGroup::Entry& option = group.options.at(i);
@@ -102,9 +104,9 @@ void lookAt(OptionGroup& group, const Window& form, Name name)
     std::ranges::sort(group.chosen);
 }
 
-void lookAt(Grid& grid, const Window& form, Name name)
+void lookAt(Grid& grid, const Window& window, Name name)
 {
-    const QAbstractItemModel& model = *widgetOf<QTableView>(form, name).model();
+    const QAbstractItemModel& model = *widgetOf<QTableView>(window, name).model();
     const Grid wanted = grid;
     QStringList headings;
     for (int column = 0; column < model.columnCount(); ++column)
@@ -126,9 +128,9 @@ void lookAt(Grid& grid, const Window& form, Name name)
 }
 
 // Leaves the chart empty if the widget's drawing differs from that of a new widget with the same chart.
-void lookAt(Chart& chart, const Window& form, Name name)
+void lookAt(Chart& chart, const Window& window, Name name)
 {
-    const auto& widget = widgetOf<ChartWidget>(form, name);
+    const auto& widget = widgetOf<ChartWidget>(window, name);
     ChartWidget fresh;
     fresh.setFont(widget.font());
     fresh.resize(widget.size());
@@ -139,47 +141,47 @@ void lookAt(Chart& chart, const Window& form, Name name)
 
 } // namespace
 
-SeenWindow seenOnWidgets(const Window& form)
+SeenWindow seenOnWidgets(const Window& window)
 {
-    SeenWindow window = seenIn(form.controls());
-    window.caption = toText(widgetOf(form).windowTitle());
-    const auto& notice = *widgetOf(form).findChild<NoticeLine*>();
-    window.notice = notice.isHidden() ? Text() : toText(notice.text());
-    for (auto& named : window.controls)
-        std::visit([&](auto& control) { lookAt(control, form, named.first); }, named.second);
-    return window;
+    SeenWindow seen = seenIn(window.controls());
+    seen.caption = toText(widgetOf(window).windowTitle());
+    const auto& notice = *widgetOf(window).findChild<NoticeLine*>();
+    seen.notice = notice.isHidden() ? Text() : toText(notice.text());
+    for (auto& named : seen.controls)
+        std::visit([&](auto& control) { lookAt(control, window, named.first); }, named.second);
+    return seen;
 }
 
-void pressWidget(const Window& form, Name button)
+void pressWidget(const Window& window, Name button)
 {
-    widgetOf<QPushButton>(form, button).click();
+    widgetOf<QPushButton>(window, button).click();
 }
 
-void chooseWidget(const Window& form, Name group, int index)
+void chooseWidget(const Window& window, Name group, int index)
 {
-    const auto& options = form.controls().options(group)->options;
+    const auto& options = window.controls().options(group)->options;
     const auto at = std::ranges::find(options, index, &OptionGroup::Entry::index);
-    buttonsOf(form, group).at(static_cast<std::size_t>(at - options.begin()))->click();
+    buttonsOf(window, group).at(static_cast<std::size_t>(at - options.begin()))->click();
 }
 
-void clickRowOfWidget(const Window& form, Name grid, int row)
+void clickRowOfWidget(const Window& window, Name grid, int row)
 {
-    auto& table = widgetOf<QTableView>(form, grid);
+    auto& table = widgetOf<QTableView>(window, grid);
     table.setCurrentIndex(table.model()->index(row - 1, 0));
     QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
     QCoreApplication::sendEvent(&table, &enter);
 }
 
-void closeWidget(const Window& form)
+void closeWidget(const Window& window)
 {
     QCloseEvent event;
-    QCoreApplication::sendEvent(&widgetOf(form), &event);
+    QCoreApplication::sendEvent(&widgetOf(window), &event);
 }
 
-void copyFromWidget(const Window& form, Name chartOrGrid)
+void copyFromWidget(const Window& window, Name chartOrGrid)
 {
     // A chart can also copy its picture.
-    const QList<QAction*> actions = widgetOf<QWidget>(form, chartOrGrid).actions();
+    const QList<QAction*> actions = widgetOf<QWidget>(window, chartOrGrid).actions();
     for (QAction* action : actions)
         if (action->objectName() == QLatin1String("copyText"))
             action->trigger();

@@ -8,12 +8,12 @@ namespace plotvue::replay {
 
 // What the widgets display. If a widget displays the value of its control correctly, the value itself is
 // returned, because it may hold control characters that are not displayed.
-SeenWindow seenOnWidgets(const Window& form);
+SeenWindow seenOnWidgets(const Window& window);
 
-void pressWidget(const Window& form, Name button);
-void chooseWidget(const Window& form, Name group, int index);
-void clickRowOfWidget(const Window& form, Name grid, int row);
-void closeWidget(const Window& form);
-void copyFromWidget(const Window& form, Name chartOrGrid);
+void pressWidget(const Window& window, Name button);
+void chooseWidget(const Window& window, Name group, int index);
+void clickRowOfWidget(const Window& window, Name grid, int row);
+void closeWidget(const Window& window);
+void copyFromWidget(const Window& window, Name chartOrGrid);
 
 } // namespace plotvue::replay

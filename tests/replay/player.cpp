@@ -73,25 +73,25 @@ void Player::command(const std::vector<std::string>& words)
         app_.start();
     } else if (is("click", 3)) {
         control<SeenText>(words[1], words[2]);
-        stage_.press(loadedForm(words[1]), words[2]);
+        stage_.press(loadedWindow(words[1]), words[2]);
     } else if (is("choose", 4)) {
         const int index = wholeNumber(words[3]);
         const auto options = control<OptionGroup>(words[1], words[2]).options;
         if (std::ranges::find(options, index, &OptionGroup::Entry::index) == options.end())
             throw BadLine(words[2] + " has no option " + words[3]);
-        stage_.choose(loadedForm(words[1]), words[2], index);
+        stage_.choose(loadedWindow(words[1]), words[2], index);
     } else if (is("row", 4)) {
         const int row = wholeNumber(words[3]);
         if (row < 1 || row >= control<Grid>(words[1], words[2]).rows)
             throw BadLine(words[2] + " has no row " + words[3]);
-        stage_.clickRow(loadedForm(words[1]), words[2], row);
+        stage_.clickRow(loadedWindow(words[1]), words[2], row);
     } else if (is("close", 2)) {
-        stage_.close(loadedForm(words[1]));
+        stage_.close(loadedWindow(words[1]));
     } else if (is("copy", 3)) {
         const Seen seen = control(words[1], words[2]);
         if (!std::holds_alternative<Chart>(seen) && !std::holds_alternative<Grid>(seen))
             throw BadLine(words[2] + " is neither a chart nor a grid");
-        stage_.copy(loadedForm(words[1]), words[2]);
+        stage_.copy(loadedWindow(words[1]), words[2]);
     } else if (is("dump", 2)) {
         dump(words[1]);
     } else {
@@ -128,14 +128,14 @@ void Player::printer(const std::vector<std::string>& words)
 
 void Player::dump(Name window)
 {
-    const Window& shown = form(window);
+    const Window& shown = existingWindow(window);
     if (shown.loaded())
         out_ << toJson(window, shown.visible(), stage_.look(shown)) << '\n';
     else
         out_ << unloadedJson(window) << '\n';
 }
 
-Window& Player::form(Name window)
+Window& Player::existingWindow(Name window)
 {
     Window* found = test::windowNamed(app_, window);
     if (!found)
@@ -143,9 +143,9 @@ Window& Player::form(Name window)
     return *found;
 }
 
-Window& Player::loadedForm(Name window)
+Window& Player::loadedWindow(Name window)
 {
-    Window& found = form(window);
+    Window& found = existingWindow(window);
     if (!found.loaded())
         throw BadLine(std::string(window) + " is not loaded");
     return found;
@@ -153,7 +153,7 @@ Window& Player::loadedForm(Name window)
 
 Seen Player::control(Name window, Name name)
 {
-    const SeenWindow seen = stage_.look(loadedForm(window));
+    const SeenWindow seen = stage_.look(loadedWindow(window));
     const auto at = seen.controls.find(name);
     if (at == seen.controls.end())
         throw BadLine(std::string(window) + " has no control " + std::string(name));

@@ -24,13 +24,13 @@ public:
     virtual void setPrinter(PrinterAnswer answer) = 0;
     virtual void settle() {} // carries out pending show and hide requests
 
-    virtual SeenWindow look(const Window& form) = 0;
+    virtual SeenWindow look(const Window& window) = 0;
     // User actions. The control must exist.
-    virtual void press(const Window& form, Name button) = 0;
-    virtual void choose(const Window& form, Name group, int index) = 0;
-    virtual void clickRow(const Window& form, Name grid, int row) = 0;
-    virtual void close(const Window& form) = 0;
-    virtual void copy(const Window& form, Name chartOrGrid) = 0;
+    virtual void press(const Window& window, Name button) = 0;
+    virtual void choose(const Window& window, Name group, int index) = 0;
+    virtual void clickRow(const Window& window, Name grid, int row) = 0;
+    virtual void close(const Window& window) = 0;
+    virtual void copy(const Window& window, Name chartOrGrid) = 0;
 };
 
 std::unique_ptr<Stage> recordingStage();
@@ -55,8 +55,8 @@ private:
     void clipboard(const std::vector<std::string>& words);
     void printer(const std::vector<std::string>& words);
     void dump(Name window);
-    Window& form(Name window);
-    Window& loadedForm(Name window);
+    Window& existingWindow(Name window);
+    Window& loadedWindow(Name window);
 
     // Throw BadLine if the window has no such control.
     Seen control(Name window, Name name);

@@ -21,15 +21,21 @@ public:
                                                                               : Answer::Cancel;
     }
 
-    SeenWindow look(const Window& form) override { return seenIn(form.controls()); }
-    void press(const Window& form, Name button) override { form.controls().press(button); }
-    void choose(const Window& form, Name group, int index) override { form.controls().choose(group, index); }
-    void clickRow(const Window& form, Name grid, int row) override { form.controls().clickRow(grid, row); }
-    void close(const Window& form) override { form.controls().close(); }
-
-    void copy(const Window& form, Name name) override
+    SeenWindow look(const Window& window) override { return seenIn(window.controls()); }
+    void press(const Window& window, Name button) override { window.controls().press(button); }
+    void choose(const Window& window, Name group, int index) override
     {
-        const Seen seen = seenIn(form.controls()).controls.find(name)->second;
+        window.controls().choose(group, index);
+    }
+    void clickRow(const Window& window, Name grid, int row) override
+    {
+        window.controls().clickRow(grid, row);
+    }
+    void close(const Window& window) override { window.controls().close(); }
+
+    void copy(const Window& window, Name name) override
+    {
+        const Seen seen = seenIn(window.controls()).controls.find(name)->second;
         const auto* grid = std::get_if<Grid>(&seen);
         platform_.run([&] {
             platform_.copy(grid ? rowsTable(*grid) : figuresTable(PlotData(std::get<Chart>(seen)), u'.'));

@@ -22,8 +22,8 @@ bool holds(const std::vector<std::string>& items, const std::string& item)
 std::optional<EntryLines> chosenRecord(const DrillDownDesign& design)
 {
     try {
-        const KeyValues chosen = readChosenRow(design.analysis.key);
-        return ListFile(design.analysis).readUpTo(chosen, design.limits.draw);
+        const KeyValues chosen = readChosenRow(design.screen.key);
+        return ListFile(design.screen).readUpTo(chosen, design.limits.draw);
     } catch (const Failure&) {
         return {};
     }
@@ -49,11 +49,11 @@ std::vector<EntryLines> listed(std::size_t lines)
 // (or the last) one. Down also says so if it does not find the row in the list file.
 bool listEnds(const DrillDownDesign& design, bool down)
 {
-    const Key& key = design.analysis.key;
+    const Key& key = design.screen.key;
     std::optional<KeyValues> chosen;
     try {
         chosen = readChosenRow(key);
-        const auto lines = static_cast<std::size_t>(design.analysis.linesAnEntry) + 1; // with the months
+        const auto lines = static_cast<std::size_t>(design.screen.linesAnEntry) + 1; // with the months
         const std::vector<EntryLines> entries = listed(lines);
         const auto found = std::find_if(entries.begin(), entries.end(), [&](const EntryLines& entry) {
             return entry[1].starts_with(key.recordStart) && hasKey(entry[1], key, *chosen);

@@ -12,9 +12,9 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 // A window whose button runs the test's code.
-class AnyForm : public Window {
+class AnyWindow : public Window {
 public:
-    explicit AnyForm(Platform& platform) : Window(platform) {}
+    explicit AnyWindow(Platform& platform) : Window(platform) {}
 
     std::function<void()> onLoad = [] {};
     std::function<void()> onClick = [] {};
@@ -50,7 +50,7 @@ protected:
     std::vector<Event::Kind> kinds;
     Text last;
     RecordingPlatform platform;
-    AnyForm window{platform};
+    AnyWindow window{platform};
 };
 
 using enum Event::Kind;
@@ -71,6 +71,19 @@ TEST_F(Windows, AreBuiltHidden)
     window.onLoad = [&] { visible = window.visible(); };
     window.show();
     EXPECT_FALSE(visible);
+}
+
+TEST_F(Windows, CanBeLoadedAgainByTheirOwnButton)
+{
+    window.show();
+    window.onClick = [this, after = Text(u"a text of some length")] {
+        window.unload();
+        window.show();
+        last = after; // the handler is still whole
+    };
+    window.controls().press("cmdAny");
+    EXPECT_EQ(last, u"a text of some length");
+    EXPECT_THAT(kinds, ElementsAre(Load, Show, Hide, Unload, Load, Show));
 }
 
 TEST_F(Windows, AreNotLoadedAgainWhenTheyAreShownAgain)
