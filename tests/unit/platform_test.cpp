@@ -18,6 +18,7 @@ public:
 
     std::function<void()> onLoad = [] {};
     std::function<void()> onClick = [] {};
+    Text afterClick;
 
     Name name() const override { return "frmAny"; }
     void print() { printWindow(); }
@@ -31,7 +32,10 @@ protected:
     }
     Handlers handlers() override
     {
-        return {{"cmdAny", [this](int) { onClick(); }}};
+        return {{"cmdAny", [this, own = Text(u"a text of the handler's own")](int) {
+                     onClick();
+                     afterClick = own;
+                 }}};
     }
     void Form_Load() override { onLoad(); }
     void wayOut() override { hide(); }
@@ -76,13 +80,12 @@ TEST_F(Windows, AreBuiltHidden)
 TEST_F(Windows, CanBeLoadedAgainByTheirOwnButton)
 {
     window.show();
-    window.onClick = [this, after = Text(u"a text of some length")] {
+    window.onClick = [this] {
         window.unload();
         window.show();
-        last = after; // the handler is still whole
     };
     window.controls().press("cmdAny");
-    EXPECT_EQ(last, u"a text of some length");
+    EXPECT_EQ(window.afterClick, u"a text of the handler's own"); // the handler is still whole
     EXPECT_THAT(kinds, ElementsAre(Load, Show, Hide, Unload, Load, Show));
 }
 
