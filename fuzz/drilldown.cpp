@@ -1,8 +1,8 @@
 // The first line of the input is the chosen-row file, the rest is the list file. Every drill-down window
 // draws and steps.
+#include "app/screens.h"
 #include "files/exchange.h"
 #include "fuzz.h"
-#include "ranked/rankedscreens.h"
 #include "recording/recordingplatform.h"
 
 #include <filesystem>
@@ -59,11 +59,11 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     static const Directory directory;
     const std::string_view bytes = fuzz::bytesOf(data, size);
     const std::size_t lineEnd = std::min(bytes.find('\n'), size);
-    for (const DrillDownDesign* design :
-         {&frmM2MpftA, &frmProfRankA, &frmPastdueA, &frmVendInvA, &frmRatioA}) {
-        write(chosenRowFile, bytes.substr(0, lineEnd));
-        write(listFile, bytes.substr(lineEnd));
-        play(*design);
-    }
+    for (const Screen& screen : screens)
+        if (const auto* ranked = std::get_if<Ranked>(&screen.window)) {
+            write(chosenRowFile, bytes.substr(0, lineEnd));
+            write(listFile, bytes.substr(lineEnd));
+            play(*ranked->drillDown);
+        }
     return 0;
 }

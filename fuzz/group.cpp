@@ -9,10 +9,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const Text capture = fuzz::textOf(data, size);
     fuzz::mayFail([&] {
-        const GroupFigures screen = readGroups(capture, std::vector<bool>(maxGroups * valuesPerGroup, true));
-        fuzz::always(screen.salesmen.size() <= 23);
-        fuzz::always(screen.names.size() == static_cast<std::size_t>(std::max(screen.groups, 0)));
-        for (const Salesman& salesman : screen.salesmen)
+        const GroupFigures figures = readGroups(capture, std::vector<bool>(maxGroups * valuesPerGroup, true));
+        fuzz::always(figures.salesmen.size() <= 23);
+        fuzz::always(figures.names.size() == static_cast<std::size_t>(std::max(figures.groups, 0)));
+        for (const Salesman& salesman : figures.salesmen)
             fuzz::always(salesman.values.size() <= maxGroups * valuesPerGroup);
     });
     return 0;

@@ -1,6 +1,6 @@
+#include "app/screens.h"
 #include "fuzz.h"
 #include "ranked/rankedfigures.h"
-#include "ranked/rankedscreens.h"
 
 #include <algorithm>
 
@@ -8,19 +8,19 @@ using namespace plotvue;
 
 namespace {
 
-void read(const RankedScreen& analysis, TextSpan capture)
+void read(const RankedScreen& screen, TextSpan capture)
 {
-    const RankedFigures screen = readRanked(analysis, capture);
-    if (!screen.accepted)
+    const RankedFigures figures = readRanked(screen, capture);
+    if (!figures.accepted)
         return;
-    for (const auto& [control, text] : analysis.summary)
-        text(screen);
-    for (const RankedGrid& grid : analysis.grids)
+    for (const auto& [control, text] : screen.summary)
+        text(figures);
+    for (const RankedGrid& grid : screen.grids)
         fuzz::mayFail([&] {
-            const std::vector<int> ranks = ranksIn(grid, screen);
-            const int rows = std::max(screen.counts[static_cast<std::size_t>(grid.count)], 0);
+            const std::vector<int> ranks = ranksIn(grid, figures);
+            const int rows = std::max(figures.counts[static_cast<std::size_t>(grid.count)], 0);
             fuzz::always(ranks.size() == static_cast<std::size_t>(rows));
-            fuzz::always(firstLines(ranks, analysis.key, screen).size() == ranks.size());
+            fuzz::always(firstLines(ranks, screen.key, figures).size() == ranks.size());
         });
 }
 
@@ -29,7 +29,8 @@ void read(const RankedScreen& analysis, TextSpan capture)
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const Text capture = fuzz::textOf(data, size);
-    for (const RankedScreen* analysis : {&frmM2Mpft, &frmProfRank, &frmPastdue, &frmVendInv, &frmRatio})
-        fuzz::mayFail([&] { read(*analysis, capture); });
+    for (const Screen& screen : screens)
+        if (const auto* ranked = std::get_if<Ranked>(&screen.window))
+            fuzz::mayFail([&] { read(*ranked->list, capture); });
     return 0;
 }

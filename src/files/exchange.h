@@ -11,7 +11,7 @@
 
 namespace plotvue {
 
-inline constexpr const char* scratchFile = "pvuscrn.txt";    // one text: the capture of a ranked analysis
+inline constexpr const char* scratchFile = "pvuscrn.txt";    // one text: the capture of a ranked screen
 inline constexpr const char* listFile = "plotvue.txt";       // a record for each row of a list
 inline constexpr const char* chosenRowFile = "plotvue1.txt"; // one record: the key of a row of the list
 

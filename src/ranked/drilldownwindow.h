@@ -17,8 +17,9 @@ struct DrillDownDesign {
     int width = 1000;              // of the window, as Declaration::width
     std::vector<Item> charts;      // side by side
     std::vector<TextSpan> types{}; // captions of the data types by index; empty: no choice
-    // Draws the record; `type` is the index of the chosen data type, 0 where there is no choice.
-    void (*draw)(Controls&, const EntryLines&, int type);
+    // Draws the record; `type` is the index of the chosen data type, 0 where there is no choice. A reference,
+    // so that the compiler asks for it.
+    void (&draw)(Controls&, const EntryLines&, int type);
     std::vector<MessageButton> buttons{}; // about the record that was drawn last
 };
 

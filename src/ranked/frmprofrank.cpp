@@ -1,5 +1,5 @@
 // Ranked profit: the pairs of customer and product group by their current profit. All is as in the
-// month-to-month analysis but for the line of the profit.
+// month-to-month screen but for the line of the profit.
 //
 //     RANKED PROFIT ANALYSIS, OCTOBER 1999
 //     FOR SALES REP 014 R. HALVORSEN, NORTH TERRITORY

@@ -81,7 +81,7 @@ RankedScreen list(RankedScreen own, Position previousColumn)
 }
 
 DrillDownDesign drillDown(Name window, const RankedScreen& screen,
-                          void (*drawEntry)(Controls&, const EntryLines&, int type))
+                          void (&drawEntry)(Controls&, const EntryLines&, int type))
 {
     return {.window = window,
             .screen = screen,

@@ -1,4 +1,4 @@
-// What the month-to-month and the ranked profit analysis have in common: the same screen but for the line of
+// What the month-to-month and the ranked profit screen have in common: the same screen but for the line of
 // the figures, and the same windows.
 #pragma once
 
@@ -25,7 +25,7 @@ RankedGrid grid(Count count, GridBox box, std::optional<PictureBox> picture = {}
 RankedScreen list(RankedScreen own, Position previousColumn);
 
 DrillDownDesign drillDown(Name window, const RankedScreen& screen,
-                          void (*drawEntry)(Controls&, const EntryLines&, int type));
+                          void (&drawEntry)(Controls&, const EntryLines&, int type));
 
 // Draws both charts. `componentLine` is the line with the two components of the change.
 void draw(Controls& controls, const EntryLines& record, int type, TextSpan componentLine);

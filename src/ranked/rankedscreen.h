@@ -51,7 +51,7 @@ using EntryLines = std::vector<Text>;
 struct MessageButton {
     Button button;
     TextSpan title{};
-    Text (*text)(const EntryLines&);
+    Text (&text)(const EntryLines&); // a reference, so that the compiler asks for it
 };
 
 struct RankedScreen {

@@ -1,4 +1,4 @@
-// The five ranked analyses. The file of each describes its list window and its drill-down window.
+// The ranked screens. The file of each describes its list window and its drill-down window.
 #pragma once
 
 #include "ranked/drilldownwindow.h"

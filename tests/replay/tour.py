@@ -66,11 +66,14 @@ class Tour(Replay):
             before = options
 
     def press(self, window, *buttons):
-        """Presses those of the buttons that the window has, as long as the window is visible."""
-        present = self.controls(window, "button")
+        """Presses the buttons, as long as the window is visible."""
         for button in buttons:
-            if button in present and window in self.visible:
+            if window in self.visible:
                 self.do(f"click {window} {button}", f"dump {window}")
+
+    def press_all(self, window):
+        """Presses every button that stays in the window and in its record."""
+        self.press(window, *sorted(set(self.controls(window, "button")) - {"cmdExit", "cmdBack", "cmdNext"}))
 
     def step(self, chart, button, count):
         """Presses the button `count` times, or until the end of the list closes the window."""
@@ -86,7 +89,7 @@ class Tour(Replay):
             if chart not in self.visible:
                 continue
             self.do(f"dump {chart}")
-            self.press(chart, "cmdFormula", "cmdNote", "cmdPrint")
+            self.press_all(chart)
             if row == 1:
                 self.choose_all(chart)
                 self.step(chart, "cmdNext", rows)
@@ -108,7 +111,7 @@ class Tour(Replay):
         if window != "startup":
             self.do(f"dump {window}")
             self.choose_all(window)
-            self.press(window, "cmdTips", "cmdPrint", "cmdRefresh")
+            self.press_all(window)
             for name, grid in self.controls(window, "grid").items():
                 self.use_rows(window, name, grid["rows"])
             self.leave_and_come_back(window)
@@ -121,7 +124,8 @@ class Tour(Replay):
         for exit_action in (f"click {window} cmdExit", f"close {window}"):
             self.do(exit_action, "click startup Command1", f"dump {window}")
         self.do(f"clipboard {ANOTHER_SCREEN}")
-        self.press(window, "cmdRefresh")
+        if "cmdRefresh" in self.controls(window, "button"):
+            self.press(window, "cmdRefresh")
         if window in self.visible:
             self.do(f"click {window} cmdExit")
 

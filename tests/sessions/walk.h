@@ -74,7 +74,7 @@ private:
     Manner manner_;
     std::ostringstream out_;
     replay::Player player_;
-    // lists_ holds the windows of the ranked analyses, charts_ those of all other screens. A row of a list
+    // lists_ holds the windows of the ranked screens, charts_ those of all other screens. A row of a list
     // opens the window whose name is that of the list with an A.
     std::set<std::string> lists_, charts_;
     std::map<std::string, const DrillDownDesign*> designs_; // of the drill-down windows, by name

@@ -262,7 +262,7 @@ TEST_F(Notice, AnotherListReplacesTheFiles)
 // reports.
 TEST_F(Notice, ARowThatCannotBeFoundIsAnotherRow)
 {
-    const auto screens = everyAnalysis();
+    const auto screens = everyRankedScreen();
     const auto customers = std::ranges::find(screens, Name("frmPastdue"), &ThreeEntries::list);
     const Text capture = customers->before(2) + customers->capture.substr(customers->placeOf(3));
     RankedSession list(customers->list, capture, 1);

@@ -55,7 +55,7 @@ void step(RankedSession& session, Use use)
 
 class RankedFiles : public testing::TestWithParam<ThreeEntries> {};
 
-INSTANTIATE_TEST_SUITE_P(Every, RankedFiles, testing::ValuesIn(everyAnalysis()), nameOfList);
+INSTANTIATE_TEST_SUITE_P(Every, RankedFiles, testing::ValuesIn(everyRankedScreen()), nameOfList);
 
 TEST_P(RankedFiles, InTroubleEndTheProcessOrTheList)
 {
@@ -171,7 +171,7 @@ TEST(ListFile, LettersBeyondAsciiKeepTheirColumns)
 
 TEST(ListFile, IsReadAgainForEveryDrawing)
 {
-    RankedSession session(m2m, everyAnalysis()[0].capture, 1);
+    RankedSession session(m2m, everyRankedScreen()[0].capture, 1);
     const std::string records = session.file("plotvue.txt");
     writeFile("plotvue1.txt", "10003,\"GROUP 3   \"\r\n");
     session.chooseType(0);
@@ -192,7 +192,7 @@ std::string others(int count, const std::string& restOfRecord)
 
 TEST(ListFile, GivesTheHundredthRecordWhenNoneBeforeItIsTheOne)
 {
-    RankedSession session(m2m, everyAnalysis()[0].capture, 1);
+    RankedSession session(m2m, everyRankedScreen()[0].capture, 1);
     writeFile("plotvue.txt", others(102, R"(,"","","","")"));
     session.chooseType(1);
     EXPECT_EQ(session.subject().substr(0, 15), u"Customer: 20100");
@@ -202,7 +202,7 @@ TEST(ListFile, GivesTheHundredthRecordWhenNoneBeforeItIsTheOne)
 
 TEST(ListFile, GivesTheFiveHundredthRecordOfPastDueCustomers)
 {
-    RankedSession session(pastdue, everyAnalysis()[2].capture, 1);
+    RankedSession session(pastdue, everyRankedScreen()[2].capture, 1);
     writeFile("plotvue.txt", others(502, R"(,"","","","","","","")"));
     session.down();
     EXPECT_EQ(session.file("plotvue1.txt"), "20501\r\n");

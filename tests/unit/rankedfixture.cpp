@@ -102,9 +102,9 @@ std::size_t ThreeEntries::placeOf(int entry) const
     return place;
 }
 
-const std::vector<ThreeEntries>& everyAnalysis()
+const std::vector<ThreeEntries>& everyRankedScreen()
 {
-    static const std::vector<ThreeEntries> analyses = [] {
+    static const std::vector<ThreeEntries> screens = [] {
         const std::array<std::string, 3> pairs{"10001,\"GROUP 1   \"\r\n", "10002,\"GROUP 2   \"\r\n",
                                                "10003,\"GROUP 3   \"\r\n"};
         const std::array<Text, 3> customers{u"Customer: 10001 - CUSTOMER 1", u"Customer: 10002 - CUSTOMER 2",
@@ -148,7 +148,7 @@ const std::vector<ThreeEntries>& everyAnalysis()
              false},
         };
     }();
-    return analyses;
+    return screens;
 }
 
 ProfitScreen::ProfitScreen(TextSpan title, TextSpan figureMark) : CaptureBuilder(4), mark_(figureMark)

@@ -60,10 +60,10 @@ Text atRight(TextSpan text, std::size_t width);
 Text atLeft(TextSpan text, std::size_t width);
 Text hostScreen(const Lines& lines); // just these lines
 
-// A screen of each analysis with three entries.
+// A capture of each ranked screen, with three entries.
 struct ThreeEntries {
     Name list;
-    const RankedScreen& analysis;
+    const RankedScreen& screen;
     Text capture;
     std::array<std::string, 3> keys; // what the chosen-row file holds
     std::array<Text, 3> subjects;    // how subject() begins
@@ -72,7 +72,7 @@ struct ThreeEntries {
     std::size_t placeOf(int entry) const; // in the capture: where entry 1, 2 or 3 begins
     Text before(int entry) const { return capture.substr(0, placeOf(entry)); }
 };
-const std::vector<ThreeEntries>& everyAnalysis();
+const std::vector<ThreeEntries>& everyRankedScreen();
 
 inline constexpr auto nameOfList = [](const auto& tested) { return std::string(tested.param.list); };
 

@@ -1,4 +1,4 @@
-// What the list windows of the ranked analyses have in common: which lines of the capture are read, which
+// What the list windows of the ranked screens have in common: which lines of the capture are read, which
 // entries are listed, and the way in and out.
 #include "rankedfixture.h"
 
@@ -21,7 +21,7 @@ protected:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Every, RankedList, testing::ValuesIn(everyAnalysis()), nameOfList);
+INSTANTIATE_TEST_SUITE_P(Every, RankedList, testing::ValuesIn(everyRankedScreen()), nameOfList);
 
 TEST_P(RankedList, OpensFromTheCaptureOnTheClipboard)
 {
@@ -75,10 +75,10 @@ TEST_P(RankedList, ACaptureCutAnywhereIsNoError)
 {
     const TextSpan whole = GetParam().capture;
     for (std::size_t length = whole.find(u'\r'); length <= whole.size(); ++length) {
-        const RankedFigures screen = readRanked(GetParam().analysis, whole.substr(0, length));
-        EXPECT_TRUE(screen.accepted) << length;
-        for (const RankedGrid& grid : GetParam().analysis.grids)
-            EXPECT_EQ(ranksIn(grid, screen).size(), screen.counts[static_cast<std::size_t>(grid.count)])
+        const RankedFigures figures = readRanked(GetParam().screen, whole.substr(0, length));
+        EXPECT_TRUE(figures.accepted) << length;
+        for (const RankedGrid& grid : GetParam().screen.grids)
+            EXPECT_EQ(ranksIn(grid, figures).size(), figures.counts[static_cast<std::size_t>(grid.count)])
                 << length;
     }
 }
@@ -217,7 +217,7 @@ class RankedControls : public testing::TestWithParam<Windows> {};
 
 TEST_P(RankedControls, AreNamedAndCaptioned)
 {
-    const auto entries = std::ranges::find(everyAnalysis(), GetParam().list, &ThreeEntries::list);
+    const auto entries = std::ranges::find(everyRankedScreen(), GetParam().list, &ThreeEntries::list);
     RankedSession session(GetParam().list, entries->capture, 1);
     EXPECT_EQ(session.controlNames(session.list), GetParam().listControls);
     EXPECT_EQ(session.controlNames(session.drillDown), GetParam().drillDownControls);

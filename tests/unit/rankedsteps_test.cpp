@@ -16,7 +16,7 @@ protected:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Every, RankedSteps, testing::ValuesIn(everyAnalysis()), nameOfList);
+INSTANTIATE_TEST_SUITE_P(Every, RankedSteps, testing::ValuesIn(everyRankedScreen()), nameOfList);
 
 TEST_P(RankedSteps, ARowOpensItsChart)
 {
@@ -119,10 +119,10 @@ TEST_P(RankedSteps, KeepTheDataTypeUntilTheChartIsClosed)
 }
 
 // The grid column of a row is its key, in quotation marks where that is a text.
-std::string keyOfRow(const RankedScreen& analysis, const Texts& row)
+std::string keyOfRow(const RankedScreen& screen, const Texts& row)
 {
     std::string record;
-    for (const KeyPart& part : analysis.key.parts) {
+    for (const KeyPart& part : screen.key.parts) {
         const std::string cell = toUtf8(row.at(static_cast<std::size_t>(part.gridColumn)));
         record += (record.empty() ? "" : ",") + (part.number ? cell : '"' + cell + '"');
     }
@@ -141,11 +141,11 @@ TEST_P(RankedSteps, WalkTheWholeSample)
     EXPECT_GT(rows.size(), 3u);
     for (std::size_t row = 1; row < rows.size(); ++row) {
         session.down();
-        EXPECT_EQ(session.file("plotvue1.txt"), keyOfRow(GetParam().analysis, rows[row]));
+        EXPECT_EQ(session.file("plotvue1.txt"), keyOfRow(GetParam().screen, rows[row]));
     }
     for (std::size_t row = rows.size() - 1; row-- > 0;) {
         session.back();
-        EXPECT_EQ(session.file("plotvue1.txt"), keyOfRow(GetParam().analysis, rows[row]));
+        EXPECT_EQ(session.file("plotvue1.txt"), keyOfRow(GetParam().screen, rows[row]));
     }
 }
 

@@ -2,18 +2,16 @@
 #include "app/recognition.h"
 #include "app/screens.h"
 #include "capture/utf8.h"
+#include "monthlyscreens.h"
+#include "rankedfixture.h"
 #include "support/capturebuilder.h"
 #include "support/session.h"
 #include "support/windows.h"
 
-#include <algorithm>
-#include <cctype>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
+#include <ranges>
 #include <set>
-#include <sstream>
 
 namespace plotvue::test {
 namespace {
@@ -62,30 +60,34 @@ TEST(Screens, RequireTheirOwnMarkers)
     }
 }
 
-// All words of the unit tests, without startup_test.cpp, which lists every screen.
-std::set<std::string> wordsInTests()
+TEST(Screens, HaveASupportedRowEachWithoutAGap)
 {
-    std::set<std::string> words;
-    for (const auto& entry : std::filesystem::directory_iterator(samples.parent_path() / "tests/unit")) {
-        if (entry.path().filename() == "startup_test.cpp")
-            continue;
-        std::ifstream file(entry.path());
-        std::string text{std::istreambuf_iterator(file), {}};
-        std::replace_if(
-            text.begin(), text.end(), [](unsigned char c) { return !std::isalnum(c); }, ' ');
-        std::istringstream split(text);
-        words.insert(std::istream_iterator<std::string>(split), {});
-    }
-    return words;
+    std::map<int, TextSpan> rows;
+    for (const auto& [number, caption] : std::views::transform(screens, &Screen::supported))
+        EXPECT_EQ(rows.emplace(number, caption).first->second, caption);
+    EXPECT_EQ(rows.begin()->first, 1);
+    EXPECT_EQ(rows.rbegin()->first, static_cast<int>(rows.size()));
 }
 
-TEST(Screens, HaveATestEach)
+TEST(Screens, HaveTheNameOfTheListInTheirDrillDown)
 {
-    const std::set<std::string> words = wordsInTests();
+    for (const Screen& screen : screens)
+        if (const auto* ranked = std::get_if<Ranked>(&screen.window)) {
+            EXPECT_EQ(ranked->drillDown->window, std::string(ranked->list->window) + "A");
+            EXPECT_EQ(&ranked->drillDown->screen, ranked->list);
+        }
+}
+
+TEST(Screens, HaveExpectationsInTheTestsOfTheirKind)
+{
+    std::set<Name> expected{"frmQXM21CXS", "frmQXM21SXC"}; // groupcxs_test.cpp, groupsxc_test.cpp
+    for (const ExpectedScreen& screen : monthlyScreens())
+        expected.insert(screen.window);
+    for (const ThreeEntries& screen : everyRankedScreen())
+        expected.insert(screen.list);
     Session session;
     for (const Screen& screen : screens)
-        EXPECT_TRUE(words.contains(std::string(test::windowOf(session.app, screen).name())))
-            << nameOf(screen);
+        EXPECT_TRUE(expected.contains(test::windowOf(session.app, screen).name())) << nameOf(screen);
 }
 
 } // namespace

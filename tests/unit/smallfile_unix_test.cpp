@@ -47,7 +47,7 @@ class SmallFile : public testing::Test {
 protected:
     Session session; // for its directory
 
-    const Text& capture = everyAnalysis()[0].capture;
+    const Text& capture = everyRankedScreen()[0].capture;
 };
 
 constexpr mode_t allRights = 0777;

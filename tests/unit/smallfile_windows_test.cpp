@@ -70,7 +70,7 @@ TEST_F(SmallFile, AFileThatCannotBeWrittenIsARunTimeError)
 
 TEST_F(SmallFile, AFileThatAnotherProgramHasForItselfIsARunTimeError)
 {
-    RankedSession list(m2m, everyAnalysis()[0].capture, 1);
+    RankedSession list(m2m, everyRankedScreen()[0].capture, 1);
     HANDLE other = CreateFileA(listFile, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     list.chooseType(1);
     CloseHandle(other);
