@@ -9,7 +9,7 @@ namespace {
 
 constexpr TextSpan sansSerif = u"MS Sans Serif";
 
-// The captions from the top. A row that several screens share is there once.
+// The captions from the first row to the last. Screens that share a row have the same caption.
 std::vector<TextSpan> supportedScreens()
 {
     std::map<int, TextSpan> rows;

@@ -27,7 +27,7 @@ struct ChartDesign {
     Labels labels = Labels::Months;
     int projection = -1; // number of the series that projects the previous one; -1: none
     // By series, used if several series are shown; SetSeriesLegend overrides them. A series that is shown
-    // alone or has no legend is named after the title at position 1.
+    // alone or has no legend has the title at position 1 as its name.
     std::map<int, TextSpan> legends{};
 
     bool operator==(const ChartDesign&) const = default;
@@ -51,15 +51,15 @@ struct Chart {
     std::map<int, Text> titles{};  // only the positions that were set
     std::optional<int> decimals{}; // of the value axis; absent: as many as its steps need
     std::vector<std::vector<double>> series{};
-    std::vector<Text> labels{};      // of the slots; may be fewer or none, and the last may be blank
-    std::vector<Text> fullLabels{};  // the same without abbreviations, for the read-out; empty: `labels`
-    std::set<int> hidden{};          // series
+    std::vector<Text> labels{};      // of the slots from 0; there may be fewer or none
+    std::vector<Text> fullLabels{};  // the labels in full, for the read-out; empty: as `labels`
+    std::set<int> hidden{};          // the numbers of the series that are not shown
     std::map<int, Text> legends{};   // by series
     std::map<int, Colour> colours{}; // by series
     std::optional<double> axisMin{}, axisMax{};
 
     void SetChartData(const ChartArrayData& data); // replaces the earlier data
-    // 1: small, on top; 2: large; 3: below it; others are not drawn.
+    // Position 1 is small and on top, 2 is large, 3 is below it. Titles at other positions are not drawn.
     void SetTitle(int position, TextSpan text);
     void SetValueDecimals(int count) { decimals = count; }
     void SetSeriesLegend(int number, TextSpan text) { legends[number] = text; }

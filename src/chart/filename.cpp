@@ -61,11 +61,11 @@ Text fileName(TextSpan text)
         }
         const bool unpaired = isHighSurrogate(c) || isLowSurrogate(c);
         const bool blankAgain = c == u' ' && name.ends_with(u' ');
-        const bool hides = c == u'.' && name.empty(); // the file, on Unix
-        if (!unpaired && !blankAgain && !hides && !(c == u' ' && name.empty()))
+        const bool firstDot = c == u'.' && name.empty(); // would hide the file on Unix
+        if (!unpaired && !blankAgain && !firstDot && !(c == u' ' && name.empty()))
             name += c;
     }
-    name.erase(name.find_last_not_of(u" .") + 1); // which Windows cuts off
+    name.erase(name.find_last_not_of(u" .") + 1); // Windows would cut them off
     if (name.empty())
         return Text(programName);
     return isDevice(name) ? Text(programName) + u' ' + name : name;

@@ -11,8 +11,8 @@ std::vector<Text> headingsOf(const Grid& grid);
 // A cell or heading as it is shown: on one line, without control characters and without blanks at its ends.
 Text cellText(TextSpan text);
 
-// The headings and all rows as lines that end in CR LF, of cells separated by tabs. Empty if there are no
-// rows.
+// The headings and all rows as text: cells are separated by tabs, and each line ends in CR LF. Empty if the
+// grid has no rows.
 Text rowsTable(const Grid& grid);
 
 } // namespace plotvue

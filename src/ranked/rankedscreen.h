@@ -22,10 +22,10 @@ struct LineField {
     Position length = toTheEnd; // toTheEnd: up to the line's last character, which is left out
 };
 
-// What is taken from every line that holds the marker; every line holds an empty one.
+// What is taken from every line that holds the marker. An empty marker takes every line.
 struct LineRule {
     TextSpan marker{};
-    bool afterRank = false;                                // lines before the first rank are passed over
+    bool afterRank = false; // the rule leaves out the lines before the first rank
     void (*open)(RankedFigures&, TextSpan line) = nullptr; // makes another entry the current one
     std::vector<LineField> fields{};
     void (*then)(RankedFigures&, TextSpan line) = nullptr; // runs after the fields are taken
@@ -39,7 +39,7 @@ struct GridColumn {
 struct RankedGrid {
     GridBox box;
     std::vector<GridColumn> columns;
-    int count = 0;                         // which of the screen's counts is the number of rows
+    int count = 0;                         // index in RankedFigures::counts, which holds the number of rows
     bool (*lists)(const Entry&) = nullptr; // null: lists every entry
     std::optional<PictureBox> picture{};   // beside the grid
 };
@@ -51,12 +51,12 @@ using EntryLines = std::vector<Text>;
 struct MessageButton {
     Button button;
     TextSpan title{};
-    Text (&text)(const EntryLines&); // a reference, so that the compiler asks for it
+    Text (&text)(const EntryLines&); // a reference, so that it cannot be forgotten
 };
 
 struct RankedScreen {
     Name window;
-    // Of both windows. Kept: spellings of the caption (docs/kept.md).
+    // Of the list and the drill-down window. Kept: spellings of the caption (docs/kept.md).
     TextSpan caption = u"PlotVue";
     std::vector<Item> heading{};               // labels and text boxes above the grids
     std::vector<MessageButton> buttons{};      // of the list window
@@ -65,7 +65,7 @@ struct RankedScreen {
     void (*prepare)(RankedFigures&) = nullptr; // runs before the first line
     std::vector<LineRule> rules;               // tested on every line, in this order
     std::vector<RankedGrid> grids;
-    std::map<Name, Text (*)(const RankedFigures&)> summary{}; // texts of the heading's controls
+    std::map<Name, Text (*)(const RankedFigures&)> summary{}; // by control of the heading: its text
     Key key{};
     int linesAnEntry = 0; // in a record
 };

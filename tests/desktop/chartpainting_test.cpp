@@ -243,7 +243,7 @@ TEST(ChartPainting, HasBarsAtEverySizeThatHasRoomForThem)
         const bool small = size.width() < chart.minimumSizeHint().width() ||
                            size.height() < chart.minimumSizeHint().height();
         EXPECT_TRUE(small || pixelsOf(chart.grab().toImage(), QColor(0x24, 0x58, 0xB0)) > 2000);
-        chart.press(Qt::Key_Home); // the read-out and the frame of the focus
+        chart.press(Qt::Key_Home); // paints the read-out and the frame of the focus, too
         chart.grab();
     }
 }

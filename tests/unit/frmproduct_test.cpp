@@ -1,4 +1,4 @@
-// Where the product window looks for its day, its subject and its rows, which hang on the dash line.
+// Where the product window looks for the day, the product and the rows. The rows follow the dash line.
 #include "capture/number.h"
 #include "support/chartwindow.h"
 
@@ -23,7 +23,7 @@ CaptureBuilder product()
         .put(6, 1, newestSales);
 }
 
-// The same with the dashes in another line, and sales in every line after them: those of line 7 are 7.
+// A product screen with the dashes in this line, and sales in every line after it: 7 in line 7, and so on.
 CaptureBuilder dashedIn(std::size_t line)
 {
     CaptureBuilder capture = CaptureBuilder().put(1, 1, u"QXM31H").put(line, 1, u"-----");
@@ -61,7 +61,7 @@ TEST_F(FrmProduct, TheDayIs16CharactersAfterTheFirstIdentifier)
 
 TEST_F(FrmProduct, TheDayIsCountedOverTheLineEnd)
 {
-    // The identifier's six, CR, LF, and eight more characters.
+    // 16 characters: the identifier's six, CR, LF, and eight of line 2.
     EXPECT_NEAR(toCome(screen.replaceLine(1, u"QXM31H").replaceLine(2, u"PRODUCT:15")), 1000, 1e-9);
 }
 

@@ -87,7 +87,7 @@ TEST_F(Notice, GoesWithTheWindowAndComesBackWithIt)
     EXPECT_EQ(notice("frmProduct"), earlier);
 }
 
-// The capture is recognised, but the window looks for another word, too.
+// Without "QTY", the capture is still recognised, but the window refuses it.
 TEST_F(Notice, NothingChartedYet)
 {
     session.start(blotted(sample("custpack"), u"QTY"));
@@ -135,7 +135,8 @@ TEST_F(Notice, ChosenOptionsThatAreChartedAgain)
     session.choose("frmProduct", "optSales", 1);
     session.copy(otherCopy("product"));
     refreshStartup();
-    EXPECT_EQ(notice("frmProduct"), earlier); // rather than the options, which differ, too
+    // The chosen options are not charted either, but a window has only one notice.
+    EXPECT_EQ(notice("frmProduct"), earlier);
 }
 
 TEST_F(Notice, AnotherTextGoesAlsoWhenThereIsNoScreen)
@@ -149,7 +150,7 @@ TEST_F(Notice, AnotherTextGoesAlsoWhenThereIsNoScreen)
     EXPECT_EQ(notice("startup"), u"");
 }
 
-// The salesman window is left, but charts whatever was copied.
+// Refresh leaves the salesman window when another screen was copied, but charts that screen all the same.
 TEST_F(Notice, AWindowThatChartsWhileItIsHidden)
 {
     session.start(sample("salesman"));
@@ -198,7 +199,7 @@ TEST_F(Notice, AStepThroughTheListChartsTheChosenRow)
     list.click(2);
     list.down();
     EXPECT_EQ(list.notice("frmM2MpftA"), u"");
-    list.click(2); // row 3 is drawn
+    list.click(2); // the chart shows row 3
     EXPECT_EQ(list.notice("frmM2MpftA"), anotherRow);
     list.click(3);
     EXPECT_EQ(list.notice("frmM2MpftA"), u"");
@@ -229,7 +230,7 @@ TEST_F(Notice, TheSameRowOfAnotherCaptureIsAnotherRow)
     RankedSession list("frmVendInv", sample("vendors"), 1);
     list.open(CaptureBuilder(sample("vendors")).put(1, 79, u"*").text());
     list.click(1);
-    EXPECT_EQ(list.notice("frmVendInvA"), u""); // the first line is in no record
+    EXPECT_EQ(list.notice("frmVendInvA"), u""); // no record holds the screen's first line
     CaptureBuilder other(sample("vendors"));
     for (std::size_t line = 1; line < 20; ++line)
         if (other.line(line).starts_with(u"RANK:"))
@@ -258,8 +259,8 @@ TEST_F(Notice, AnotherListReplacesTheFiles)
     EXPECT_EQ(list.notice("frmVendInvA"), replaced);
 }
 
-// The second of two entries has rank 3: row 2 names an entry that no record has, which only a drawing
-// reports.
+// The second of two entries has rank 3, so no record holds the entry of row 2. That is an error only when
+// the row is charted.
 TEST_F(Notice, ARowThatCannotBeFoundIsAnotherRow)
 {
     const auto screens = everyRankedScreen();

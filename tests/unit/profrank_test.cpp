@@ -155,8 +155,8 @@ TEST(RankedProfit, TheLaterComponentLineIsKeptOfTheEntryToo)
 
 TEST(RankedProfit, WithoutAComponentLineTheSecondLineIsShown)
 {
-    // Rank 1 is not on the screen: its row has neither number nor group, and leads to the screen's first
-    // line.
+    // The screen has no rank 1, so the row of rank 1 has neither number nor group. A click on it charts what
+    // is in the first lines of the screen.
     RankedProfitScreen screen;
     screen.add(2, u"50", u"8", u"-3").put(2, 27, u"7").put(2, 39, u"-2").put(2, 50, u" ");
     RankedSession session = opened(screen);

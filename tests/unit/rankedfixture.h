@@ -1,5 +1,5 @@
-// What the tests of the ranked windows share: screens put together line by line, a list opened with one, and
-// what the windows and the small files then hold.
+// What the tests of the ranked windows share: they build a screen line by line, open a list with it and look
+// at what the windows and the small files then hold.
 #pragma once
 
 #include "ranked/profitanalysis.h"
@@ -24,7 +24,7 @@ class RankedSession : public Session {
 public:
     // Opens the list.
     RankedSession(Name listWindow, TextSpan capture);
-    // Opens the list and clicks a row; what happened until then is forgotten.
+    // Opens the list and clicks a row. events() leaves out what happened until then.
     RankedSession(Name listWindow, TextSpan capture, int row, Name grid = firstGrid);
 
     const Name list;
@@ -49,7 +49,7 @@ public:
 Events refusing(Name list);
 Events endOfList(std::string_view drillDown);
 
-// Whether the last event is a run-time error, said in a sentence with these words, and the process is over.
+// Whether the last event is a run-time error whose sentence contains these words, and the process is over.
 testing::AssertionResult failed(Session& session, std::string_view words);
 
 void writeFile(const char* file, std::string_view bytes);
@@ -67,7 +67,7 @@ struct ThreeEntries {
     Text capture;
     std::array<std::string, 3> keys; // what the chosen-row file holds
     std::array<Text, 3> subjects;    // how subject() begins
-    bool hasTypes;                   // of data, to choose from
+    bool hasTypes;                   // whether the drill-down window has an option group of data types
 
     std::size_t placeOf(int entry) const; // in the capture: where entry 1, 2 or 3 begins
     Text before(int entry) const { return capture.substr(0, placeOf(entry)); }
@@ -82,15 +82,15 @@ inline constexpr auto nameOfList = [](const auto& tested) { return std::string(t
 inline constexpr Name m2m = "frmM2Mpft", profRank = "frmProfRank";
 inline constexpr int labelLine = 3, totalsLine = 4, firstEntryLine = 5, linesAnEntry = 5;
 
-// A screen with a page of headings and a block of five lines an entry. Entry r is customer 10000 + r,
-// "CUSTOMER r", group "GROUP r", and sells 10 * r + k in month k, 1000 more by volume, 2000 more by profit.
+// A screen with one page heading, then five lines for each entry. Entry r is customer 10000 + r, "CUSTOMER
+// r", group "GROUP r". In month k its sales are 10 * r + k, its volume is 1000 more, its profit 2000 more.
 class ProfitScreen : public CaptureBuilder {
 public:
     ProfitScreen(TextSpan title, TextSpan figureMark);
 
     ProfitScreen& add(int rank, TextSpan figure, TextSpan volumePart = u"", TextSpan marginPart = u"");
 
-    // Of the entry that was added as `number`, from 1.
+    // The first line of the entry that was added as `number`. Entries count from 1.
     static std::size_t lineOf(int number);
 
 private:

@@ -193,7 +193,7 @@ TEST_P(RankedHundred, AreListed)
 TEST_P(RankedHundred, AndOneMoreAreARunTimeError)
 {
     if (GetParam().list == vendors)
-        return; // whose rows are as many as the highest rank
+        return; // its list has as many rows as the highest rank, which is 100 here
     RankedSession session(GetParam().list, capture(101));
     EXPECT_TRUE(
         failed(session, "A rank on the screen is outside 1 to 100, which is all that can be listed."));

@@ -109,9 +109,9 @@ std::vector<std::string> sampleNames()
     return names;
 }
 
-// The lines that hold totals, and the month in progress of a screen that leaves it out.
+// Lines that no window shows: totals, and the month in progress of the screen whose window leaves it out.
 const std::regex leftOut("^(LAST 12 FULL MONTHS|12 MONTHS BEFORE|.*YTD|Mprofit|OCT99   24,759.55)");
-// Ranked profit does not list losses, which come last.
+// The ranked profit window leaves out losses. They are the last lines of its sample.
 const std::regex loss("^P: +-");
 
 class Samples : public testing::TestWithParam<std::string> {};

@@ -15,13 +15,13 @@
 
 namespace {
 
-int closeFailsWith = 0; // errno; 0: it does not fail
+int closeFailsWith = 0; // the error that close() reports; 0: none
 bool nothingIsWritten = false;
 
 } // namespace
 
-// The linker puts this in the place of close(), which tells what a disk with quotas or in the network could
-// not store in the end.
+// The linker replaces close() with this function. A network disk, or one with quotas, may report only when a
+// file is closed that it could not store it.
 extern "C" int __real_close(int descriptor); // NOLINT
 extern "C" int __wrap_close(int descriptor)  // NOLINT
 {
@@ -45,7 +45,7 @@ namespace fs = std::filesystem;
 
 class SmallFile : public testing::Test {
 protected:
-    Session session; // for its directory
+    Session session; // its directory holds the files
 
     const Text& capture = everyRankedScreen()[0].capture;
 };
@@ -145,13 +145,13 @@ TEST_F(SmallFile, APipeIsNotWaitedFor)
 {
     RankedSession writing(m2m, capture);
     mkfifo("plotvue.txt", S_IRUSR | S_IWUSR);
-    writing.click(1); // nobody reads it
+    writing.click(1); // nobody reads the pipe
     EXPECT_TRUE(failed(writing, "The file plotvue.txt in the working directory cannot be created ("));
 
     RankedSession reading(m2m, capture, 1);
     fs::remove("plotvue.txt");
     mkfifo("plotvue.txt", S_IRUSR | S_IWUSR);
-    reading.back(); // nobody writes it
+    reading.back(); // nobody writes to the pipe
     EXPECT_TRUE(failed(reading, "The file plotvue.txt in the working directory ends too early."));
 }
 
