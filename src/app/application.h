@@ -10,7 +10,7 @@ namespace plotvue {
 struct Application {
     explicit Application(Platform& platform);
 
-    void start(); // the start-up window loads
+    void start(); // shows the start-up window
 
     Platform& platform;
     Startup startup;

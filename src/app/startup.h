@@ -12,7 +12,7 @@ class Startup : public Window {
 public:
     explicit Startup(Platform& platform) : Window(platform) {}
 
-    // The window that each screen opens. All of them are needed before this window is first shown.
+    // The window that each screen opens. Every screen must have one here before this window is first shown.
     std::map<const Screen*, Window*> windows;
 
     Name name() const override { return "startup"; }

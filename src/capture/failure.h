@@ -43,7 +43,7 @@ decltype(auto) nameFailedLine(TextSpan capture, Read read)
     }
 }
 
-// Thrown where the reader of a monthly screen would never return: the text ended before it had its lines.
+// Thrown where the reader of a monthly screen would wait for more lines for ever: the text has too few.
 struct TooFewLines {
     int lines = 0; // of the text, without the empty ones
 };

@@ -59,7 +59,7 @@ void ScreenLines::requireAll() const
     if (!ranOut_)
         return;
     int lines = 0;
-    bool ended = true; // text after the last line end is one line, into however many pieces it was cut
+    bool ended = true; // the pieces after the last line end are one line
     for (int i = 1; i <= count_ && ended; ++i) {
         const TextSpan line = lines_[static_cast<std::size_t>(i)];
         ended = line.ends_with(carriageReturn);

@@ -22,8 +22,8 @@ public:
     TextSpan operator[](Position number) const;
 
     // The number of the line that underlines the column headings, 2 to 20; 0 when there is none. After each
-    // line is cut, "-----" is searched at the positions 1 to 29 of the rest of the text; where it is found,
-    // the next line is the one. The last find counts.
+    // line is cut, "-----" is searched at the positions 1 to 29 of the rest of the text. If it is found
+    // there, the next line is the dash line. If it is found several times, the last find counts.
     int dashLine() const { return dashLine_; }
 
     // Throws TooFewLines when nothing is left of the text after line 19 or an earlier one.

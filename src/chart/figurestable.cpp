@@ -10,7 +10,7 @@ namespace plotvue {
 
 namespace {
 
-// A figure as it was read from the screen: PlotData limits figures so that their sums can be drawn.
+// A figure as it was read from the screen. PlotData's would be wrong here: it clamps large figures.
 Text cell(const std::vector<double>& figures, std::size_t point, char16_t decimalSign)
 {
     if (point >= figures.size() || !std::isfinite(figures[point]))

@@ -5,10 +5,10 @@
 
 namespace plotvue {
 
-// Lines that end in CR LF, of cells separated by tabs: a heading with the names of the series, then a line
-// per point with its full label and a figure of each series, as plainNumber() writes it but with
-// `decimalSign` as the point. A cell is empty if the series has no finite figure there. Series that compare
-// components are one line. Empty if no series is shown.
+// The figures as text: cells are separated by tabs, and each line ends in CR LF. After a heading with the
+// names of the series, there is a line for each point with its full label and a figure of each series, as
+// plainNumber() writes it but with `decimalSign` as the point. A cell is empty if the series has no finite
+// figure there. Components are in one line. The text is empty if no series is shown.
 Text figuresTable(const PlotData& data, char16_t decimalSign);
 
 } // namespace plotvue

@@ -9,8 +9,8 @@ namespace plotvue {
 
 namespace {
 
-constexpr std::size_t longestName =
-    80; // with three bytes a character, well below the usual limit of 255 bytes
+// In characters of up to three bytes each: well below the usual limit of 255 bytes.
+constexpr std::size_t longestName = 80;
 constexpr TextSpan programName = u"PlotVue";
 
 bool isHighSurrogate(char16_t c)
@@ -23,7 +23,7 @@ bool isLowSurrogate(char16_t c)
     return c >= 0xDC00 && c < 0xE000;
 }
 
-// A character that a file name can hold in the place of `c`.
+// The character to write in place of `c`: `c` itself, if a file name may hold it.
 char16_t replaced(char16_t c)
 {
     if (c == u'/' || c == u'\\')
@@ -31,7 +31,7 @@ char16_t replaced(char16_t c)
     return TextSpan(u":*?\"<>|").find(c) == TextSpan::npos ? c : u' ';
 }
 
-// Windows takes these names for devices, whatever extension follows and in capitals or not.
+// Windows takes these names for devices: with any extension, in capital or small letters.
 bool isDevice(TextSpan name)
 {
     constexpr std::array<TextSpan, 6> devices{u"CON", u"PRN", u"AUX", u"NUL", u"CONIN$", u"CONOUT$"};

@@ -60,7 +60,7 @@ struct Tick {
 struct SlotLabel {
     int slot = 0;
     Line name;
-    bool strong = true; // false: in a chart of whole years, a month other than January
+    bool strong = true; // false for the months other than January in a chart of whole years
     bool operator==(const SlotLabel&) const = default;
 };
 struct Bar {

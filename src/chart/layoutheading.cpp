@@ -60,7 +60,7 @@ double placeLegend(const LayoutInput& input, Layout& layout, const Rect& inner, 
         if (name.empty())
             continue;
         const double width = input.width(name);
-        if (left + beforeName + width > inner.right()) { // never for the first entry of a line
+        if (left + beforeName + width > inner.right()) { // never true for the first name of a line
             left = inner.left;
             top += em * 1.25;
         }

@@ -10,14 +10,14 @@ namespace plotvue {
 
 namespace {
 
-// Opens the menu, because the toolkit would wait until it is closed: meanwhile assistive technology can close
-// the window, and with it would go the menu that is waited for.
+// Opens the menu and returns at once. The toolkit would wait until the menu is closed; if assistive
+// technology closed the window meanwhile, the menu would be destroyed during that wait.
 class Opener : public QObject {
 public:
     explicit Opener(QWidget& widget) : QObject(&widget), widget_(widget)
     {
         widget.setContextMenuPolicy(
-            Qt::ActionsContextMenu); // so that assistive technology is offered the menu
+            Qt::ActionsContextMenu); // tells assistive technology that there is a menu
         widget.installEventFilter(this);
         if (auto* scrolling = qobject_cast<QAbstractScrollArea*>(&widget))
             scrolling->viewport()->installEventFilter(this);
@@ -36,7 +36,7 @@ protected:
     }
 
 private:
-    // The toolkit knows the Menu key, and on some systems also this one.
+    // The toolkit opens the menu on the Menu key everywhere, but on Shift+F10 only on some systems.
     static bool isMenuKey(const QKeyEvent& event)
     {
         return event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier;
@@ -53,7 +53,7 @@ private:
     }
 
     QWidget& widget_;
-    QPointer<QMenu> menu_; // while it is open
+    QPointer<QMenu> menu_; // null while it is closed
 };
 
 } // namespace
@@ -62,7 +62,7 @@ QAction* addToContextMenu(QWidget& widget, const QString& text, const QList<QKey
                           Qt::ShortcutContext keysIn, const std::function<void()>& triggered)
 {
     if (widget.actions().isEmpty())
-        new Opener(widget); // which the widget owns
+        new Opener(widget); // the widget owns it
     auto* action = new QAction(text, &widget);
     action->setShortcuts(keys);
     action->setShortcutContext(keysIn);

@@ -60,7 +60,7 @@ protected:
         try {
             putOnClipboard(toText(text()), readClipboard());
         } catch (const Failure&) {
-            // The box stays; another one about the clipboard would not help.
+            // Nothing is said: the box is still open, and Ctrl+C can be pressed again.
         }
     }
 };
@@ -179,7 +179,7 @@ void DesktopPlatform::leave(int status)
     std::fflush(nullptr);
     if (!clipboardNeedsHandover())
         endProcess(status);
-    // Queued, because a process that is still starting has no event loop yet that could be left.
+    // Queued, because while the process starts, its event loop does not run yet, and exit() would do nothing.
     QMetaObject::invokeMethod(
         qApp, [status] { QCoreApplication::exit(status); }, Qt::QueuedConnection);
 }

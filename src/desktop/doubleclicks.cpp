@@ -36,7 +36,7 @@ bool DoubleClicks::follows(const QMouseEvent& press) const
 
 bool DoubleClicks::eventFilter(QObject* receiver, QEvent* event)
 {
-    if (!receiver->isWindowType()) // the widgets get an event after their window
+    if (!receiver->isWindowType()) // every event reaches the window first, then its widgets
         return false;
     switch (event->type()) {
     case QEvent::MouseButtonPress:

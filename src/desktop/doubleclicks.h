@@ -25,12 +25,12 @@ private:
     bool drops(QObject& window, const QMouseEvent& press);
     bool follows(const QMouseEvent& press) const;
 
-    // The last press.
+    // Of the last press.
     QPointer<QObject> window_;
     QPointF place_; // on the screen
     quint64 time_ = 0;
     Qt::MouseButton button_ = Qt::NoButton;  // none if the press was dropped
-    Qt::MouseButton dropped_ = Qt::NoButton; // of a press that was dropped, until its release
+    Qt::MouseButton dropped_ = Qt::NoButton; // of a dropped press whose release is still to be dropped
 };
 
 } // namespace plotvue

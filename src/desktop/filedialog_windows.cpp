@@ -6,10 +6,10 @@ namespace plotvue {
 
 namespace {
 
-// While it exists, the user's part of the registry is an empty key in which nobody can create another: a key
-// that is not volatile must not be in a volatile one. The toolkit cannot be told to use another place. It
-// uses its settings only while it constructs and destroys a dialog; the rest of the time the system's dialog
-// needs the registry.
+// While an object of this class exists, the process sees an empty key in place of the user's part of the
+// registry, so the toolkit finds no settings. It cannot write any either: the empty key is volatile, and
+// Windows creates no lasting key in a volatile one. Such an object exists only while the toolkit constructs
+// or destroys a dialog, because the system's dialog needs the registry while it is open.
 class WithoutSettings {
 public:
     WithoutSettings()

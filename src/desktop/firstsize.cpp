@@ -24,7 +24,7 @@ QMargins expectedFrame(const WindowWidget& window)
 
 QRect withFrame(const WindowWidget& window)
 {
-    // Not the widget's own figure, which may be older than the frame.
+    // frameGeometry() may not know the current frame yet.
     return window.geometry().marginsAdded(window.windowHandle()->frameMargins());
 }
 
@@ -36,8 +36,8 @@ void fitToScreen(WindowWidget& window)
     if (window.windowState() != Qt::WindowNoState || excess.isNull())
         return;
     window.resize(window.size() - excess);
-    // Where it was placed, the smaller window may still extend beyond an edge. Its title bar matters most, if
-    // its minimum size is larger than the screen.
+    // The smaller window may still extend beyond an edge. If it cannot be made small enough for the screen,
+    // its title bar must be visible.
     const QRect frame = withFrame(window);
     window.move(qMax(room.left(), qMin(frame.left(), room.right() + 1 - frame.width())),
                 qMax(room.top(), qMin(frame.top(), room.bottom() + 1 - frame.height())));

@@ -29,8 +29,8 @@ public:
         const auto* heading = qstyleoption_cast<const QStyleOptionHeader*>(option);
         if (element != CE_Header || !heading)
             return QProxyStyle::drawControl(element, option, painter, widget);
-        // Draw the section and the label separately. CE_Header replaces the painter's clip region, and a
-        // printed heading would extend beyond the visible part of the table.
+        // CE_Header would replace the painter's clip region, so that printed headings extend beyond the
+        // visible part of the table. Therefore the section and the label are drawn separately.
         painter->save();
         painter->setClipRect(heading->rect, Qt::IntersectClip);
         QProxyStyle::drawControl(CE_HeaderSection, option, painter, widget);

@@ -27,8 +27,8 @@ protected:
 
 private:
     void showNotice(const QString& text);
-    // A height that depends on the width would make the size of the whole window do so. Instead, the line
-    // sets its own height when its width changes.
+    // Sets the height for the current width. If a layout knew that the height depends on the width, the size
+    // of the whole window would depend on it, too.
     void fitHeight();
 
     QString text_;

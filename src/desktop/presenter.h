@@ -18,13 +18,13 @@ class Presenter : public QObject {
     Q_OBJECT
 
 public:
-    // The last position of each window, at which it reappears even if it was built again.
+    // The last position of each window. It reappears there, even if it was built again.
     std::map<Name, QPoint> places;
 
     void enter(DesktopWindow& window) { windows_.push_back(&window); }
     void leave(DesktopWindow& window) { std::erase(windows_, &window); }
 
-    void settleLater(); // on return to the event loop
+    void settleLater(); // settles on return to the event loop
     void settle();
 
 private:

@@ -43,8 +43,8 @@ fs::path programFolder()
     return fs::path(name.c_str()).parent_path();
 }
 
-// Takes a start in the installation folder for one from the menu. The menu entry uses that folder, and nobody
-// else has a reason to.
+// Whether the process was started in the installation folder. The menu entry does that; nobody else has a
+// reason to.
 bool startedFromMenu()
 {
     std::error_code none;
@@ -54,7 +54,7 @@ bool startedFromMenu()
 
 void sweepFolders(const fs::path& all)
 {
-    std::error_code none, failed; // increment() tells a failure; the ++ of a loop would throw it
+    std::error_code none, failed; // increment() returns an error; ++ would throw it
     for (fs::directory_iterator at(all, failed), end; !failed && at != end; at.increment(failed))
         if (Folder left{at->path()}; at->is_directory(none) && left.take())
             left.sweep();

@@ -71,7 +71,7 @@ QString ask(QWidget& window, const QString& name, const QString& folder)
     return path;
 }
 
-// Goes on where only a part was written, because only the next attempt tells the reason.
+// Writes the rest after a part was written, because only the next attempt tells why it was a part.
 bool writeAll(QSaveFile& file, const QByteArray& bytes)
 {
     for (qint64 done = 0, more = 0; done < bytes.size(); done += more) {

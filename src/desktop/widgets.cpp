@@ -64,7 +64,7 @@ private:
     Controls& controls_;
     WindowWidget& window_;
     Menus& menus_;
-    Qt::ShortcutContext menuKeys_; // where there is only one to copy, the keys need not know which
+    Qt::ShortcutContext menuKeys_; // the whole window if it has only one chart or list
     std::map<Name, OptionButtons*> options_;
 };
 

@@ -4,7 +4,7 @@
 
 namespace plotvue {
 
-// The child widgets refer to the controls, so they go first.
+// The child widgets refer to the controls, so they are destroyed before them.
 WindowWidget::~WindowWidget()
 {
     qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));

@@ -45,7 +45,7 @@ Text RecordReader::next()
     const std::size_t start = isQuoted ? at_ + 1 : at_;
     const std::size_t end = nextOf(isQuoted ? "\"" : ",\r\n", start);
     at_ = nextOf(",\r\n", end);
-    // A comma is skipped here, a line end before the next field is read.
+    // Only a comma must be skipped now: the next call skips a line end.
     if (bytes_[at_] == ',')
         ++at_;
     return fromUtf8(std::string_view(bytes_).substr(start, end - start));

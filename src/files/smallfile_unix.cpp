@@ -27,9 +27,9 @@ void writeSmallFile(const char* file, const std::string& bytes)
     const int descriptor = open(file, O_WRONLY | O_CREAT | O_TRUNC | atOnce, ownerOnly);
     if (descriptor < 0)
         failFor(file, u"cannot be created");
-    // A file that was there before still has its old rights. They are changed only where it is a file: the
-    // name may be a link to a device. Where they cannot be changed, on another person's file or a disk
-    // without rights, the file can be written all the same.
+    // A file that existed before still has its old rights. Only those of a plain file are changed, because
+    // the name may be a link to a device. A failure is ignored: PlotVue can also write another person's file,
+    // or a file on a disk without rights.
     struct stat found {};
     bool good = fstat(descriptor, &found) == 0;
     if (good && S_ISREG(found.st_mode))
@@ -37,7 +37,7 @@ void writeSmallFile(const char* file, const std::string& bytes)
     for (std::size_t done = 0; good && done < bytes.size();) {
         const ssize_t written = write(descriptor, bytes.data() + done, bytes.size() - done);
         if (written == 0)
-            errno = EIO; // nothing would ever be written
+            errno = EIO; // trying again would never end
         good = written > 0 || (written < 0 && errno == EINTR);
         done += written > 0 ? static_cast<std::size_t>(written) : 0;
     }

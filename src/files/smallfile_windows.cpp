@@ -15,7 +15,7 @@ namespace {
         FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS | FORMAT_MESSAGE_MAX_WIDTH_MASK, nullptr,
         GetLastError(), 0, reason, static_cast<DWORD>(std::size(reason)), nullptr);
     Text sentence(reason, reason + length);
-    sentence.erase(sentence.find_last_not_of(u" .") + 1); // a sentence of PlotVue's goes on after it
+    sentence.erase(sentence.find_last_not_of(u" .") + 1); // PlotVue puts it into its own sentence
     failForFile(file, what, sentence);
 }
 
@@ -87,11 +87,11 @@ File created(const char* name, OwnerOnly& rights)
 {
     SECURITY_ATTRIBUTES attributes{sizeof attributes, rights.descriptor(), FALSE};
     File file(name, GENERIC_WRITE | WRITE_DAC, CREATE_ALWAYS, &attributes);
-    if (file.isOpen()) // a file that was there before still has its old rights
+    if (file.isOpen()) // a file that existed before still has its old rights
         SetKernelObjectSecurity(file.handle(),
                                 DACL_SECURITY_INFORMATION | PROTECTED_DACL_SECURITY_INFORMATION,
                                 rights.descriptor());
-    else if (GetLastError() == ERROR_ACCESS_DENIED) // another person's file, which may be writable
+    else if (GetLastError() == ERROR_ACCESS_DENIED) // perhaps of another person, but writable
         return {name, GENERIC_WRITE, CREATE_ALWAYS, &attributes};
     return file;
 }

@@ -9,7 +9,7 @@ namespace plotvue {
 
 namespace {
 
-// The options by index are the data types, then the groups, then the total.
+// The indexes of the options count the data types, then the groups, then the total.
 // Kept: one option group in two frames, two orders of the figures (docs/kept.md).
 constexpr std::array<TextSpan, valuesPerGroup> typeNames{u"Sales", u"Profit", u"Volume"};
 constexpr int firstGroup = 3;

@@ -101,7 +101,8 @@ struct Piece {
     // Kept: a line end in a text (docs/kept.md).
     bool lineEnd = true;
 
-    TextSpan (*cut)(const ScreenLines&, const DataType&) = nullptr; // returns the piece in place of all this
+    // Returns the piece. If it is set, the members above are not used.
+    TextSpan (*cut)(const ScreenLines&, const DataType&) = nullptr;
 };
 
 struct Period {
@@ -123,7 +124,7 @@ struct MonthlyScreen {
     std::vector<Block> blocks{};
     MonthPlace (*place)(const MonthlyScreen&, const ScreenLines&, int month) = placeInBlocks;
     bool dropCommas = false;
-    // For the label. Is called before the reader can run out of text.
+    // Returns the year for `label`. It is called before the reader checks that the capture has all lines.
     int (*firstYear)(const ScreenLines&) = nullptr;
     MonthLabel (*label)(const MonthRow&, int months, int firstYear) = monthAndYear;
     void (*finish)(std::vector<double>& values) = nullptr; // changes the values when all months are read

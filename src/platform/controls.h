@@ -104,7 +104,7 @@ public:
     Property<Grid>& grid(Name name) { return grids_.at(name); }
     Property<Chart>& chart(Name name) { return charts_.at(name); }
 
-    // One line above the content: the window does not show what was last asked for. Empty: it does.
+    // The notice, one line above the content. Empty: the window shows what was last asked for.
     Property<Text> notice;
 
     // The chosen options of each group, as OptionGroup::chosen.

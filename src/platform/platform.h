@@ -72,7 +72,7 @@ protected:
 private:
     void fail(TextSpan sentence);
 
-    std::optional<Text> clipboard_; // as this event handler has read it
+    std::optional<Text> clipboard_; // as the running event handler has read it
     bool over_ = false;
 };
 

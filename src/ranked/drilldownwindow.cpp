@@ -69,7 +69,7 @@ void DrillDownWindow::shownAgain()
     try {
         isDrawn = chosenRecord() == drawn_;
     } catch (const Failure&) {
-        // The next drawing reports it.
+        // The failure is reported when the user next charts an entry.
     }
     if (isDrawn)
         setNotice({});

@@ -12,13 +12,13 @@ struct DrillDownDesign {
     const RankedScreen& screen;
     struct Limits {
         int draw = 100, step = 100;
-    } limits{}; // the records of the list file that are searched for the entry to draw, or to step from
+    } limits{}; // how many records of the list file are searched for the entry to draw, or to step from
 
     int width = 1000;              // of the window, as Declaration::width
     std::vector<Item> charts;      // side by side
     std::vector<TextSpan> types{}; // captions of the data types by index; empty: no choice
     // Draws the record; `type` is the index of the chosen data type, 0 where there is no choice. A reference,
-    // so that the compiler asks for it.
+    // so that it cannot be forgotten.
     void (&draw)(Controls&, const EntryLines&, int type);
     std::vector<MessageButton> buttons{}; // about the record that was drawn last
 };
@@ -29,7 +29,8 @@ public:
 
     Name name() const override { return design_.window; }
 
-    // Another list has replaced the small files: an open window can no longer draw its own entries.
+    // Must be called when another list has replaced the small files. An open window then shows a notice,
+    // because it can no longer draw its own entries.
     void listReplaced();
 
 protected:

@@ -23,8 +23,8 @@ using To = LineField::To;
 
 constexpr Position previousColumn = 21; // Kept: where the previous profit begins (docs/kept.md).
 
-// The last of the lines 2 to 5 that holds either marker; the second where none does, as when the list has a
-// row for a rank that the screen lacks.
+// The last of the entry's lines 2 to 5 that holds one of the two markers. If none does, line 2: the list may
+// have a row for a rank that the screen lacks.
 TextSpan componentLine(const EntryLines& record)
 {
     TextSpan found = record[2];

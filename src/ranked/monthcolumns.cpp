@@ -14,7 +14,7 @@ double monthFigure(TextSpan line, int month, Position width = columnWidth)
     return leadingNumber(mid(line, 8 * month - 5, width));
 }
 
-// The profit as a percentage of sales, or per hundred of the volume.
+// The profit per hundred of the sales or of the volume.
 double perHundred(TextSpan profitLine, Position profitWidth, TextSpan divisorLine, int month)
 {
     return percentage(monthFigure(divisorLine, month),

@@ -1,5 +1,5 @@
-// What the month-to-month and the ranked profit screen have in common: the same screen but for the line of
-// the figures, and the same windows.
+// What the month-to-month and the ranked profit screen have in common. The screens differ only in the line
+// with the figures of an entry, and their windows are alike.
 #pragma once
 
 #include "ranked/rankedfigures.h"
@@ -20,8 +20,8 @@ void count(RankedFigures& figures, TextSpan line);
 // The grid of the gains or the losses. Kept: a gain of 0 (docs/kept.md).
 RankedGrid grid(Count count, GridBox box, std::optional<PictureBox> picture = {});
 
-// Adds what both have in common: a rule before `own` rules and three after them, the heading, the key. On the
-// "Mprofit" line the territory's previous profit is in `previousColumn` to column 30.
+// Adds to `own` what both screens have in common: the heading, the key, a rule before its own rules and three
+// after them. On the "Mprofit" line, the territory's previous profit is in `previousColumn` to column 30.
 RankedScreen list(RankedScreen own, Position previousColumn);
 
 DrillDownDesign drillDown(Name window, const RankedScreen& screen,

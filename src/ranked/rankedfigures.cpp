@@ -11,7 +11,7 @@ namespace {
 constexpr Position rankColumn = 6;
 constexpr Position rankLength = 3;
 // Kept: lines after the 500th (docs/kept.md).
-constexpr int searchedLines = 1000; // for an entry's first line; empty ones follow the screen's last
+constexpr int searchedLines = 1000; // for an entry's first line; lines after the screen's last are empty
 
 std::vector<TextSpan> cutLines(TextSpan rest, int maxLines)
 {

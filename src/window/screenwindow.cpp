@@ -25,7 +25,7 @@ void ScreenWindow::RefreshChart()
 void ScreenWindow::refuse()
 {
     // Kept: a click that leaves the window (docs/kept.md).
-    const bool clicked = visible(); // while it loads, it is not
+    const bool clicked = visible(); // false while the window loads
     cmdExit_Click();
     if (clicked)
         home_.setNotice(u"The clipboard holds another text now. Press Refresh to chart it.");

@@ -62,7 +62,8 @@ NativeWindow& Window::native() const
 
 void Window::load()
 {
-    if (handlers_.empty()) // once: a handler that is running must stay where it is
+    // Only once: a handler may load its own window again, and must not be replaced while it runs.
+    if (handlers_.empty())
         handlers_ = handlers();
     ControlsOwner& owner = *this;
     controls_ = std::make_shared<Controls>(declare(), owner);

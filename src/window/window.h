@@ -63,7 +63,7 @@ private:
 
     Platform& platform_;
     Handlers handlers_;
-    std::shared_ptr<Controls> controls_; // shared with native_, whose widgets may outlive this form
+    std::shared_ptr<Controls> controls_; // shared with native_, whose widgets may outlive this window
     std::unique_ptr<NativeWindow> native_;
     bool visible_ = false;
     bool hiddenSinceLoading_ = false; // since the last load began

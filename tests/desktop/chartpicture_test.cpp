@@ -29,7 +29,7 @@ TEST(ChartPicture, HasTheBarsOfTheLightScreenOnWhiteOnAnyDesktop)
     int bars = 0;
     for (const Bar& bar : chart.chartLayout().bars) {
         if (chart.plotData().series()[bar.series].projection)
-            continue; // is hatched
+            continue; // a projection is hatched
         const QPoint middle = QPointF(bar.box.centreX(), bar.box.centreY()).toPoint();
         const QRect inside = QRectF(bar.box.left, bar.box.top, bar.box.width, bar.box.height)
                                  .adjusted(2, 3, -2, -2)

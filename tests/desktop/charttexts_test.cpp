@@ -1,4 +1,4 @@
-// Each text of a chart: it is painted in its place and nowhere else, and can be read on any desktop.
+// Each text of a chart is painted in its place and nowhere else, and can be read on light and dark desktops.
 #include "desktop/chart/chartcolours.h"
 #include "desktop/chart/chartpainter.h"
 #include "desktop/chart/qtext.h"
@@ -19,7 +19,7 @@ namespace plotvue {
 namespace {
 
 constexpr int scale = 2;              // pixels of the pictures per unit of the chart
-constexpr double enoughForText = 4.5; // contrast that the Web Content Accessibility Guidelines ask for
+constexpr double enoughForText = 4.5; // contrast that the Web Content Accessibility Guidelines require
 constexpr double overhang = 1.5;      // how far letters may reach beyond their box, in units
 
 double luminance(QRgb colour)
@@ -37,8 +37,8 @@ double contrast(QRgb one, QRgb other)
     return (std::max(a, b) + .05) / (std::min(a, b) + .05);
 }
 
-// The place of a text. A slanted one ends in the middle of the right edge of its box, and comes from the
-// lower left.
+// The area in which a text may be painted. A slanted text rises from the lower left and ends in the middle of
+// the right edge of its box.
 QPolygonF placeOf(const Line& line, bool slanted)
 {
     const QRectF box = toQRectF(line.box).adjusted(-overhang, -overhang, overhang, overhang);
@@ -55,11 +55,11 @@ QPolygonF placeOf(const Line& line, bool slanted)
 }
 
 struct Ink {
-    int inside = 0, outside = 0; // pixels
-    double contrast = 1;         // of its strongest pixel to what is under it
+    int inside = 0, outside = 0; // pixels in the place of the text and elsewhere
+    double contrast = 1;         // of the strongest pixel to what is under it
 };
 
-// What the first picture has and the second has not.
+// The pixels in which the two pictures differ.
 Ink inkOf(const QImage& with, const QImage& without, const QPolygonF& place)
 {
     Ink ink;
@@ -113,7 +113,7 @@ protected:
         EXPECT_GE(ink.contrast, enoughForText);
     }
 
-    // Takes each text away in turn: what is missing then is its ink.
+    // Compares the chart, for each of its texts, with a chart without that text.
     void everyTextCanBeRead() const
     {
         const Layout layout = chart.chartLayout();

@@ -18,7 +18,7 @@ public:
     std::vector<Text> messages;
     std::vector<std::string> endings; // "end", "spin", or the sentence of an error
 
-    // Shows and hides windows now instead of on return to the event loop.
+    // Shows and hides windows now. Without this call, that happens on return to the event loop.
     void settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall); }
 
 protected:

@@ -153,7 +153,7 @@ TEST_F(DesktopWindowTest, ALongCaptionIsShortenedAndIsWholeInTheTooltip)
         QStringLiteral("MOTOR OIL, GREASE & BRAKE FLUID OF ALL VENDORS BUT THOSE OF THE NORTH.");
     ASSERT_EQ(name.size(), 70);
     every.controls->options("opt").change([&](OptionGroup& options) { options.setCaption(6, toText(name)); });
-    for (int layouts = 0; layouts < 2; ++layouts) // of the frame, and of the window around it
+    for (int layouts = 0; layouts < 2; ++layouts) // first of the frame, then of the window around it
         QCoreApplication::processEvents();
     EXPECT_LE(option.parentWidget()->width(), 40 * option.fontMetrics().averageCharWidth());
     EXPECT_LE(option.sizeHint().width(), option.width());
@@ -249,7 +249,7 @@ TEST_F(DesktopWindowTest, IsNoLongerHeardOnceItIsDestroyed)
 {
     QPushButton& button = find<QPushButton>("&Go");
     every.window.reset();
-    button.click(); // the widgets live on until the end of the event
+    button.click(); // the widgets exist until the end of the event
     EXPECT_THAT(ran, ElementsAre());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }

@@ -1,5 +1,5 @@
-// Presses that follow a click too soon, in a window that the click has brought up. The events have the times
-// of a mouse, so that no test waits.
+// Presses that follow a click too soon, in a window that the click has brought up. The tests set the times of
+// the events, so that they need not wait.
 #include "desktop/samplesfixture.h"
 #include "support/windows.h"
 
@@ -21,7 +21,7 @@ protected:
         return widget.isVisible() ? &widget : nullptr;
     }
 
-    // Two windows, one over the other. Clicks on their buttons are noted in `ran`.
+    // Two windows, one over the other. Their buttons write to `ran` what was clicked.
     struct Two {
         Built one, other;
     };
@@ -29,8 +29,8 @@ protected:
 
     static QPushButton& go(const Built& built) { return *built.widget().findChild<QPushButton*>("cmdGo"); }
 
-    // The mouse is at the same place of the screen in all windows, but for `aside`, and over the
-    // middle of the button.
+    // Sends a mouse event over the middle of the button. Its place on the screen is the same for every
+    // window, moved by `aside`.
     void send(QEvent::Type type, const QPushButton& over, QPoint aside = {},
               Qt::MouseButton with = Qt::LeftButton)
     {
@@ -51,7 +51,7 @@ protected:
 
     using Ran = std::vector<std::string>;
 
-    // The system's, in milliseconds and pixels.
+    // The settings of the system for double-clicks, in milliseconds and pixels.
     const quint64 interval = quint64(QGuiApplication::styleHints()->mouseDoubleClickInterval());
     const int distance = QGuiApplication::styleHints()->mouseDoubleClickDistance();
     const quint64 soon = interval / 2;
@@ -199,7 +199,7 @@ TEST_F(DoubleClicksTest, OnExitDoNotEndTheProgram)
     EXPECT_EQ(platform.endings, Ran{"end"});
 }
 
-// The box is gone, and with it the window in which the first press was.
+// The first press closes the box. So when the second press comes, the window of the first no longer exists.
 TEST_F(DoubleClicksTest, DoNotReachTheWindowUnderABoxThatTheyClose)
 {
     const Two two = twoWindows();

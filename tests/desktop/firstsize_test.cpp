@@ -56,7 +56,7 @@ protected:
     static void expectEveryPointLabelled(const ChartWidget& chart, const Layout& layout)
     {
         std::set<int> labelled;
-        std::map<double, double> ends; // right ends of the labels so far, by the top of their line
+        std::map<double, double> ends; // where the labels so far end at the right, by the top of their line
         for (const SlotLabel& label : layout.labels) {
             const Rect& box = label.name.box;
             EXPECT_FALSE(label.name.text.empty());
@@ -139,7 +139,7 @@ TEST_P(FirstSize, AlsoWithAFontOf12Points)
     expectWholeForEveryChoice(*window);
 }
 
-TEST_P(FirstSize, AlsoOnAScreenOf960By540) // 1920 by 1080 at 200 %, less the frame
+TEST_P(FirstSize, AlsoOnAScreenOf960By540) // a screen of 1920 by 1080 pixels at 200 %
 {
     WindowWidget* window = opened(sample(GetParam()));
     ASSERT_NE(window, nullptr);
@@ -155,7 +155,7 @@ TEST_P(FirstSize, TheChartsOfEveryRowHaveTheirFigures)
     const auto buttons = window->findChildren<QPushButton*>();
     const auto down = std::ranges::find(buttons, QStringLiteral("Down"), &QPushButton::text);
     if (down == buttons.end())
-        return; // not the window of a row
+        return; // the window has no button Down, so it is no drill-down window
     int rows = 0;
     for (; window && window->isVisible(); ++rows) {
         forEveryChoice(*window, [&] {

@@ -17,12 +17,12 @@ class GridTableTest : public test::DesktopTest {
 protected:
     GridTableTest()
     {
-        every.widget().resize(1000, 1000); // room for all rows
+        every.widget().resize(1000, 1000); // makes room for all rows
         every.widget().activateWindow();
         QCoreApplication::processEvents();
     }
 
-    // Fills so many rows with this name.
+    // Gives the list this number of rows, all with this name.
     void fill(int rows, const Text& name)
     {
         every.controls->grid("Grid1").change([&](Grid& grid) {
@@ -33,10 +33,10 @@ protected:
         QCoreApplication::processEvents();
     }
 
-    // Where the name of a row is shown, in the viewport.
+    // The cell with the name of a row, in viewport coordinates.
     QRect place(int row) const { return table.visualRect(table.model()->index(row, 1)); }
 
-    // How many colours the name of a row is painted with, its background included.
+    // The number of colours in the cell with the name of a row, including the background.
     int colours(int row) const
     {
         const QImage image = table.viewport()->grab(place(row)).toImage();

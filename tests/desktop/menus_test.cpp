@@ -79,17 +79,17 @@ protected:
         });
     }
 
-    // The open context menu; none if there is none.
+    // The open context menu; null if none is open.
     static QMenu* openMenu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
 
     static void press(QWidget& widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         widget.setFocus();
         QKeyEvent event(QEvent::KeyPress, key, modifiers);
-        QApplication::sendEvent(&widget, &event); // also runs the shortcuts of the widget that has the focus
+        QApplication::sendEvent(&widget, &event); // also triggers the shortcuts of the focused widget
     }
 
-    // With LF for CR LF, as the toolkit gives it on Windows.
+    // The clipboard's text, with LF in place of CR LF on every system: on Windows, the toolkit returns it so.
     static QString pasted() { return QGuiApplication::clipboard()->text().replace("\r\n", "\n"); }
 
     const Text screen = u"QXM31H\r\nthe \xD800 screen \n";

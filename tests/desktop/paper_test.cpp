@@ -24,7 +24,7 @@ namespace {
 
 class PaperTest : public test::DesktopTest {
 protected:
-    // The client area on white paper, of which `page` is printed on.
+    // The client area, printed on white paper. `page` is the part of the paper that may be printed on.
     static QImage printedOn(WindowWidget& window, QSize page, QSize paper)
     {
         QImage image(paper, QImage::Format_RGB32);
@@ -78,7 +78,7 @@ TEST_F(PaperTest, IsTheSameForEveryTheme)
     const QPalette light = QApplication::palette();
     const QImage ofLight = printedOn(window, window.size());
     QApplication::setPalette(QPalette(QColor(40, 40, 40), QColor(30, 30, 30)));
-    QCoreApplication::processEvents(); // the widgets are told
+    QCoreApplication::processEvents(); // tells the widgets
     const QImage ofDark = printedOn(window, window.size());
     QApplication::setPalette(light);
     EXPECT_EQ(ofDark.pixelColor(2, 2), QColor(Qt::white));

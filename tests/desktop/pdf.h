@@ -15,7 +15,7 @@ inline QList<QByteArray> objectsOf(const QByteArray& pdf)
         QByteArray object = pdf.mid(at, pdf.indexOf("endobj", at) - at);
         const qsizetype stream = object.indexOf("stream\n") + 7;
         if (object.contains("/FlateDecode") && stream > 7) {
-            const QByteArray size("\0\0\1\0", 4); // which qUncompress() only takes for a beginning
+            const QByteArray size("\0\0\1\0", 4); // only a first guess for qUncompress()
             object = object.left(stream) + qUncompress(size + object.mid(stream));
         }
         objects += object;

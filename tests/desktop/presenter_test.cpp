@@ -158,7 +158,8 @@ TEST_F(PresenterTest, TheClipboardIsReadOncePerEvent)
         copy(u"b");
         EXPECT_EQ(platform.clipboardText(), u"a");
     });
-    platform.run([this] { EXPECT_EQ(platform.clipboardText(), u"b"); }); // the next event may follow at once
+    // The next event may come before the event loop runs again.
+    platform.run([this] { EXPECT_EQ(platform.clipboardText(), u"b"); });
 }
 
 TEST_F(PresenterTest, PicturesOnTheClipboardAreNotText)

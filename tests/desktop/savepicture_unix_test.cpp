@@ -30,7 +30,7 @@ protected:
     SavePicture() : handler_(std::signal(SIGXFSZ, SIG_IGN)) {}
     ~SavePicture() override { std::signal(SIGXFSZ, handler_); }
 
-    // Calls `act` with the next dialog of that class that is open, once it is.
+    // Calls `act` with the next dialog of this class, as soon as it is open.
     template <typename Dialog>
     void once(const std::function<void(Dialog&)>& act)
     {
@@ -44,7 +44,7 @@ protected:
         timer->start(1);
     }
 
-    // Saves the picture, and types this name into the dialog.
+    // Opens the dialog to save the picture, types this name into it and presses Save.
     void saveAs(const QString& name, const QString& filter = {})
     {
         once<QFileDialog>([&](QFileDialog& dialog) {

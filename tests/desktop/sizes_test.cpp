@@ -44,7 +44,7 @@ std::string described(const QWidget& widget)
     return words;
 }
 
-// The minimum size that shows all text of the widget; of a list or table, a few rows.
+// The minimum size in which the widget shows all its text, or a list or table a few rows.
 QSize neededSize(const QWidget& widget)
 {
     if (const auto* label = qobject_cast<const QLabel*>(&widget); label && label->wordWrap())
@@ -80,7 +80,7 @@ void expectFits(const QWidget& widget)
         for (const QWidget* other : children)
             EXPECT_TRUE(other == child || !other->geometry().intersects(child->geometry()))
                 << "is overlapped by " << described(*other);
-        // A scroll area arranges its children itself, some of them outside the viewport.
+        // A scroll area arranges its children itself, and some may be outside the viewport.
         if (!qobject_cast<const QAbstractScrollArea*>(child))
             expectFits(*child);
     }
@@ -106,7 +106,8 @@ protected:
             const QSize minimum = window->minimumSize();
             EXPECT_LE(minimum.width(), screen.width());
             EXPECT_LE(minimum.height(), screen.height());
-            // Otherwise a list loses a line to a wrapped label. On Windows the window grows instead.
+            // If the minimum height were smaller, a wrapped label would take the space of a line of a list;
+            // on Windows, the window would grow.
             EXPECT_GE(minimum.height(), window->layout()->totalMinimumHeightForWidth(minimum.width()));
             for (const QSize size : {minimum, screen, roomy})
                 expectFits(*window, size);

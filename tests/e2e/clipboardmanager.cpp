@@ -1,5 +1,5 @@
 // plotvue-clipboardmanager FILE FORMAT: a clipboard manager. When the owner of the X11 clipboard asks it to
-// take over, it writes what the owner holds in that format to the file, says so and ends.
+// take over, it writes the owner's content in FORMAT to FILE, tells the owner that it has done so, and ends.
 #include <cstdlib>
 #include <fstream>
 #include <iostream>

@@ -1,7 +1,7 @@
 // plotvue-sessionmanager: the session manager of an X desktop, for one program. It prints its address, which
-// the program needs as SESSION_MANAGER. When it reads "local", "global" or "both", the session ends: it has
-// the program save that much, prints in which cases the program wants to be started again (3: never), and
-// tells it to end.
+// the program needs as SESSION_MANAGER. When it reads "local", "global" or "both", it ends the session: it
+// asks the program for this kind of save, prints the program's restart hint (3: never restart) and tells the
+// program to end.
 #include <X11/SM/SMlib.h>
 #include <cstdlib>
 #include <iostream>
@@ -15,7 +15,7 @@
 namespace {
 
 SmsConn program = nullptr;
-int restart = -1; // none was named
+int restart = -1; // the program's restart hint; -1: it has given none
 
 Status registerProgram(SmsConn connection, SmPointer, char* previous)
 {
@@ -63,10 +63,10 @@ Status welcome(SmsConn, SmPointer, unsigned long* answered, SmsCallbacks* callba
 
 int everyone(char*)
 {
-    return 1; // may connect
+    return 1; // 1: this client may connect
 }
 
-// Waits until one of the files can be read; returns which.
+// Waits until one of the files can be read, and returns that file.
 int readable(const std::vector<int>& files)
 {
     std::vector<pollfd> waiting;

@@ -1,7 +1,8 @@
-// plotvue-owner FILE [PIECES [FORMAT...]]: a well-behaved owner of the X11 clipboard, which holds the file's
-// bytes in each of the formats, or as UTF8_STRING. It stops itself, as a debugger or a suspended session
-// would, after that many pieces of its first long answer, with 0 before its first answer; when it is made to
-// go on, it goes on. It writes "held" when the clipboard is its own, and ends when another program takes it.
+// plotvue-owner FILE [PIECES [FORMAT...]]: a well-behaved owner of the X11 clipboard. It offers the bytes of
+// the file in each of the formats, or as UTF8_STRING if none is given. A long answer goes in pieces: after
+// PIECES of the first one, the program stops itself with SIGSTOP, as if it hung; with 0, it stops before its
+// first answer. SIGCONT lets it go on. It writes "held" when it owns the clipboard, and ends when another
+// program takes it.
 #include <algorithm>
 #include <csignal>
 #include <cstdlib>
@@ -50,7 +51,7 @@ public:
     {
         while (const std::unique_ptr<xcb_generic_event_t, void (*)(void*)> event{xcb_wait_for_event(display_),
                                                                                  &std::free}) {
-            const int type = event->response_type & 0x7f; // 0: an error, such as an asker that has gone
+            const int type = event->response_type & 0x7f; // 0: an error, perhaps the asker has gone
             if (type == XCB_SELECTION_REQUEST)
                 answer(*reinterpret_cast<xcb_selection_request_event_t*>(event.get()));
             else if (type == XCB_PROPERTY_NOTIFY)
@@ -110,7 +111,7 @@ private:
         }
     }
 
-    // The asker has taken a piece: the next one; an empty one is the end.
+    // Sends the next piece, after the asker has taken one. An empty piece tells it that there are no more.
     void goOn(const xcb_property_notify_event_t& taken)
     {
         const auto transfer = sent_.find({taken.window, taken.atom});
@@ -135,9 +136,9 @@ private:
 
     struct Transfer {
         xcb_atom_t type;
-        std::size_t sent; // bytes
+        std::size_t sent; // in bytes
     };
-    std::map<std::pair<xcb_window_t, xcb_atom_t>, Transfer> sent_; // by asker and its property
+    std::map<std::pair<xcb_window_t, xcb_atom_t>, Transfer> sent_; // by window and property of the asker
 };
 
 } // namespace
@@ -157,7 +158,7 @@ int main(int argc, char** argv)
     Owner owner(display, text.str(), argc > 2 ? std::atoi(argv[2]) : never, formats);
     if (!owner.holdsTheClipboard())
         return EXIT_FAILURE;
-    std::cout << "held" << std::endl; // at once: a test waits for it
+    std::cout << "held" << std::endl; // flushed, because a test waits for it
     owner.serve();
     xcb_disconnect(display);
     return EXIT_SUCCESS;

@@ -29,7 +29,7 @@ protected:
     void waitForMoreLines(int) override {}
     void finish() override {}
     void printWindow(NativeWindow& window) override;
-    void copyText(TextSpan) override {} // the clipboard keeps the captured screen
+    void copyText(TextSpan) override {} // as on the desktop, the captured screen remains the clipboard's text
 };
 
 } // namespace plotvue

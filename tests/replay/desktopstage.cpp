@@ -41,11 +41,11 @@ protected:
 
 class DesktopStage : public Stage {
 public:
-    // Several stages may follow each other with one application.
+    // Uses the QApplication that exists, or creates one: several stages may follow each other in one process.
     DesktopStage(int& argc, char** argv)
         : application_(QApplication::instance() ? nullptr : std::make_unique<QApplication>(argc, argv))
     {
-        QLocale::setDefault(QLocale::c()); // which writes the decimal point as the platform in memory does
+        QLocale::setDefault(QLocale::c()); // the platform in memory writes a decimal point, too
     }
 
     Platform& platform() override { return platform_; }
@@ -64,7 +64,7 @@ public:
     {
         platform_.settle();
         QApplication::processEvents();
-        // Without a running event loop, retired windows are deleted only by this call.
+        // Deletes retired windows. No running event loop does so here.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
@@ -76,7 +76,7 @@ public:
     void copy(const Window& window, Name chartOrGrid) override { copyFromWidget(window, chartOrGrid); }
 
 private:
-    std::unique_ptr<QApplication> application_; // before the platform, which needs it
+    std::unique_ptr<QApplication> application_; // must exist before platform_
     AnsweringDesktop platform_;
 };
 

@@ -54,7 +54,7 @@ std::vector<QRadioButton*> buttonsOf(const Window& window, Name group)
     return buttons;
 }
 
-// `value` if the widget displays `toBeShown`, the form of `value` for display; otherwise the displayed text.
+// `value` if the widget displays it correctly, that is as `toBeShown`; otherwise the displayed text.
 Text seen(const Text& value, const QString& toBeShown, const QString& shownText)
 {
     return shownText == toBeShown ? value : toText(shownText);
@@ -127,7 +127,7 @@ void lookAt(Grid& grid, const Window& window, Name name)
         }
 }
 
-// Leaves the chart empty if the widget's drawing differs from that of a new widget with the same chart.
+// Empties the chart if the widget shows another chart, or arranges it differently than a new widget would.
 void lookAt(Chart& chart, const Window& window, Name name)
 {
     const auto& widget = widgetOf<ChartWidget>(window, name);
@@ -180,7 +180,7 @@ void closeWidget(const Window& window)
 
 void copyFromWidget(const Window& window, Name chartOrGrid)
 {
-    // A chart can also copy its picture.
+    // By name, because a chart also has an action that copies its picture.
     const QList<QAction*> actions = widgetOf<QWidget>(window, chartOrGrid).actions();
     for (QAction* action : actions)
         if (action->objectName() == QLatin1String("copyText"))

@@ -1,4 +1,4 @@
-// Reads and operates the widgets of a form.
+// Reads and operates the widgets of a window.
 #pragma once
 
 #include "replay/seen.h"

@@ -101,7 +101,7 @@ Lines wrongFields(Random& random, const Lines& lines)
     Lines others = lines;
     for (std::size_t left = random.between(1, 7); left > 0; --left) {
         std::string& line = others[random.below(others.size())];
-        std::vector<std::pair<std::size_t, std::size_t>> fields; // begin, end
+        std::vector<std::pair<std::size_t, std::size_t>> fields; // where each begins and ends
         for (std::size_t end = 0, begin;
              (begin = line.find_first_not_of(blanks, end)) != std::string::npos;) {
             end = std::min(line.find_first_of(blanks, begin), line.size());
@@ -142,7 +142,7 @@ Lines farDown(Random& random, const Lines& lines)
     return others;
 }
 
-// Mends bare line feeds, as the desktop platform does and the platform in memory does not.
+// Replaces bare line feeds with CR LF. Only the desktop platform does so itself, and both must show the same.
 std::string withLineEndsMended(const std::string& text)
 {
     std::string mended;
@@ -176,7 +176,7 @@ const std::vector<Capture>& wholeCaptures()
 
 std::string damaged(Random& random, const std::string& capture)
 {
-    // Wrong fields get further into the program, so they occur twice as often.
+    // Captures with wrong fields are not refused early, so they occur twice as often.
     static const std::vector<Lines (*)(Random&, const Lines&)> damages{
         cut,         fewLines,    shuffled,   withoutSome,        doubled, blankLines, randomBytes,
         wrongFields, wrongFields, shortLines, anotherScreenAfter, farDown};

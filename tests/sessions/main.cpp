@@ -26,7 +26,7 @@ void prepare()
 
 std::unique_ptr<replay::Stage> desktopStage()
 {
-    int none = 0; // the QApplication exists already
+    int none = 0; // no arguments: the QApplication exists already
     return replay::desktopStage(none, nullptr);
 }
 
@@ -69,8 +69,8 @@ std::string session(std::uint32_t seed, std::uint32_t number, int steps, bool bo
     return walk.end();
 }
 
-// Plays the sessions from `first` to `last` - 1, and each `every`th one on both platforms (0: none), until
-// one fails. Prints the number of sessions by their end.
+// Plays the sessions from `first` to `last` - 1 in memory, until one fails; plays the sessions whose number
+// `every` divides also on the desktop (0: none). Prints how many sessions ended in each way.
 int sessions(std::uint32_t seed, std::uint32_t first, std::uint32_t last, std::uint32_t every, int steps)
 {
     std::map<std::string, int> ends;
@@ -88,8 +88,8 @@ int sessions(std::uint32_t seed, std::uint32_t first, std::uint32_t last, std::u
     return status;
 }
 
-// Plays many actions in one session on the desktop. The growth counts from the first fifth of the actions to
-// the end; by then every window has been open.
+// Plays many actions in one session on the desktop, and measures how much memory and how many descriptors it
+// takes in the last four fifths of them. In the first fifth, every window has been open.
 int soak(std::uint32_t seed, int actions, double maxMegabytes)
 {
     constexpr int parts = 10;

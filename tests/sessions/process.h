@@ -15,7 +15,7 @@ struct Held {
 
 Held held();
 
-// The part of the text that this system's clipboard can hold.
+// The text, up to the first character that this system's clipboard cannot hold.
 std::string asClipboardHolds(std::string text);
 
 } // namespace plotvue::sessions

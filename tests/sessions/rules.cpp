@@ -45,28 +45,29 @@ std::vector<EntryLines> listed(std::size_t lines)
     }
 }
 
-// Whether Back (or Down) in the drill-down window must say that the list ends: the chosen row is the first
-// (or the last) one. Down also says so if it does not find the row in the list file.
+// Whether the drill-down window must say that the list ends, when the user presses Down or Back. It must if
+// the chosen row is the last (Down) or the first (Back), and on Down also if the list file does not hold the
+// row.
 bool listEnds(const DrillDownDesign& design, bool down)
 {
     const Key& key = design.screen.key;
     std::optional<KeyValues> chosen;
     try {
         chosen = readChosenRow(key);
-        const auto lines = static_cast<std::size_t>(design.screen.linesAnEntry) + 1; // with the months
+        const auto lines = static_cast<std::size_t>(design.screen.linesAnEntry) + 1; // and the months
         const std::vector<EntryLines> entries = listed(lines);
         const auto found = std::find_if(entries.begin(), entries.end(), [&](const EntryLines& entry) {
             return entry[1].starts_with(key.recordStart) && hasKey(entry[1], key, *chosen);
         });
-        // The last of the entries that are searched counts as found.
+        // If the search reaches its limit, the last entry that it has read counts as found.
         const auto place = std::min(found - entries.begin(), std::ptrdiff_t{design.limits.step} - 1);
         const auto count = static_cast<std::ptrdiff_t>(entries.size());
         if (place < count)
             return down ? place == count - 1 : place == 0;
     } catch (const Failure&) {
-        // A number that no double can hold.
+        // A number in a file does not fit into a double.
     }
-    return down && chosen; // otherwise an error is due
+    return down && chosen; // in all other cases an error must be reported
 }
 
 std::string withoutNotice(const std::string& dump)
@@ -110,7 +111,7 @@ std::string Walk::dumped(const std::string& window)
     return out_.str().substr(static_cast<std::size_t>(before));
 }
 
-// The walk is played in memory, where no widget needs to hear of a change.
+// Takes over `changed` of the chart. In memory, nothing else uses it.
 void Walk::watch(const std::string& window)
 {
     if (manner_.careful)
@@ -200,7 +201,7 @@ void Walk::backThenDownIsTheSame(const std::string& window, const std::string& c
     const std::string before = dumped(chart);
     play("click " + chart + " cmdBack");
     if (over() || !isVisible(chart))
-        return; // the end of the list
+        return; // the list has ended
     if (dumped(chart) == before)
         throw Wrong("Back does not change the record: " + before);
     play("click " + chart + " cmdNext");

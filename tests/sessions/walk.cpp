@@ -166,7 +166,7 @@ void Walk::use(const std::string& window)
         return random_.inPercent(50) ? twiceRefreshedIsTheSame(window) : shownAgainIsTheSame(window);
     std::vector<Offer> all = offers(window);
     all.push_back({"close " + window});
-    // Otherwise the chart window would step through the files of the next list.
+    // If the user left the list now, the open drill-down window would read the files of the next list.
     if (manner_.careful && isVisible(window + "A"))
         std::erase_if(all, [](const Offer& offer) { return !offer.front().starts_with("row"); });
     if (window == "startup") {

@@ -11,12 +11,12 @@
 
 namespace plotvue::sessions {
 
-// A rule does not hold.
+// Thrown when a rule does not hold.
 struct Wrong : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-// The sentence of an error report, which must not report an error in the program.
+// Throws Wrong unless this is a sentence for the user that reports no error in PlotVue itself.
 void mustBePlain(TextSpan sentence);
 void mustBeEqual(const std::string& what, const std::string& one, const std::string& other);
 
@@ -57,7 +57,7 @@ private:
     std::string noticeOf(const std::string& window);
     bool isVisible(const std::string& window) const { return visible_.contains(window); }
 
-    // Observes what the windows draw, to know what a notice must say.
+    // Notes in drawn_ what the window charts, so that noticesMustBeTrue() knows which notices are due.
     void watch(const std::string& window);
     void noticesMustBeTrue(const std::string& line);
 
@@ -74,22 +74,22 @@ private:
     Manner manner_;
     std::ostringstream out_;
     replay::Player player_;
-    // lists_ holds the windows of the ranked screens, charts_ those of all other screens. A row of a list
-    // opens the window whose name is that of the list with an A.
+    // lists_ holds the list windows, charts_ the windows of all other screens. The drill-down window of a
+    // list has the name of the list with an A at the end.
     std::set<std::string> lists_, charts_;
     std::map<std::string, const DrillDownDesign*> designs_; // of the drill-down windows, by name
     std::set<std::string> loaded_, visible_;                // according to the events
-    std::vector<std::string> loadedNow_, shownNow_;         // during the last played line
+    std::vector<std::string> loadedNow_, shownNow_;         // while the last line was played
     std::vector<std::string> drawnNow_;
-    bool listEndedNow_ = false; // "End of list" was told
+    bool listEndedNow_ = false; // whether the last line led to "End of list"
 
     struct Drawing {
-        std::string copied; // what was on the clipboard
+        std::string copied; // the text that was on the clipboard
         std::map<Name, std::vector<int>> options;
-        std::optional<EntryLines> record; // of a drill-down window
+        std::optional<EntryLines> record; // only of a drill-down window
     };
-    std::map<std::string, Drawing> drawn_; // the last one of each window
-    std::string held_;                     // by the clipboard
+    std::map<std::string, Drawing> drawn_; // by window: what it charted last
+    std::string held_;                     // the clipboard's text
 
     std::string end_ = "still alive";
     std::optional<Text> error_; // text of the error report

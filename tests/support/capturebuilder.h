@@ -1,5 +1,4 @@
-// Host screens for tests: made of nothing, or of a sample with other text in some places. Lines and columns
-// are counted from 1.
+// Builds host screens for tests, from nothing or from a sample. Lines and columns are counted from 1.
 #pragma once
 
 #include "capture/text.h"
@@ -20,10 +19,11 @@ public:
 
     const Text& line(std::size_t line) const { return lines_.at(line - 1); }
 
-    // Fewer characters than `width` where the line ends earlier.
+    // The result has fewer characters than `width` where the line ends earlier.
     Text characters(std::size_t line, std::size_t column, std::size_t width) const;
 
-    // Without its commas. Throws std::runtime_error unless the characters hold one number between blanks.
+    // The number in these characters, read without its commas. Throws std::runtime_error unless they hold one
+    // number between blanks.
     double number(std::size_t line, std::size_t column, std::size_t width) const;
 
     // The lines with CR LF, or another line end. Empty lines hold a single ".", because readers skip blank

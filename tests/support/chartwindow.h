@@ -1,5 +1,5 @@
-// The words of the tests of windows that chart a screen of the host: a window opened with a capture, what is
-// chosen on it, what its chart then shows, and how it is left.
+// What the tests of windows that chart a host screen share: they open the window with a capture, choose its
+// options, look at its chart and leave it.
 #pragma once
 
 #include "support/capturebuilder.h"
@@ -39,9 +39,9 @@ public:
     Events refresh(const CaptureBuilder& capture) { return refresh(capture.text()); }
     Events refresh(TextSpan capture) { return click(capture, "cmdRefresh"); }
     Events click(TextSpan capture, Name control, int option = noOption);
-    Events comeBack(TextSpan capture); // from the start-up window
+    Events comeBack(TextSpan capture); // copies a capture and presses Refresh in the start-up window
 
-    void choose(int type, int period); // of the options that the window has
+    void choose(int type, int period); // chooses the two, where the window has such options
 
     auto chart() { return session.chart(window); }
     auto chart(int type, int period = Year)
@@ -53,20 +53,20 @@ public:
     double newest(int type, std::size_t series = 0) { return valueOf(chart(type), 1, series); }
     Options options(Name group);
 
-    // What happens when the window is left, and when it comes back.
+    // The events when the window is left for the start-up window, and when it comes back.
     Events left() const { return {"hide " + name, "show startup"}; }
     Events back() const { return {"hide startup", "show " + name}; }
 
     void expectButtons();
 
-    // The click leaves the window, with its chart as it was. Then the window comes back.
+    // Expects that the click leaves the window without changing its chart, and brings the window back.
     void expectRefusal(TextSpan capture, Name control = "cmdRefresh", int option = noOption);
 
-    // Exit and the title bar leave the window with its chart and what is chosen; it comes back as it was, and
-    // Refresh then charts the other capture.
+    // Expects that Exit and the title bar leave the window, that it comes back with the same chart and
+    // options, and that Refresh then charts the other capture.
     void expectExitKeepsTheChart(TextSpan otherCapture);
 
-    // A job a copy; none when the dialog is cancelled or the printer fails.
+    // Expects one print job for each copy, and none when the dialog is cancelled or the printer fails.
     void expectPrints();
 
     static constexpr int noOption = -1;

@@ -1,16 +1,16 @@
-// The months of a host screen where a test says that they stand: what a chart shows is compared with figures
-// that the program has not read. Months are counted from 1, from the newest backwards.
+// Reads the months of a host screen from places that a test gives. So tests compare a chart with figures that
+// PlotVue has not read. Months count from 1, the newest.
 #pragma once
 
 #include "support/capturebuilder.h"
 
 namespace plotvue::test {
 
-// A run of months down the screen.
+// Months one below the other on the screen.
 struct MonthColumn {
     int firstMonth, months;
-    int line, column; // of the first of them
-    int step = 1;     // lines from a month to the one before it
+    int line, column; // of the first month
+    int step = 1;     // lines from one month to the next
 };
 
 struct Columns {
@@ -29,7 +29,7 @@ public:
     std::vector<Text> labels(int months) const;
     std::vector<Text> fullLabels(int months) const; // "OCT99"
 
-    // Over what the months hold at the offset.
+    // Writes the text over the screen, beginning at this offset from the month's column.
     void put(int month, int offset, TextSpan text);
 
     const CaptureBuilder& screen() const { return screen_; }

@@ -4,7 +4,7 @@
 
 namespace plotvue::test {
 
-// True of a plain file, no link, that nobody but its owner may read or write.
+// Whether this is a plain file, not a link, that only its owner may read or write.
 bool ownerOnly(const std::string& file);
 
 } // namespace plotvue::test

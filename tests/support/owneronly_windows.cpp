@@ -19,7 +19,7 @@ bool ownerOnly(const std::string& file)
                               OWNER_SECURITY_INFORMATION | DACL_SECURITY_INFORMATION, &owner, nullptr,
                               &rights, nullptr, &descriptor) != ERROR_SUCCESS)
         return false;
-    bool only = rights != nullptr; // no list at all: everybody may do everything
+    bool only = rights != nullptr; // a file without a list of rights is open to everybody
     for (WORD i = 0; only && i < rights->AceCount; ++i) {
         void* entry = nullptr;
         GetAce(rights, i, &entry);

@@ -43,7 +43,7 @@ Events opening(Name window)
 Session::Session() : app(platform)
 {
     before_ = fs::current_path().string();
-    static std::random_device numbers; // many sessions, and several runs at once
+    static std::random_device numbers; // random, because several test programs may run at once
     do
         directory_ = (fs::temp_directory_path() / ("plotvue-test-" + std::to_string(numbers()))).string();
     while (!fs::create_directory(directory_));

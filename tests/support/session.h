@@ -1,4 +1,4 @@
-// The program on the recording platform: a capture, a click, what the user sees.
+// Runs the program on the platform in memory: tests copy captures, click and look at what the user sees.
 #pragma once
 
 #include "app/application.h"
@@ -13,7 +13,7 @@ using Events = std::vector<std::string>;
 using Numbers = std::vector<double>;
 using Texts = std::vector<Text>;
 
-// What happens when the program starts with a capture that opens the window.
+// The events when the program starts with a capture that opens the window.
 Events opening(Name window);
 
 // Counts how often the clipboard is read.
@@ -29,7 +29,7 @@ protected:
     }
 };
 
-// Runs in an empty directory of its own, which goes with it.
+// A run of the program in an empty directory of its own, which is removed with the session.
 class Session {
 public:
     Session();
@@ -38,7 +38,7 @@ public:
     CountingPlatform platform;
     Application app;
 
-    // What happened since the last look: "load frmProduct", "show frmProduct", "hide …", "unload …",
+    // What happened since the last call: "load frmProduct", "show frmProduct", "hide …", "unload …",
     // "message Need Data: …", "print frmProduct", "spin", "error …", "end".
     Events events();
 
@@ -54,9 +54,9 @@ public:
     bool visible(Name window);
     Text caption(Name window);
     Text notice(Name window);        // "" when there is none
-    Texts controlNames(Name window); // ascending; an option group once, pictures are none
+    Texts controlNames(Name window); // ascending; an option group once; without pictures
     bool hasControl(Name window, Name control);
-    Texts frames(Name window); // of its options, in their order: "Frame2: Months"
+    Texts frames(Name window); // of its options, in their order, each as "Frame2: Months"
     Chart chart(Name window, Name control = "ChartFX1");
     OptionGroup options(Name window, Name group);
     Grid grid(Name window, Name control = "MSFlexGrid1");

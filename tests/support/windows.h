@@ -14,7 +14,7 @@ inline std::vector<Window*> allWindows(Application& app)
     return all;
 }
 
-// The window of that name; null when there is none.
+// The window of this name; null when there is none.
 inline Window* windowNamed(Application& app, Name name)
 {
     for (Window* window : allWindows(app))

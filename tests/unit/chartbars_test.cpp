@@ -53,7 +53,8 @@ TEST(ChartBars, OfAGroupAreSideBySide)
 TEST(ChartBars, HaveAGapInGroupsIfWiderThanSeven)
 {
     const Chart chart = twoSlots({{10, 20}, {30, 40}});
-    for (const auto& [slotWidth, gap] : {std::pair(18, 0), std::pair(20, 1)}) { // 82 %: 7 each, 8 each
+    // The two bars share 82 % of the slot: 7 each in the first, 8 each in the second, of which 1 is the gap.
+    for (const auto& [slotWidth, gap] : {std::pair(18, 0), std::pair(20, 1)}) {
         const auto bars = laidOut(chart, {ChartDesign::Bars::Grouped}, {42.0 + 2 * slotWidth, 251}).bars;
         EXPECT_EQ(bars[0].box.width, 7);
         EXPECT_EQ(bars[1].box.left - bars[0].box.right(), gap);
@@ -104,7 +105,7 @@ TEST(ChartBars, HaveFiguresOnlyIfAllFit)
 {
     Chart chart = fourBars();
     chart.series = {{10, 20, 30, 123456789}};
-    const double left = 12 + 11 * 6 + 6; // "150,000,000"
+    const double left = 12 + 11 * 6 + 6; // of the plot: the margin, the tick "150,000,000" and half a line
     EXPECT_EQ(laidOut(chart, {}, {left + 4 * 70 + 12, 251}).values.size(), 4U);
     EXPECT_EQ(laidOut(chart, {}, {left + 4 * 59 + 12, 251}).values.size(), 4U);
     EXPECT_TRUE(laidOut(chart, {}, {left + 4 * 58 + 12, 251}).values.empty());
@@ -167,7 +168,7 @@ TEST(ChartBars, OfAComponentOfZeroAreFlat)
     EXPECT_EQ(laidOut(chart, design, {448, 260}, 1.5).bars[0].box.height, 2 / 1.5)
         << "two pixels of the screen";
 
-    chart.labels = {u"A"}; // a labelled slot with two series, which are not components
+    chart.labels = {u"A"}; // with a label, the two series are no components
     EXPECT_EQ(laidOut(chart, {}, {448, 260}).bars.size(), 1U);
 }
 

@@ -30,7 +30,7 @@ std::string slotsLabelled(const Layout& layout)
 
 TEST(ChartLabels, AreMadeSmallerOrBrokenBeforeTheyAreThinned)
 {
-    // A label is 30 wide, or 25 in TextRole::Tiny; the name of its month is 18 or 15 wide.
+    // A label is 30 wide, or 25 in TextRole::Tiny; its first line alone is 18 or 15 wide.
     const Chart chart = bars(std::vector<Text>(12, u"OCT98"));
     struct Expected {
         int slotWidth;
@@ -82,7 +82,7 @@ TEST(ChartLabels, WithAYearEachMayHaveStepsOfMoreThanAYear)
     EXPECT_EQ(slotsLabelled(laidOut(chart, {}, {42 + 25 * 2, 251})), "0 24");
 }
 
-// From November to the December two years later.
+// The labels from November to the second December after it.
 std::vector<Text> twoYears()
 {
     std::vector<Text> labels{u"NOV", u"DEC"};
@@ -177,7 +177,7 @@ TEST(ChartLabels, IfSlantedAreThinnedBeforeTheyOverlap)
 {
     const ChartDesign names{ChartDesign::Bars::Stacked, ChartDesign::Labels::Names};
     const Chart chart = bars(std::vector<Text>(6, u"ABCDEFGHIJKL"));
-    // Slanted labels need a distance of 9, three quarters of a line, which slots 12.7 wide provide.
+    // Slanted labels must be 9 apart, three quarters of a line. They are if slots are 12.7 wide.
     const std::pair<int, const char*> expected[] = {
         {13, "0 1 2 3 4 5"}, {12, "0 2 4"}, {7, "0 2 4"}, {6, "0 3"}};
     for (const auto& [slotWidth, labels] : expected) {
@@ -190,9 +190,9 @@ TEST(ChartLabels, IfSlantedAreThinnedBeforeTheyOverlap)
 TEST(ChartLabels, IfSlantedHaveTheHeightOfTheLongest)
 {
     const ChartDesign names{ChartDesign::Bars::Stacked, ChartDesign::Labels::Names};
-    const Size paper{42 + 4 * 50, 251}; // of which 242 lie above the bottom margin
-    // The label is 60 wide, so it is 42.4 high; add half a line for the height of its text and half a line
-    // above.
+    const Size paper{42 + 4 * 50, 251}; // 242 of its height are above the bottom margin
+    // The label is 60 wide, so slanted it is 42.4 high. Half a line is added for the height of its text, and
+    // half a line above it.
     EXPECT_EQ(laidOut(bars({u"ABCDEFGHIJ", u"B", u"C", u"D"}), names, paper).plot.bottom(), 188);
     // The maximum height is 22 % of the paper, 55.2.
     EXPECT_EQ(laidOut(bars({u"ABCDEFGHIJKLMNOP", u"B", u"C", u"D"}), names, paper).plot.bottom(), 175);
@@ -202,7 +202,7 @@ TEST(ChartLabels, IfSlantedEndBeforeTheLeftEdge)
 {
     const ChartDesign names{ChartDesign::Bars::Stacked, ChartDesign::Labels::Names};
     const Layout layout = laidOut(bars(std::vector<Text>(23, u"ABCDEFGHIJKL")), names, {42 + 23 * 20, 251});
-    // It ends at x = 43, so it may be 40 / sin 45 degrees long: nine characters.
+    // The first label ends at x = 43, so it may be 40 / sin 45 degrees long: nine characters.
     EXPECT_EQ(describeLabels(layout).substr(0, 12), "0 ABCDEFGH~\n");
     EXPECT_EQ(narrow(layout.labels[22].name.text), "ABCDEFGHIJKL");
 }

@@ -51,7 +51,7 @@ TEST(ChartLayout, SnapsToDevicePixelsOnTheScreenOnly)
 
 TEST(ChartLayout, AStepIsAtLeastThreeAndAHalfLinesHigh)
 {
-    // The heading leaves 16 lines, and the labels take two of them: room for four steps.
+    // Between the margins are 16 lines. The labels take two; the other 14 are just enough for four steps.
     EXPECT_EQ(laidOut(fourBars(), {}, {442, 225}).ticks.size(), 5U);
     EXPECT_EQ(laidOut(fourBars(), {}, {442, 224}).ticks.size(), 3U);
 }
@@ -60,7 +60,7 @@ TEST(ChartLayout, TheAxisTakesAtMostHalfOfTheWidth)
 {
     Chart chart = fourBars();
     chart.series = {{10, 20, 30, 123456789}};
-    // The axis takes 38 of 76; half a line separates it from the bars.
+    // The axis takes 38 of 76. Half a line separates it from the bars.
     EXPECT_EQ(describe(laidOut(chart, {}, {100, 251}).plot), "56,24 32x200");
 }
 
@@ -111,7 +111,7 @@ TEST(ChartLayout, ANegativeFigureHidesNoOtherPartOfItsStack)
 {
     Chart chart = fourBars();
     chart.series = {{10600, 0, 0, 0}, {-6000, 0, 0, 0}};
-    chart.axisMax = 4600; // the total owed
+    chart.axisMax = 4600; // the total of the stack
     const Layout layout = laidOut(chart, {}, plot400x200);
     EXPECT_GE(layout.scale.max, 10600);
     EXPECT_LE(layout.scale.min, -6000);

@@ -57,7 +57,7 @@ TEST(ChartTitles, LeaveNoGapIfAbsent)
 TEST(ChartTitles, AMainTitleBecomesSmallerBeforeItIsElided)
 {
     Chart chart;
-    chart.titles = {{2, u"Product: 4711"}}; // 104, 91 or 78 wide, depending on its size; the margins are 12
+    chart.titles = {{2, u"Product: 4711"}}; // 104, 91 or 78 wide, depending on its text size; margins: 12
     const std::tuple<double, TextRole, const char*> expected[] = {
         {128, TextRole::LargeTitle, "Product: 4711"},  {127, TextRole::MediumTitle, "Product: 4711"},
         {115, TextRole::MediumTitle, "Product: 4711"}, {114, TextRole::BodyTitle, "Product: 4711"},
@@ -114,7 +114,7 @@ TEST(ChartLegend, WrapsAtTheRightMargin)
 
 TEST(ChartLegend, ANameIsElidedToTheWidthOfALine)
 {
-    // A line is 60 wide; 45 are left beside the swatch, enough for seven characters.
+    // The legend is 60 wide. The coloured square takes 15 of them, and seven characters fit beside it.
     EXPECT_EQ(describeLegend(laidOut(salesAndProjection(), projecting, {84, 251})),
               "12,30 9x9 Sales @ 27,28.5 30x12\n"
               "12,45 9x9 Projec~ @ 27,43.5 42x12\n");

@@ -7,7 +7,7 @@
 namespace plotvue::test {
 namespace {
 
-using Said = std::vector<std::pair<Name, TextSpan>>; // by control, in order of declaration
+using Said = std::vector<std::pair<Name, TextSpan>>; // controls in order of declaration, each with its text
 
 class Declarations : public testing::Test {
 protected:
@@ -70,7 +70,7 @@ protected:
         return said;
     }
 
-    Session directory; // working directory for the files of the ranked windows
+    Session directory; // its directory holds the small files
     RecordingPlatform platform;
     Application app{platform};
 };
@@ -95,7 +95,7 @@ TEST_F(Declarations, OfTheSecondSeries)
     open("product");
     EXPECT_EQ(chart("frmProduct").projection, 1);
     EXPECT_EQ(chart("frmProduct").legends, (std::map<int, TextSpan>{{1, u"Projected"}}));
-    open("latecharge"); // the second series is what was lost, not a projection
+    open("latecharge"); // here the second series shows what was lost
     EXPECT_EQ(chart("frmLateCharge").projection, -1);
     EXPECT_EQ(chart("frmLateCharge").legends, (std::map<int, TextSpan>{{0, u"Paid"}, {1, u"Lost"}}));
     open("glhistory");

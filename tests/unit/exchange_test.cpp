@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 class Exchange : public testing::Test {
 protected:
-    test::Session session; // for its directory
+    test::Session session; // its directory holds the files
 };
 
 TEST_F(Exchange, TextsHaveQuotationMarksAndNumbersNone)

@@ -68,7 +68,7 @@ TEST_F(FrmCustP2, CountsItsFieldsFromTheStartOfLinesWithoutTheirMarks)
 
 TEST_F(FrmCustP2, IsLeftForACategoryScreen)
 {
-    expectRefusal(sample("custcat")); // "QXM12P" is not enough
+    expectRefusal(sample("custcat")); // its identifier is "QXM12P"
 }
 
 TEST_F(FrmCustP2, AcceptsACategoryMarkAnywhere)
@@ -89,7 +89,7 @@ TEST_F(FrmCustP2, HoldsThePlacesOfItsWordsInSixteenBits)
 
 TEST_F(FrmCustP2, LooksForItsWordsInTheirOrder)
 {
-    // The first word that is absent ends the search, before a later one is found too far down to be held.
+    // The first absent word ends the search. So the later word, whose position does not fit, is no error.
     expectRefusal(withWordAt(blotted(blotted(screen.text(), u"YTD"), u"QTY"), u"QTY", 32768));
     expectRefusal(withWordAt(blotted(blotted(screen.text(), u"QTY"), u"QXM12P2"), u"QXM12P2", 32768));
 }

@@ -12,7 +12,7 @@ class FrmCustP : public testing::Test, public ChartWindow {
 protected:
     FrmCustP() : ChartWindow("frmCustP", "custcat") { open(); }
 
-    // The sample with its "PCAT", a word of four letters, moved to a position of the text.
+    // The sample, with its "PCAT" moved to this position of the text.
     Text withCategoryAt(std::size_t position) const
     {
         return blotted(screen.text(), u"PCAT").replace(position - 1, 4, u"PCAT");
@@ -49,13 +49,13 @@ TEST_F(FrmCustP, AcceptsACategoryThatIsAbsentOrComesAgain)
 
 TEST_F(FrmCustP, AcceptsTheScreenOfACustomersPack)
 {
-    // The day is then the blank after the longer identifier and the first of two digits.
+    // The identifier is one character longer, so the day is read from the blank after it and the "2" of "24".
     EXPECT_EQ(refresh(screen.put(1, 1, u"QXM12P2 24FEB00").put(6, 1, u"FEB00")), Events{});
     EXPECT_EQ(title(2), u"Customer: 104420 GREENWATER BROS HAULING INC.");
     EXPECT_EQ(newest(Sales), 26295.09);
     EXPECT_NEAR(newest(Sales, 1), 26295.09 * 26 / 2, 1e-6);
 
-    // That screen's rows begin a line lower: its dash line is taken for the newest month.
+    // The months of a real pack screen begin a line lower, so its dash line is taken for the newest month.
     EXPECT_THAT(refresh(sample("custpack")), ElementsAre(StartsWith("error ")));
 }
 
@@ -68,7 +68,7 @@ TEST_F(FrmCustP, HoldsThePlacesOfItsWordsInSixteenBits)
         EXPECT_EQ(own.refresh(withWordAt(wordless, word, 32767)), Events{});
         EXPECT_THAT(own.refresh(withWordAt(wordless, word, 32768)), ElementsAre(StartsWith("error ")));
     }
-    // A category so far down fails before it can be refused.
+    // A capture whose category is so far down that its position does not fit is an error, not refused.
     const Text withoutCategory = blotted(screen.text(), u"PCAT");
     expectRefusal(withWordAt(withoutCategory, u"PCAT", 32767));
     EXPECT_THAT(refresh(withWordAt(withoutCategory, u"PCAT", 32768)), ElementsAre(StartsWith("error ")));
@@ -76,7 +76,7 @@ TEST_F(FrmCustP, HoldsThePlacesOfItsWordsInSixteenBits)
 
 TEST_F(FrmCustP, LooksForItsWordsInTheirOrder)
 {
-    // The first word that is absent ends the search, before a later one is found too far down to be held.
+    // The first absent word ends the search. So the later word, whose position does not fit, is no error.
     expectRefusal(withWordAt(blotted(blotted(screen.text(), u"YTD"), u"QTY"), u"QTY", 32768));
     expectRefusal(withWordAt(blotted(blotted(screen.text(), u"QTY"), u"PCAT"), u"PCAT", 32768));
     expectRefusal(withWordAt(blotted(withCategoryAt(501), u"QXM12P"), u"QXM12P", 32768));

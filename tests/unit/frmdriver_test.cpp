@@ -1,4 +1,4 @@
-// The driver's and the truck's window: one procedure, two screens.
+// The windows of the driver and the truck screen, which do the same.
 #include "support/chartwindow.h"
 
 #include <gtest/gtest.h>
@@ -47,7 +47,7 @@ TEST_P(DeliveryWindow, WithoutItsIdentifierTheHiddenWindowIsCharted)
     EXPECT_FALSE(session.visible(window));
     EXPECT_FALSE(session.platform.over());
     EXPECT_EQ(valueOf(chart(), 1), 111.11);
-    EXPECT_NEAR(valueOf(chart(), 1, 1), 166.665, 1e-9); // day 12 of 30, from columns 16 and 17
+    EXPECT_NEAR(valueOf(chart(), 1, 1), 166.665, 1e-9); // columns 16 and 17 hold the day: 12 of 30
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, DeliveryWindow,

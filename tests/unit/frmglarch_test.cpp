@@ -9,7 +9,7 @@ namespace {
 
 class FrmGLarch : public testing::Test {
 protected:
-    // The program, with a capture and a number of years.
+    // The window, opened with the capture and then set to show this number of years.
     std::unique_ptr<ChartWindow> drawing(const CaptureBuilder& capture, int years = 1)
     {
         auto drawn = std::make_unique<ChartWindow>("frmGLarch", capture);
@@ -27,7 +27,7 @@ protected:
         return ChartWindow("frmGLarch", capture).open().back().starts_with("error ");
     }
 
-    // The sample with another line.
+    // The sample, with its line of this number replaced.
     CaptureBuilder withLine(std::size_t line, TextSpan text) const
     {
         return CaptureBuilder(ledger).replaceLine(line, text);
@@ -149,7 +149,7 @@ TEST_F(FrmGLarch, OnlyTheYearsShownDecideTheSign)
     const CaptureBuilder capture =
         withAmounts({u"1", u"2", u"3", u"4", u"5", u"6", u"7", u"8", u"9", u"10", u"11", u"12"});
     EXPECT_EQ(values(capture)[11], 12);
-    // 23 negative ones and a positive one before them
+    // The two years before add 23 negative amounts and one positive.
     EXPECT_EQ(drawing(capture, 3)->chart().series[0][35], -12);
 }
 
@@ -158,7 +158,7 @@ TEST_F(FrmGLarch, AmountsMustFitWholeNumbersOf32Bits)
     EXPECT_EQ(values(withAmounts({u"2147483647", u"1", u"1"}))[0], -2147483647);
     EXPECT_TRUE(fails(withAmounts({u"2147483648"})));
     EXPECT_TRUE(fails(withAmounts({u"-2147483649"})));
-    EXPECT_TRUE(fails(withAmounts({u"-2147483648"}))); // when it is turned
+    EXPECT_TRUE(fails(withAmounts({u"-2147483648"}))); // 2147483648 after its sign is turned
     EXPECT_EQ(values(withAmounts(
                   {u"-2147483648", u"1", u"1", u"1", u"1", u"1", u"1", u"1", u"1", u"1", u"1", u"1"}))[0],
               -2147483648.0);
@@ -189,10 +189,10 @@ TEST_F(FrmGLarch, MonthNamesAreReadInColumnsTwoToFour)
 TEST_F(FrmGLarch, TheFirstYearIsTheFourCharactersAfterTheFirstSlash)
 {
     EXPECT_EQ(label(0, withLine(4, u"A/99017/1980"), 5), u"J01");
-    EXPECT_EQ(label(0, withLine(4, u"99987 TO 2002"), 5), u"J98"); // no slash: columns 1 to 4
-    EXPECT_EQ(label(0, withLine(4, u"A/NONE"), 5), u"J");          // years 0 to 4
+    EXPECT_EQ(label(0, withLine(4, u"99987 TO 2002"), 5), u"J98"); // no slash: the year is in columns 1 to 4
+    EXPECT_EQ(label(0, withLine(4, u"A/NONE"), 5), u"J");          // no number, so the years are 0 to 4
     EXPECT_EQ(label(0, withLine(4, u"A/123"), 5), u"J3");
-    EXPECT_EQ(label(0, withLine(4, u"A/9999")), u"J00"); // of 10003
+    EXPECT_EQ(label(0, withLine(4, u"A/9999")), u"J00"); // the newest year is 10003
     EXPECT_TRUE(fails(withLine(4, u"A/9E9 ")));
 }
 

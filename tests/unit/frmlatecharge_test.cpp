@@ -45,7 +45,7 @@ TEST_F(FrmLateCharge, TheSecondSeriesIsHiddenAgain)
 
 TEST_F(FrmLateCharge, EveryAmountOfARowIsRead)
 {
-    // A number too large for the machine fails the reading, though paid amounts are not charted.
+    // Paid amounts are not charted, but one that is too large for a double is an error all the same.
     EXPECT_TRUE(open(screen.put(5, 26, u"    9E999")).back().starts_with("error "));
 }
 

@@ -18,7 +18,7 @@ TEST_F(FrmSalesman, KeepsItsRowsWhereverTheHeadingsStand)
     refresh(CaptureBuilder(screen).replaceLine(6, u"."));
     EXPECT_EQ(chart().labels[12], u"OCT99");
 
-    // Headings a line lower: the newest month would be the dash line.
+    // With the headings a line lower, the dash line is in the place of the newest month.
     EXPECT_THAT(refresh(screen.insertLine(5, u".")), ElementsAre(StartsWith("error ")));
 }
 
@@ -28,7 +28,7 @@ TEST_F(FrmSalesman, ShiftsEveryMonthByARowWithTheHeadings)
     EXPECT_EQ(chart().labels[12], u"NOV99");
     EXPECT_EQ(chart().labels[11], u"OCT99");
     EXPECT_EQ(chart().series[0][11], 36838.63);
-    EXPECT_EQ(chart(Sales, TwoYears).labels[11], u""); // the right half has moved too
+    EXPECT_EQ(chart(Sales, TwoYears).labels[11], u""); // the months in the right half are a line lower, too
     EXPECT_EQ(chart().labels[10], u"S98");
 }
 
@@ -48,7 +48,7 @@ TEST_F(FrmSalesman, TakesTheTextsFromTheStartOfLinesWithoutAColon)
 
 TEST_F(FrmSalesman, ChartsAForeignScreenIntoTheWindowThatItHides)
 {
-    // This screen's rows begin a line higher; its characters 16 and 17 are taken for the day.
+    // The months of the customer screen begin a line higher. Its characters 16 and 17 are taken for the day.
     CaptureBuilder foreign{TextSpan(sample("customer"))};
     EXPECT_EQ(refresh(foreign.put(1, 16, u"20")), left());
     EXPECT_EQ(chart().labels[12], u"AUG99");

@@ -9,7 +9,7 @@ class FrmSite : public testing::Test, public ChartWindow {
 protected:
     FrmSite() : ChartWindow("frmSite", "site") {}
 
-    const double toCome = 75185.33 * 13 / 17; // of the sample's sales
+    const double toCome = 75185.33 * 13 / 17; // the rest of the sample's newest month
 };
 
 TEST_F(FrmSite, TheFuelIsEightCharactersLong)

@@ -14,7 +14,7 @@ protected:
         return groupScreen(u"QXM21CXS", groups, salesmen);
     }
 
-    // The newest choice of each frame.
+    // The chart after an option was chosen in each of the two frames.
     Chart chart(TypeOption type, int group)
     {
         session.choose(cxs, "optSales", type);
@@ -52,7 +52,7 @@ TEST_F(CategoriesBySalesman, OpensWithTheTotalOfSales)
     EXPECT_TRUE(content.legends.empty());
 }
 
-// The second figure of a group is the profit here, the third the volume.
+// On this screen, the second figure of a group is the profit and the third the volume.
 TEST_F(CategoriesBySalesman, EveryTypeOfEveryGroup)
 {
     session.start(screen(4).text());
@@ -203,7 +203,7 @@ TEST_F(CategoriesBySalesman, TheTwoChoicesAreIndependent)
     EXPECT_EQ(session.chart(cxs).titles.at(3), u"Profit - HEATING");
 }
 
-// Digits and letters stand on both sides of every border.
+// Each field has digits or letters on both sides, so a border that is off by one changes what is read.
 TEST_F(CategoriesBySalesman, EveryColumn)
 {
     CaptureBuilder capture(4);

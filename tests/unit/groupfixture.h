@@ -20,8 +20,7 @@ inline Text wholeNumber(std::size_t number)
     return digits;
 }
 
-// A screen of two salesmen and as many groups as asked for. A figure tells where it stands: salesman 2,
-// group 3, second figure is 232.
+// A salesman/category screen. Each figure tells its place: 232 is the second figure of group 3 of salesman 2.
 inline CaptureBuilder groupScreen(TextSpan identifier, std::size_t groups, std::size_t salesmen = 2)
 {
     CaptureBuilder capture(3 + salesmen);

@@ -118,7 +118,7 @@ TEST_F(SalesmenByCategory, TheTypeThatIsChosenReadsAgainToo)
     EXPECT_EQ(session.chart(sxc).labels, (Texts{u"02_01", u""}));
 }
 
-// Digits and letters stand on both sides of every border.
+// Each field has digits or letters on both sides, so a border that is off by one changes what is read.
 TEST_F(SalesmenByCategory, EveryColumn)
 {
     CaptureBuilder capture(4);

@@ -167,7 +167,7 @@ TEST_P(GroupWindows, TheSampleOpensIt)
     EXPECT_EQ(session.chart(window).labels,
               (Texts{u"01_14", u"01_22", u"01_31", u"02_08", u"02_17", u"02_40", u"03_05", u""}));
     EXPECT_EQ(session.chart(window).titles.at(2), u"OCT 1999 ");
-    // Sales of the second salesman: four groups apart, or their total.
+    // The sales of the second salesman: one window shows each of the four groups, the other their total.
     const auto& series = session.chart(window).series;
     if (window == sxc)
         EXPECT_EQ((Numbers{series[0][1], series[1][1], series[2][1], series[3][1]}),

@@ -254,9 +254,9 @@ TEST(DashLine, Line20IsTheLastThatCanBeIt)
 
 TEST(DashLine, TheSearchCrossesLines)
 {
-    // After line 19 come LF "AB" CR LF and the dashes: position 6.
+    // The rest of the text after line 19 is LF "AB" CR LF and the dashes, which have position 6 in it.
     EXPECT_EQ(dashLineOf(numbered().put(20, 1, u"AB ").put(21, 1, u"-----")), 20);
-    // LF "L20" CR LF and 22 blanks: position 29, and with one more 30.
+    // After LF "L20" CR LF and 22 blanks, the dashes have position 29 in the rest; with one more blank, 30.
     EXPECT_EQ(dashLineOf(numbered().put(21, 23, u"-----")), 20);
     EXPECT_EQ(dashLineOf(numbered().put(21, 24, u"-----")), 0);
 }
@@ -266,7 +266,7 @@ TEST(DashLine, VanishedEmptyLinesCountInThePosition)
     const auto withEmptyLine = [](std::size_t column) {
         return u"A\r\n\r\n" + Text(column - 1, u' ') + u"-----\r\n" + numbered().text();
     };
-    // LF CR LF come first: column 26 is position 29.
+    // The rest of the text begins with LF CR LF, so column 26 is at position 29.
     const Text near = withEmptyLine(26), far = withEmptyLine(27);
     EXPECT_EQ(ScreenLines(near).dashLine(), 2);
     EXPECT_EQ(ScreenLines(far).dashLine(), 0);

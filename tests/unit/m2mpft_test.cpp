@@ -1,4 +1,4 @@
-// The month-to-month list: the sentence above, gains and losses below.
+// The month-to-month list: the sentence about the territory's profits, the gains and the losses.
 #include "rankedfixture.h"
 
 namespace plotvue::test {
@@ -64,7 +64,7 @@ TEST(MonthToMonth, RanksMayComeInAnyOrder)
 TEST(MonthToMonth, EachGridListsItsOwn)
 {
     const struct {
-        Lines figures; // of the customers 10001, 10002 and so on
+        Lines figures; // one for each customer: 10001, 10002 and so on
         Texts gains, losses;
     } cases[]{{{u"5", u"4"}, {u"10001", u"10002"}, {}},
               {{u"-5", u"-4"}, {}, {u"10001", u"10002"}},
@@ -146,7 +146,7 @@ TEST(MonthToMonth, MarkersMayStandAnywhereAndSeveralOnALine)
 TEST(MonthToMonth, ALineMayOpenAnEntryAndGiveItsGain)
 {
     MonthToMonthScreen screen;
-    screen.add(1, u"30").put(10, 1, u"RANK:  2;  GAIN:"); // columns 6 to 8 are of both
+    screen.add(1, u"30").put(10, 1, u"RANK:  2;  GAIN:"); // the rank and the gain share columns 6 to 8
     RankedSession session = opened(screen);
     EXPECT_EQ(session.column(1), (Texts{u"30", u"2"}));
 }
@@ -170,7 +170,7 @@ TEST(MonthToMonth, TheSentenceSaysWhatTheTerritoryGained)
               {u"8000", u"8000", "increased by  0 (from  8000 to  8000)."},
               {u"-500", u"800", "decreased by  1300 (from  800 to -500)."},
               {u"-500", u"-800", "increased by  300 (from -800 to -500)."},
-              // Both are cut down to whole numbers first.
+              // Both profits are rounded down to whole numbers before they are subtracted.
               {u"100.99", u"100.01", "increased by  0 (from  100 to  100)."},
               {u"-0.5", u"0.5", "decreased by  1 (from  0 to -1)."},
               {u"-2.01", u"-2", "decreased by  1 (from -2 to -3)."},

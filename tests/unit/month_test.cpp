@@ -32,9 +32,9 @@ TEST(DaysOfMonth, AnEmptyNameIsFoundAtJanuary)
 
 TEST(DaysOfMonth, TheNameIsLookedUpAnywhereInTheTable)
 {
-    EXPECT_EQ(daysOfMonth(u"AN3"), 1); // "1F" comes after it
-    EXPECT_EQ(daysOfMonth(u"N31"), 0); // "FE" comes after it
-    EXPECT_EQ(daysOfMonth(u"C31"), 0); // nothing comes after it
+    EXPECT_EQ(daysOfMonth(u"AN3"), 1); // the table has "1F" after it
+    EXPECT_EQ(daysOfMonth(u"N31"), 0); // the table has "FE" after it
+    EXPECT_EQ(daysOfMonth(u"C31"), 0); // the table ends after it
 }
 
 TEST(ElapsedPart, IsTheDayByTheDaysOfTheMonth)

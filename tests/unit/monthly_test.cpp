@@ -17,7 +17,7 @@ protected:
     const ExpectedScreen& expected = GetParam();
     const Text changed = expected.changed();
 
-    // The buttons and options that draw the chart.
+    // Every button and option that charts the capture: the control and the index of the option.
     std::vector<std::pair<Name, int>> clicks() const
     {
         std::vector<std::pair<Name, int>> all{
@@ -27,10 +27,10 @@ protected:
         return all;
     }
 
-    // The whole chart for every data type and period, with the test's own reading of the screen beside it.
+    // Compares the whole chart, for every data type and period, with what MonthlyTable reads from the screen.
     void expectEveryMonth(const MonthlyTable& table);
 
-    // The sample without a word: in lower case, without its first and without its last letter.
+    // The capture without this word: the word is in lower case, lacks its first or lacks its last letter.
     std::vector<Text> capturesWithout(TextSpan word, Text capture) const;
 };
 
@@ -101,7 +101,7 @@ TEST_P(Monthly, OpensWithTheFirstOptionsOfItsFrames)
     EXPECT_EQ(open(), opening(window));
     EXPECT_TRUE(session.visible(window));
     EXPECT_FALSE(session.visible("startup"));
-    EXPECT_EQ(session.platform.clipboardReads, 1); // for the start-up window and the chart
+    EXPECT_EQ(session.platform.clipboardReads, 1); // the start-up window and the chart share what was read
     EXPECT_EQ(session.caption(window), expected.caption);
     EXPECT_EQ(session.options(window, "opt12").chosen, std::vector{0});
     std::map<int, Text> titles = expected.titles;
@@ -156,12 +156,12 @@ TEST_P(Monthly, ShowsEveryMonthOfItsSample)
     expectEveryMonth(expected.table(screen));
 }
 
-// Digits without a gap in every row, others in each, show which columns a figure is read from.
+// Every row is filled with digits, different ones in each row, so a wrong column gives another figure.
 TEST_P(Monthly, CutsEveryFigureAtItsColumns)
 {
     open();
     if (expected.types.empty())
-        return; // frmglarch_test.cpp
+        return; // tested in frmglarch_test.cpp
     MonthlyTable table = expected.table(screen);
     for (int month = 1; month <= 25; ++month) {
         Text digits;

@@ -11,7 +11,7 @@ namespace {
 using testing::ElementsAre;
 using testing::StartsWith;
 
-// A month of 30 days, ten of which are over: two thirds are to come.
+// The newest month has 30 days, of which ten are over and two thirds are to come.
 class MonthlySales : public testing::TestWithParam<ExpectedScreen>, public ChartWindow {
 protected:
     MonthlySales() : ChartWindow(GetParam().window, GetParam().sample)
@@ -23,7 +23,7 @@ protected:
 
     static Text field(TextSpan text) { return Text(9 - text.size(), u' ').append(text); }
 
-    // The screen with other figures in the newest month.
+    // The screen with these figures in the newest month.
     CaptureBuilder newestMonth(TextSpan volume, TextSpan sales, TextSpan profit) const
     {
         return CaptureBuilder(screen)
@@ -32,14 +32,14 @@ protected:
             .put(line, 27, field(profit));
     }
 
-    // What is shown of them.
+    // The value that the chart shows for these figures of the newest month.
     double shown(int type, TextSpan volume, TextSpan sales, TextSpan profit, std::size_t series = 0)
     {
         EXPECT_EQ(refresh(newestMonth(volume, sales, profit)), Events{});
         return newest(type, series);
     }
 
-    // What is to come of sales of 1000.
+    // The projected rest of the newest month, when its sales are 1000.
     double toCome(const CaptureBuilder& capture)
     {
         EXPECT_EQ(refresh(capture), Events{});
@@ -52,7 +52,7 @@ protected:
 
     const ExpectedScreen& expected = GetParam();
     const int line = expected.months[0].line;
-    CaptureBuilder thousand; // sales of 1000
+    CaptureBuilder thousand; // the screen with sales of 1000 in the newest month
 };
 
 TEST_P(MonthlySales, AFigureIsItsLeadingNumber)
@@ -144,7 +144,7 @@ TEST_P(MonthlySales, FiguresBeyondADoubleAreRunTimeErrors)
         int type;
         TextSpan volume, sales, profit;
     } figures[] = {{Sales, u"", u"1E999", u""},
-                   {Sales, u"", u"9E307", u""}, // what is to come of it
+                   {Sales, u"", u"9E307", u""}, // what is to come is too large
                    {Percent, u"", u"1E-300", u"1E300"},
                    {PerUnit, u"1E-300", u"", u"1E300"}};
     for (const auto& [type, volume, sales, profit] : figures) {

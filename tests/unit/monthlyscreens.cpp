@@ -38,7 +38,7 @@ std::vector<ExpectedType> salesTypes(Figure (*percent)(Columns, Columns), TextSp
             {unitOption, {1, u"Unit G/P"}, 2, percent(profit, volume)}};
 }
 
-// The right half begins a line lower than the left one.
+// 13 months in the left half of the screen and 12 in the right half, which begins a line lower.
 std::vector<MonthColumn> twoHalves(int line)
 {
     return {{1, 13, line, 1}, {14, 12, line + 1, 42}};
@@ -257,7 +257,7 @@ const std::vector<ExpectedScreen>& otherScreens()
                      {2, 1, u"SEP99", 4.2148},
                      {0, 6, u"APR99", 56966.65},
                      {0, 12, u"OCT98", 51142.29},
-                     {0, 13, u"SEP98", 49425.37}, // at the head of the right half
+                     {0, 13, u"SEP98", 49425.37}, // the first month in the right half
                      {0, 25, u"SEP97", 45972.73}}},
         {.window = "frmLateCharge",
          .sample = "latecharge",

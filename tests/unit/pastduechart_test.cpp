@@ -6,7 +6,7 @@ namespace {
 
 const Texts sixMonths{u"MAY99", u"JUN99", u"JUL99", u"AUG99", u"SEP99", u"OCT99"};
 
-// A screen of these lines; its first customer is opened.
+// Opens the chart of the first customer on a screen of these lines.
 RankedSession opened(const Lines& lines)
 {
     return {pastdue, hostScreen(lines), 1};
@@ -46,7 +46,7 @@ TEST(PastdueChart, ShowsTheSecondCustomerToo)
     EXPECT_EQ(chart.axisMax, 900); // May: 210 + 220 + 230 + 240
 }
 
-// Eight amounts beside each other; a column to the left or right gives other figures.
+// Eight amounts without a gap: a border that is off by one column gives other figures.
 TEST(PastdueChart, EveryFieldHasItsColumns)
 {
     const auto line = [](char16_t month, char16_t tail) {
@@ -82,7 +82,7 @@ TEST(PastdueChart, EveryFieldHasItsColumns)
                                       {70000064, 70000052, 70000047, 70000035, 70000023, 70000011},
                                       {80000064, 80000052, 80000047, 80000035, 80000023, 80000011}};
     EXPECT_EQ(chart.series, series);
-    EXPECT_EQ(chart.axisMax, 360000512); // 8 times 64 more than 10000000 + … + 80000000
+    EXPECT_EQ(chart.axisMax, 360000512); // 10000064 + 20000064 + … + 80000064
 }
 
 TEST(PastdueChart, TheAxisReachesTheAmountOfTheRankLine)
@@ -91,13 +91,13 @@ TEST(PastdueChart, TheAxisReachesTheAmountOfTheRankLine)
     rank.resize(68, u' ');
     RankedSession session = opened({pastdueTitle, rank + u"9876543219", fourBuckets, u"OCT99", u"SEP99",
                                     u"AUG99", u"JUL99", u"JUN99", u"MAY99"});
-    EXPECT_EQ(session.drawn().axisMax, 87654321); // columns 70 to 77 between the 9s
+    EXPECT_EQ(session.drawn().axisMax, 87654321); // of columns 70 to 77; a 9 is on either side
 }
 
 struct Captions {
     std::size_t length; // without the carriage return
     std::size_t buckets;
-    double largest; // of the row totals
+    double largest; // the largest sum of a month
 };
 
 class PastdueBuckets : public testing::TestWithParam<Captions> {};

@@ -42,7 +42,7 @@ TEST(PastdueFiles, ListTheCustomersByRank)
 
 TEST(PastdueFiles, ACustomerWithoutALineOfItsOwnGetsTheLinesOfTheOneBefore)
 {
-    // the second rank is marked where it is not to be found again
+    // The second "RANK:" is not at the beginning of its line, so that line is not found again.
     RankedSession session(pastdue,
                           hostScreen({pastdueTitle, u"RANK:  1     10001", u"       2     10002 RANK:"}));
     ASSERT_EQ(session.rows().size(), 2u);

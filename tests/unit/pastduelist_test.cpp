@@ -46,7 +46,7 @@ TEST(PastdueList, AmountsAreEightColumnsFromColumnSeven)
                                        u"80000019"
                                        u"9999",
                                    }));
-    // 10000001 is not due; 20000003 + 30000005 + 40000007 + 50000011 + 60000013 + 70000017 + 80000019 is.
+    // All but 10000001 is past due.
     EXPECT_EQ(session.rows().at(0).at(5), u"360000076");
     EXPECT_EQ(session.rows().at(0).at(6), u"350000075");
 }
@@ -58,7 +58,7 @@ struct Length {
 
 class AgeingLine : public testing::TestWithParam<Length> {};
 
-// Every amount is a 1 in the first of its columns, so a short line holds it whole or not at all.
+// Every amount is a 1 in the first of its columns, so a line that ends within an amount still holds it whole.
 TEST_P(AgeingLine, IsSummedAsFarAsItReaches)
 {
     const Text whole = u"OCT99 1       1       1       1       1       1       1       1       1       ";
@@ -116,8 +116,8 @@ TEST(PastdueList, OnlyLinesWithTheCurrentMonthsLabelAreTotalled)
                hostScreen({pastdueMonths, first, ageing(u"SEP99", {u"1"}), ageing(u"MAY99", {u"7"}),
                            ageing(u"OCT98", {u"5"})}),
                {u"0"}},
-              // The second line of labels holds OCT99 too: it is an ageing line of the customer, with blank
-              // amounts.
+              // The second line of labels holds OCT99, so it is also an ageing line of the first customer. It
+              // has no amounts.
               {"the labels of a later page take over",
                hostScreen({pastdueMonths, first, october, u"Mlabel NOV99OCT99SEP99AUG99JUL99JUN99", october,
                            second, ageing(u"NOV99", {u"20", u"2"}), october}),
@@ -143,7 +143,7 @@ TEST(PastdueList, ALineMayBeRankAndAgeingLineAtOnce)
     const Rows rows = session.rows();
     EXPECT_EQ(rows.at(0).at(5), u"7");
     EXPECT_EQ(rows.at(1).at(1), u"1200");
-    // "2" of columns 7 to 14, "1200" of 15 to 22 and "99" of 23 to 30.
+    // Of the rank line, columns 7 to 14 give "2", columns 15 to 22 "1200" and columns 23 to 30 "99".
     EXPECT_EQ(rows.at(1).at(5), u"1301");
     EXPECT_EQ(rows.at(1).at(6), u"1299");
 }
@@ -156,8 +156,8 @@ TEST(PastdueList, RanksAreRowsWhateverTheirOrder)
         return RankedSession(pastdue, hostScreen({pastdueTitle}) + hostScreen(lines)).column(1);
     };
     EXPECT_EQ(listed({second, first}), (Texts{u"10001", u"10002"}));
-    // There are as many rows as "RANK:" lines: a rank that is missing pushes the last one out, and one that
-    // comes twice is kept once.
+    // The list has as many rows as there are "RANK:" lines. So if a rank is missing, the last one is not
+    // listed, and if one occurs twice, a row is empty.
     EXPECT_EQ(listed({first, third, fourth}), (Texts{u"10001", u"0", u"10003"}));
     EXPECT_EQ(listed({first, u"RANK:  1     10002"}), (Texts{u"10002", u"0"}));
 }

@@ -85,7 +85,7 @@ TEST_F(Windows, CanBeLoadedAgainByTheirOwnButton)
         window.show();
     };
     window.controls().press("cmdAny");
-    EXPECT_EQ(window.afterClick, u"a text of the handler's own"); // the handler is still whole
+    EXPECT_EQ(window.afterClick, u"a text of the handler's own"); // the running handler was not destroyed
     EXPECT_THAT(kinds, ElementsAre(Load, Show, Hide, Unload, Load, Show));
 }
 

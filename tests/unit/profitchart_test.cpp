@@ -16,7 +16,7 @@ Chart components(TextSpan volume, TextSpan margin)
     return opened(MonthToMonthScreen().add(1, u"5", volume, margin)).drawn("ChartFX2");
 }
 
-// The newest month's value for a profit, sales and volume as they are in its columns.
+// The value that the chart shows for the newest month, when its columns hold these texts.
 double newest(int type, TextSpan profit, TextSpan sales, TextSpan volume)
 {
     MonthToMonthScreen screen;

@@ -1,5 +1,5 @@
-// The columns of the two profit screens. Figures fill them to the edges, with other digits on both sides, so
-// a column or a width that is off by one reads another figure.
+// The columns of the two profit screens. Figures fill them to the edges and have other digits on both sides,
+// so a column or width that is off by one gives another figure.
 #include "rankedfixture.h"
 
 namespace plotvue::test {
@@ -96,7 +96,8 @@ INSTANTIATE_TEST_SUITE_P(Both, ProfitColumns,
                                          Analysis{frmProfRank, u"RANKED PROFIT AN", u"P:", 8765432101}),
                          [](const auto& tested) { return std::string(tested.param.list.window); });
 
-// In the drill-down windows: months of eight characters without a gap, with digits before and after them.
+// The columns of the months, in the drill-down windows: eight characters each, without a gap, with digits
+// before the first and after the last.
 struct DrillDown {
     Name list;
     TextSpan title, figureMark;
@@ -114,7 +115,7 @@ protected:
         return line + u"7";
     }
 
-    // Point p carries month 13 - p.
+    // Slot 0 of the chart shows month 13, slot 12 month 1.
     Chart chart(int type, Name control = "ChartFX1")
     {
         CaptureBuilder capture(1);
@@ -149,7 +150,7 @@ TEST_P(ProfitMonths, OfVolumeSalesAndProfit)
 
 TEST_P(ProfitMonths, OfThePercentageReadTheProfitOneCharacterWider)
 {
-    // After each profit comes the 3 of the next one, after the last the 7.
+    // The character after each profit is the 3 of the next one; after the last it is the 7.
     EXPECT_EQ(chart(3).series, std::vector<Numbers>{expected([](int k) {
                   return (month(34567800, k) * 10 + (k == 13 ? 7 : 3)) / month(23456700, k) * 100;
               })});

@@ -51,7 +51,7 @@ TEST(RankedProfit, SaysWhatTheTerritoryGained)
     RankedProfitScreen screen;
     screen.add(1, u"5").put(totalsLine, 1, u"Mprofit   8000.75  9 -9250.25");
     RankedSession session = opened(screen);
-    // The 9 is in column 20, which is read on the month-to-month screen only.
+    // The 9 is in column 20. Only on the month-to-month screen does that column belong to the profit.
     EXPECT_EQ(session.header("txtL2"),
               u"Total profit for the territory increased by  17251 (from -9251 to  8000).");
     EXPECT_EQ(session.header("txtHeader"), u"RANKED PROFIT ANALYSIS");
@@ -106,7 +106,7 @@ TEST(RankedProfit, AComponentLineOfEitherKindIsShown)
     EXPECT_EQ(components(session, 2), (Numbers{6, 7}));
 }
 
-// An entry with both lines: the block of five then ends with the sales.
+// An entry with a "P:" and a "GAIN:" line. The fifth of its lines is then that of the sales.
 CaptureBuilder withBothLines(bool profitLast)
 {
     RankedProfitScreen screen;
@@ -130,15 +130,14 @@ TEST(RankedProfit, OfTwoComponentLinesTheLaterIsShown)
 
 TEST(RankedProfit, TheMonthsOfAnEntryWithBothLinesAreALineOff)
 {
-    // The lines of figures begin in column 3. The ones below are the volume and the sales of the newest
-    // month.
+    // The volume of the newest month is 70, its sales are 700.
     CaptureBuilder screen = withBothLines(true);
     screen.put(8, 1, u"V       70").put(9, 1, u"S      700");
     RankedSession session = opened(screen);
     session.click(1);
-    EXPECT_EQ(session.newest(), 70); // as sales
+    EXPECT_EQ(session.newest(), 70); // charted as sales
     session.chooseType(1);
-    EXPECT_EQ(session.newest(), 700); // as profit
+    EXPECT_EQ(session.newest(), 700); // charted as profit
 }
 
 TEST(RankedProfit, TheLaterComponentLineIsKeptOfTheEntryToo)
@@ -177,7 +176,7 @@ TEST(RankedProfit, AnyLineWithPAndAColonIsAProfitLine)
     RankedProfitScreen screen;
     screen.add(1, u"50").add(2, u"40").put(14, 1, u"P     -7 STEP:");
     RankedSession session = opened(screen);
-    // The second entry's profit is now -7; what it counted before stays counted.
+    // The profit of the second entry changes to -7, but the entry is still counted as a row.
     const Text text = screen.text();
     EXPECT_EQ(readRanked(frmProfRank, text).entry(2).numbers[profit::figure], -7);
     EXPECT_EQ(session.column(2), (Texts{u"10001", u"0"}));

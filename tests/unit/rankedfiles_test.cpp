@@ -13,7 +13,7 @@ struct Case {
     Use use;
     Trouble trouble;
     const char* file;
-    std::string error{}; // how it begins after the file's name; empty: "End of list"
+    std::string error{}; // beginning of what is said after the file's name; empty: "End of list"
 };
 
 const char* const list = "plotvue.txt";
@@ -118,7 +118,7 @@ TEST_P(RankedFiles, TheScratchFileIsMissing)
 
 TEST_P(RankedFiles, TheScratchFileCannotBeRead)
 {
-    RankedSession session(GetParam().list, u"\"" + GetParam().capture); // refused: the start is shown
+    RankedSession session(GetParam().list, u"\"" + GetParam().capture); // shows the start-up window
     session.copy(GetParam().capture);
     session.platform.listener = [&, before = session.platform.listener](const Event& event) {
         if (event.kind == Event::Kind::Load)
@@ -129,7 +129,7 @@ TEST_P(RankedFiles, TheScratchFileCannotBeRead)
     EXPECT_TRUE(failed(session, "error The file pvuscrn.txt in the working directory cannot be read ("));
 }
 
-// Five lines of an entry as the screen has them, each with its carriage return, as fields of a record.
+// The five lines of an entry, each with its carriage return, written as fields of a record.
 std::string fields(const CaptureBuilder& capture, int number)
 {
     const Text text = capture.text(u"\r");
@@ -181,7 +181,7 @@ TEST(ListFile, IsReadAgainForEveryDrawing)
     EXPECT_EQ(session.subject().substr(18, 8), u"SOMEBODY");
 }
 
-// Records of customers who are not the chosen one, 20001 and so on.
+// Records of the customers 20001, 20002 and so on, none of whom is the chosen one.
 std::string others(int count, const std::string& restOfRecord)
 {
     std::string records;

@@ -243,7 +243,7 @@ Text vendorLine(TextSpan rank, TextSpan vendor, TextSpan category)
         .text(u"");
 }
 
-// A line of 13 figures: 8 columns each, from column 3 on.
+// A line with a figure for each month: 8 columns each, from column 3 on.
 Text months(TextSpan mark, const Lines& figures)
 {
     Text line = atLeft(mark, 2);
@@ -275,7 +275,7 @@ Text twoPairs()
     });
 }
 
-// A line of figures: 13 columns and a blank each, from column 9 on.
+// A line with a figure for each month: 13 columns and a blank each, from column 9 on.
 Text ratioLine(TextSpan mark, TextSpan code, const Lines& figures)
 {
     Text line = atLeft(Text(mark) + Text(code), 8);
@@ -284,7 +284,7 @@ Text ratioLine(TextSpan mark, TextSpan code, const Lines& figures)
     return line;
 }
 
-// A figure of 13 columns from column 3 on, the value from 31, the benchmark from 45.
+// The figure, the value and the benchmark have 13 columns each, from columns 3, 31 and 45 on.
 Text benchmarkLine(TextSpan figure, TextSpan value, TextSpan benchmark)
 {
     return CaptureBuilder(1)
@@ -304,7 +304,7 @@ Text explained(TextSpan data, TextSpan formula, TextSpan note, TextSpan third)
     return hostScreen({ratioTitle, u"1:GP  ", u"2:GP  ", third, data, formula, note});
 }
 
-// The first is known by its code, the second has a name and a note of its own.
+// PlotVue knows the first ratio by its code. The second has a name and a note on the screen.
 Text twoRatios()
 {
     return hostScreen({

@@ -58,7 +58,7 @@ void blockFile(const char* file); // puts a directory in its place: nobody can r
 Text digits(int number);
 Text atRight(TextSpan text, std::size_t width);
 Text atLeft(TextSpan text, std::size_t width);
-Text hostScreen(const Lines& lines); // just these lines
+Text hostScreen(const Lines& lines); // with these lines only
 
 // A capture of each ranked screen, with three entries.
 struct ThreeEntries {
@@ -82,8 +82,8 @@ inline constexpr auto nameOfList = [](const auto& tested) { return std::string(t
 inline constexpr Name m2m = "frmM2Mpft", profRank = "frmProfRank";
 inline constexpr int labelLine = 3, totalsLine = 4, firstEntryLine = 5, linesAnEntry = 5;
 
-// A screen with one page heading, then five lines for each entry. Entry r is customer 10000 + r, "CUSTOMER
-// r", group "GROUP r". In month k its sales are 10 * r + k, its volume is 1000 more, its profit 2000 more.
+// A screen with one page heading, then five lines for each entry. Entry 7 is customer 10007, "CUSTOMER 7",
+// group "GROUP 7". In month k its sales are 70 + k, its volume is 1000 more, its profit 2000 more.
 class ProfitScreen : public CaptureBuilder {
 public:
     ProfitScreen(TextSpan title, TextSpan figureMark);
@@ -134,10 +134,10 @@ Text twoPairs();
 inline constexpr Name ratios = "frmRatio";
 inline constexpr TextSpan ratioTitle = u"FINANCIAL RATIO ANALYSIS";
 
-Text ratioLine(TextSpan mark, TextSpan code, const Lines& figures);      // the first or second line
-Text benchmarkLine(TextSpan figure, TextSpan value, TextSpan benchmark); // the third
-Text ratioBlock(TextSpan code);                                          // just the code
-Text explained(TextSpan data, TextSpan formula, TextSpan note, TextSpan third = u"3:"); // one ratio, "GP  "
+Text ratioLine(TextSpan mark, TextSpan code, const Lines& figures);      // a ratio's first or second line
+Text benchmarkLine(TextSpan figure, TextSpan value, TextSpan benchmark); // a ratio's third line
+Text ratioBlock(TextSpan code);                                          // a ratio with its code only
+Text explained(TextSpan data, TextSpan formula, TextSpan note, TextSpan third = u"3:"); // the ratio "GP  "
 Text twoRatios();
 
 } // namespace plotvue::test

@@ -1,4 +1,4 @@
-// The way through a ranked list: a click on a row, Back and Down, and the ends.
+// Steps through a ranked list: a click on a row, Back and Down, and what happens at its ends.
 #include "rankedfixture.h"
 
 namespace plotvue::test {
@@ -8,7 +8,7 @@ class RankedSteps : public testing::TestWithParam<ThreeEntries> {
 protected:
     RankedSession opened(int row) { return {GetParam().list, GetParam().capture, row}; }
 
-    // The entry is drawn, and the chosen-row file names it.
+    // Expects that this entry is charted and that the chosen-row file names it.
     void expectEntry(RankedSession& session, std::size_t number)
     {
         EXPECT_TRUE(session.subject().starts_with(GetParam().subjects.at(number - 1)));
@@ -118,7 +118,7 @@ TEST_P(RankedSteps, KeepTheDataTypeUntilTheChartIsClosed)
     EXPECT_EQ(session.drawn().titles.at(1), u"Sales");
 }
 
-// The grid column of a row is its key, in quotation marks where that is a text.
+// The key of a row, taken from its cells and written as in the chosen-row file.
 std::string keyOfRow(const RankedScreen& screen, const Texts& row)
 {
     std::string record;
@@ -168,7 +168,7 @@ TEST(RankedKeys, OfTwoEntriesAlikeTheFirstIsTaken)
     EXPECT_EQ(session.newest(), 21);
     session.back();
     EXPECT_EQ(session.subject().substr(0, 15), u"Customer: 10001");
-    // The second of them cannot be passed: it is found as the first.
+    // Two entries have the same key, so the second is found as the first, and Down never gets past it.
     for (int press = 0; press < 3; ++press) {
         session.down();
         EXPECT_EQ(session.subject().substr(0, 15), u"Customer: 10777");
@@ -189,7 +189,7 @@ TEST(RankedKeys, TheSameCustomerWithAnotherGroupIsAnother)
 
 TEST(RankedKeys, AHundredEntriesAreWalked)
 {
-    // Two lines each: with their months they would not fit into 500 lines.
+    // Each entry has only two lines here, because the list reads 500 lines at most.
     Text capture = u"TO MONTH PROFIT AN\r\n";
     for (int entry = 1; entry <= 100; ++entry)
         capture +=

@@ -1,4 +1,4 @@
-// The chart of a ratio: thirteen months, and its name.
+// The chart of a ratio, which shows its name and thirteen months.
 #include "rankedfixture.h"
 
 namespace plotvue::test {
@@ -9,7 +9,7 @@ RankedSession opened(TextSpan capture, int row = 1)
     return {ratios, capture, row};
 }
 
-// One ratio with these lines.
+// A screen with one ratio, which has these lines.
 Text oneRatio(const Lines& lines)
 {
     return hostScreen({ratioTitle, u"Mlabel " + Text(monthLabels)}) + hostScreen(lines);
@@ -28,7 +28,8 @@ TEST(RatioChart, ShowsThirteenMonthsOfTheClickedRatio)
     EXPECT_FALSE(chart.decimals);
 }
 
-// Figures of thirteen columns with other digits on both sides.
+// Each figure fills its thirteen columns and has other digits on both sides, so a border that is off by one
+// gives another figure.
 TEST(RatioChart, EveryFieldHasItsColumns)
 {
     RankedSession session = opened(hostScreen({
@@ -87,7 +88,7 @@ struct RatioTexts {
     TextSpan code, name, note;
 };
 
-// The code of the second line counts, not that of the first.
+// The name and the note follow from the code on the second line of the ratio, not from that on the first.
 void expectTexts(const RatioTexts& expected, TextSpan nameInList)
 {
     SCOPED_TRACE(toUtf8(expected.code));
@@ -169,7 +170,7 @@ TEST(RatioChart, TheScreensOwnNameWinsOverThatOfTheCode)
         RankedSession session = opened(oneRatio({u"1:CUR ", u"2:CUR ", line, u"4: ", u"5: ", u"6: STD"}));
         EXPECT_EQ(session.rows().at(0).at(1), name);
         EXPECT_EQ(session.subject(), name);
-        session.use("cmdNote"); // the note is that of the code all the same
+        session.use("cmdNote"); // the note still follows from the code
         EXPECT_EQ(
             session.events(),
             Events{"message Ratio Notes: Ratio of short-term assets to short-term liabilities.  A quick "

@@ -1,4 +1,4 @@
-// The list file of the ratios, and the messages about the ratio that is drawn.
+// The list file of the ratios, and the messages about the ratio that is charted.
 #include "rankedfixture.h"
 
 namespace plotvue::test {
@@ -9,7 +9,7 @@ RankedSession opened(TextSpan capture, int row = 1)
     return {ratios, capture, row};
 }
 
-// What happens when the button is pressed.
+// The events when the button is pressed.
 Events pressed(RankedSession& session, Name button)
 {
     session.use(button);
@@ -80,7 +80,7 @@ TEST(RatioSteps, OnlyALineThatBeginsWithItsMarkIsTheRatio)
     RankedSession session = opened(twoRatios());
     writeFile("plotvue.txt", "\"\",\"9:CUR \r\",\"2:Q   \r\",\"3:\r\",\"4:\r\",\"5:\r\",\"6:\r\"\r\n"
                              "\"\",\"1:CUR \r\",\"2:CUR \r\",\"3:\r\",\"4:\r\",\"5:\r\",\"6:\r\"\r\n");
-    EXPECT_EQ(pressed(session, "cmdNext"), endOfList(session.drillDown)); // it was the second and last
+    EXPECT_EQ(pressed(session, "cmdNext"), endOfList(session.drillDown)); // the record of "CUR " is the last
 }
 
 TEST(RatioSteps, DownToARatioCutShortIsARunTimeErrorAndNotTheEndOfTheList)
@@ -121,7 +121,8 @@ TEST(RatioExplanations, FollowTheRatioThatIsShown)
 
 TEST(RatioExplanations, WithoutTextsTheFormulaKeepsItsCaptions)
 {
-    RankedSession session = opened(explained(u"4:", u"5:", u"6:")); // three characters each with the line end
+    // A line must have three characters. These have, with their carriage return.
+    RankedSession session = opened(explained(u"4:", u"5:", u"6:"));
     EXPECT_EQ(pressed(session, "cmdFormula"),
               Events{"message Formula: Formula in QXM: \r\rCurrent month data: "});
     EXPECT_EQ(pressed(session, "cmdNote"), Events{"message Ratio Notes: "});
@@ -155,7 +156,7 @@ TEST(RatioExplanations, ThatAreCutOffAreARunTimeError)
     for (std::size_t lines = 2; lines < whole.size(); ++lines)
         screens.emplace_back(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(lines));
     for (std::size_t line = 4; line <= 6; ++line)
-        screens.emplace_back(whole)[line] = u"-"; // two characters with the line end
+        screens.emplace_back(whole)[line] = u"-"; // too short: two characters with the carriage return
     for (const Lines& lines : screens) {
         RankedSession session(ratios, hostScreen(lines));
         EXPECT_EQ(session.rows().size(), 1u);

@@ -60,7 +60,8 @@ TEST(RatioList, ARatioWithoutMoreLinesHasNoName)
 
 TEST(RatioList, MarkersCountWhereverTheyStand)
 {
-    // "2:1" in a note is a line of codes too: columns 3 to 6 hold none
+    // The "2:" in this note counts as the marker of a ratio's second line, but columns 3 to 6 hold no known
+    // code.
     RankedSession session(ratios,
                           hostScreen({ratioTitle, u"1:CUR ", u"2:CUR ", u"6: Should be 2:1 or better."}));
     EXPECT_EQ(session.rows().size(), 1u);
@@ -69,7 +70,7 @@ TEST(RatioList, MarkersCountWhereverTheyStand)
 
 TEST(RatioList, ALineMayHoldSeveralMarkers)
 {
-    // in their order: a new ratio, its name, its value
+    // The markers apply in the order "1:", "2:", "3:": they add the ratio and read its name and its values.
     RankedSession session(
         ratios, hostScreen({ratioTitle, u"1:ROE  2: 3:                  ABCDEFGHIJKLMNOPQRSTUVWXYZabcdef"}));
     EXPECT_EQ(session.rows().at(0),

@@ -12,7 +12,7 @@ struct Row {
     bool needsZero = false;
 };
 
-// In the order in which they are tried.
+// The screens in the order in which recognition must try them.
 constexpr Row order[] = {
     {u"QXM31H"},
     {u"QXM21D"},
@@ -38,7 +38,7 @@ constexpr Row order[] = {
     {u"QXMLCHIST"},
 };
 
-// The marker of the screen that the text is; empty: none.
+// The marker of the screen that the text is recognised as; empty if it is none.
 TextSpan recognised(TextSpan text)
 {
     const Screen* screen = recognise(text);
@@ -110,7 +110,7 @@ TEST(Recognition, AMarkerMustBeWhole)
         Text cut(row.marker);
         cut.pop_back();
         if (row.marker == u"QXM12P2")
-            continue; // what is left of it is a marker
+            continue; // without its last character it is "QXM12P", a marker, too
         EXPECT_EQ(recognised(u"0 " + cut), u"") << bytes(cut);
         EXPECT_EQ(recognised(u"0 " + cut + u"\r\n" + row.marker.back()), u"") << bytes(cut);
         EXPECT_EQ(recognised(u"0 " + Text(row.marker.substr(1))), u"") << bytes(cut);
@@ -146,7 +146,7 @@ TEST(ZeroCheck, FourScreensMustHoldAZero)
 {
     for (const Row& row : order) {
         if (row.marker == u"PCS05H1B")
-            continue; // holds one itself
+            continue; // its marker holds a 0
         const Text withoutZero = u"AT 11:11 " + Text(row.marker) + u" PAGE 1";
         EXPECT_EQ(recognised(withoutZero), row.needsZero ? u"" : row.marker) << bytes(row.marker);
     }

@@ -1,5 +1,5 @@
-// Every figure of a sample is shown somewhere: in a chart, a list, a text or a message. So a field that is
-// forgotten in the description of a screen is noticed, whoever adds the screen.
+// Every figure of a sample is shown somewhere: in a chart, a list, a text or a message. So these tests notice
+// a field that is forgotten in the description of a new screen.
 #include "capture/number.h"
 #include "support/capturebuilder.h"
 #include "support/windows.h"
@@ -14,7 +14,7 @@
 namespace plotvue::test {
 namespace {
 
-// What is shown of a sample, with every choice and after every click.
+// Opens a sample, makes every choice and every click, and collects what is shown.
 class Tour {
 public:
     explicit Tour(const std::string& sampleName)
@@ -48,7 +48,7 @@ private:
             texts_ += event + '\n';
     }
 
-    // The rows of a group window open nothing.
+    // Clicks every row and uses the window that it opens. In a group window, a row opens none.
     void useRows(Name list, Name grid)
     {
         const std::string drillDown = std::string(list) + "A";
@@ -61,7 +61,7 @@ private:
         }
     }
 
-    // Looks at the window with every combination of the options of its groups.
+    // Looks at the window once for every combination of the options in its groups.
     void chooseAndLook(Name window, const std::map<Name, std::vector<int>>& groups, std::set<Name> chosen)
     {
         for (const auto& [group, first] : groups)
@@ -96,13 +96,13 @@ private:
     }
 
     Session session_;
-    std::set<double> values_; // charted or listed, without their signs
+    std::set<double> values_; // absolute values of the figures in charts and lists
     std::string texts_;
 };
 
 std::vector<std::string> sampleNames()
 {
-    std::vector<std::string> names; // without glhistory, which holds balances: frmglarch_test.cpp
+    std::vector<std::string> names; // all but glhistory, which frmglarch_test.cpp tests
     for (const auto& entry : std::filesystem::directory_iterator(PLOTVUE_SAMPLES))
         if (const std::string name = entry.path().stem().string(); name != "glhistory")
             names.push_back(name);
@@ -116,7 +116,8 @@ const std::regex loss("^P: +-");
 
 class Samples : public testing::TestWithParam<std::string> {};
 
-// Figures have a decimal point; those of the lines V, S and P of a ranked screen have none.
+// What counts as a figure: a number with a decimal point, and on the lines V, S and P of a ranked screen any
+// number.
 TEST_P(Samples, AreShownWithEveryFigure)
 {
     const std::regex figure(R"([0-9][0-9,]*\.[0-9]+)"), month("[0-9]+"), months("^[VSP]  ");

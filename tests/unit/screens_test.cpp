@@ -80,7 +80,8 @@ TEST(Screens, HaveTheNameOfTheListInTheirDrillDown)
 
 TEST(Screens, HaveExpectationsInTheTestsOfTheirKind)
 {
-    std::set<Name> expected{"frmQXM21CXS", "frmQXM21SXC"}; // groupcxs_test.cpp, groupsxc_test.cpp
+    // groupcxs_test.cpp and groupsxc_test.cpp hold the expectations of these two.
+    std::set<Name> expected{"frmQXM21CXS", "frmQXM21SXC"};
     for (const ExpectedScreen& screen : monthlyScreens())
         expected.insert(screen.window);
     for (const ThreeEntries& screen : everyRankedScreen())

@@ -23,7 +23,7 @@ Text said(Action action)
     return u"";
 }
 
-// What happens when the G/L history has another text in the place of one of its own.
+// What the error report says when `other` replaces the text `old` of the G/L history's sample.
 Text saidOfHistory(TextSpan old, TextSpan other)
 {
     Text capture = test::sample("glhistory");
@@ -63,7 +63,7 @@ TEST(Sentences, OfTextThatIsTooLong)
               u"The copied text is too large to be worked with.");
 }
 
-// The error report after the start with this capture.
+// The last event after PlotVue starts with this capture: the error report.
 std::string reported(TextSpan capture)
 {
     test::Session session;
@@ -72,7 +72,7 @@ std::string reported(TextSpan capture)
     return events.empty() ? "" : events.back();
 }
 
-// The sample with a line, counted from 1, in the place of its own.
+// The sample, with its line of this number replaced. Lines count from 1.
 Text sampleWith(std::string_view name, std::size_t line, TextSpan text)
 {
     Text capture = test::sample(name);

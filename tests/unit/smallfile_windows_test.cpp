@@ -14,7 +14,7 @@ namespace {
 
 class SmallFile : public testing::Test {
 protected:
-    Session session; // for its directory
+    Session session; // its directory holds the files
 
     static std::string failureOf(const std::function<void()>& action)
     {
@@ -60,7 +60,7 @@ TEST_F(SmallFile, AFileThatCannotBeWrittenIsARunTimeError)
 {
     std::ofstream(listFile) << "old";
     HANDLE other = CreateFileA(listFile, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0,
-                               nullptr); // for nobody to write
+                               nullptr); // nobody else may write the file meanwhile
     ASSERT_NE(other, INVALID_HANDLE_VALUE);
     const std::string failure = failureOf([] { writeRecords(listFile, {{1.0}}); });
     CloseHandle(other);

@@ -19,7 +19,8 @@ using testing::StartsWith;
 
 constexpr const char* needData = "message Need Data: Clipboard contains no data";
 
-// Long enough for every reader, with a product screen's headings and a month where it wants one.
+// A screen with this marker that every reader can read: it has 24 lines and, for the product screen, a dash
+// line and a month.
 Text screen(TextSpan marker)
 {
     return CaptureBuilder()

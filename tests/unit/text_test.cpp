@@ -161,7 +161,7 @@ TEST(Utf8, TheFirstAndTheLastOfEachLength)
         {u"\uFFFF", "\xEF\xBF\xBF"},
         {u"\U00010000", "\xF0\x90\x80\x80"},
         {u"\U0010FFFF", "\xF4\x8F\xBF\xBF"},
-        {{u'\xDBFF'}, "\xED\xAF\xBF"}, // halves of pairs
+        {{u'\xDBFF'}, "\xED\xAF\xBF"}, // one half of a surrogate pair alone
         {{u'\xDC00'}, "\xED\xB0\x80"},
         {{u'\xD7FF', u'\xDC00'}, "\xED\x9F\xBF\xED\xB0\x80"},
         {{u'\xDC00', u'\xDC00'}, "\xED\xB0\x80\xED\xB0\x80"},
@@ -191,7 +191,7 @@ TEST(Utf8, BytesThatAreNoUtf8BecomeReplacementCharacters)
     EXPECT_EQ(fromUtf8("\xC3"), u"\uFFFD");   // cut off
     EXPECT_EQ(fromUtf8("\xC3Z"), u"\uFFFDZ"); // not continued
     EXPECT_EQ(fromUtf8("\x80"), u"\uFFFD");   // a continuation alone
-    for (const char* longer : {"\xC0\x80", "\xC1\xBF", "\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF"}) // than need be
+    for (const char* longer : {"\xC0\x80", "\xC1\xBF", "\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF"}) // too long
         EXPECT_EQ(fromUtf8(longer), Text(std::strlen(longer), u'\uFFFD'));
     EXPECT_EQ(fromUtf8("\xF4\x90\x80\x80").front(), 0xFFFD); // beyond the last character
 }

@@ -68,7 +68,7 @@ INSTANTIATE_TEST_SUITE_P(
                     DataType{
                         4, u"Unit G/P", {3000, 12.5, 0, 250, 250, 250, 250, 250, 250, 250, 250, -250, 250}}));
 
-// Thirteen figures beside each other; a column to the left or right gives other figures.
+// Thirteen figures without a gap: a border that is off by one column gives other figures.
 TEST(VendorChart, EveryFieldHasItsColumns)
 {
     const auto line = [](char16_t mark, TextSpan tail) {

@@ -9,7 +9,7 @@ RankedSession opened(TextSpan capture, int row)
     return {vendors, capture, row};
 }
 
-// Thirty characters each.
+// Vendors and categories, each filled up to the 30 characters of its field.
 const std::string cascade = "CASCADE                       ";
 const std::string motorOil = "MOTOR OIL                     ";
 const std::string tidewater = "TIDEWATER                     ";
@@ -48,8 +48,8 @@ TEST(VendorFiles, ListThePairsByRank)
     EXPECT_TRUE(file.starts_with("\"\",\"RANK:  1 "));
 }
 
-// A missing rank has no vendor and no category. So it is found on the first line that is too short for both,
-// or after the last line of the screen.
+// A missing rank has an empty vendor and category. So its key matches the first line that is too short to
+// hold them, or else the empty line after the screen's last.
 TEST(VendorFiles, AMissingRankIsListedWithALineThatHasNoPair)
 {
     RankedSession session = opened(hostScreen({vendorTitle, vendorLine(u"2", u"B", u"Y")}), 2);

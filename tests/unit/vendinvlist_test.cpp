@@ -29,7 +29,7 @@ TEST(VendorList, EveryFieldHasItsColumns)
     const Texts row{u"1", u"123456789", u"345678901234567890123456789012", u"012345678901234567890123456789",
                     u"78abcde"};
     EXPECT_EQ(session.rows().at(0), row);
-    // The amount that is read and not shown begins in the column where the first one ends.
+    // The second amount, which is read but not shown, begins in the last column of the first.
     EXPECT_EQ(readRanked(frmVendInv, capture).entry(1).numbers[1], 901234567);
 }
 

@@ -1,4 +1,4 @@
-// What the tests of windows of every kind ask.
+// What the tests of all windows share.
 #pragma once
 
 #include "capture/utf8.h"
@@ -8,7 +8,7 @@
 
 namespace plotvue::test {
 
-// Of the options, in their order on the window.
+// The captions of the options, from top to bottom.
 inline Texts captions(const auto& options)
 {
     Texts result;
@@ -17,7 +17,7 @@ inline Texts captions(const auto& options)
     return result;
 }
 
-// Whether the last event is a run-time error, said in a sentence.
+// Whether the last event is a run-time error that is reported in a sentence.
 inline bool endsInAnError(Session& session)
 {
     const Events events = session.events();

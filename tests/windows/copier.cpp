@@ -4,9 +4,9 @@
 // copier FILE SECONDS    the same, deletes FILE, and keeps the clipboard open for that time, so that no other
 //                        program can read it
 // copier --paste FILE    writes the text of the clipboard to FILE, in UTF-8
-// copier --paste FILE FORMAT    writes the bytes that the clipboard holds in a registered format, or as
-// CF_DIB if
-//                        FORMAT is DIB; none if it holds none
+// copier --paste FILE FORMAT
+//                        writes the bytes that the clipboard holds in the registered format FORMAT, or in
+//                        CF_DIB if FORMAT is DIB, to FILE; an empty file if it holds none
 // copier                 empties the clipboard
 #include "capture/utf8.h"
 

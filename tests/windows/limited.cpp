@@ -23,8 +23,8 @@ HANDLE withoutAdministrators()
 
 int main()
 {
-    std::wstring command =
-        GetCommandLineW(); // of the program's own path, which has no blanks, and the command
+    // Its first word is the path of this program, which has no blanks. The rest is the command to run.
+    std::wstring command = GetCommandLineW();
     command.erase(0, command.find_first_not_of(L' ', command.find(L' ')));
     STARTUPINFOW start{};
     start.cb = sizeof start;

@@ -1,5 +1,5 @@
-// printer NAME COPIES: charts the text of the clipboard and presses Print. In place of the printer dialog, it
-// chooses that printer and number of copies. Everything else is as in the program.
+// printer NAME COPIES: starts PlotVue, which charts the clipboard's text, and presses Print. No printer
+// dialog opens: this program chooses the printer NAME and the number of copies.
 #include "app/application.h"
 #include "desktop/desktopplatform.h"
 #include "desktop/desktopwindow.h"

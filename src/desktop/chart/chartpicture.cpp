@@ -21,7 +21,8 @@ constexpr double metersPerInch = .0254, pointsPerInch = 72;
 
 QImage pictureOf(const ChartWidget& chart)
 {
-    // Text is drawn without the colours of a screen's pixels only if the picture might be transparent.
+    // A format with transparency: on other pictures the toolkit may give text coloured edges, which suit only
+    // the pixels of a screen.
     QImage picture(chart.size() * enlargement, QImage::Format_ARGB32_Premultiplied);
     if (picture.isNull())
         throw Failure{u"There is not enough memory for the picture."};
@@ -52,10 +53,10 @@ QByteArray pdfOf(const ChartWidget& chart)
     QPdfWriter writer(&buffer);
     writer.setTitle(toQString(titlesInOneLine(chart.chart())));
     writer.setCreator(QStringLiteral("PlotVue"));
-    writer.setResolution(chart.logicalDpiY()); // one unit of the painter is one of the widget
+    writer.setResolution(chart.logicalDpiY()); // so that a unit of the painter is a unit of the widget
     const double points = pointsPerInch / chart.logicalDpiY();
     const QSizeF page(std::ceil(chart.width() * points),
-                      std::ceil(chart.height() * points)); // kept as whole points
+                      std::ceil(chart.height() * points)); // a page has whole points
     writer.setPageSize(QPageSize(page, QPageSize::Point, QString(), QPageSize::ExactMatch));
     writer.setPageMargins({});
     QPainter painter(&writer);
