@@ -25,7 +25,7 @@ struct ChartDesign {
 
     Bars bars = Bars::Stacked;
     Labels labels = Labels::Months;
-    int projection = -1; // number of the series that projects the previous one; -1: none
+    int projection = -1; // number of the series that holds the projections of the one before; -1: none
     // By series, used if several series are shown; SetSeriesLegend overrides them. A series that is shown
     // alone or has no legend has the title at position 1 as its name.
     std::map<int, TextSpan> legends{};

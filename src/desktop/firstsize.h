@@ -1,5 +1,5 @@
-// The initial size of a window: the one that it asks for, or what fits on the screen with the frame around
-// it.
+// The initial size of a window: the one that it asks for, or a smaller one that fits on the screen with the
+// window's frame.
 #pragma once
 
 #include <QSize>
@@ -8,9 +8,9 @@ namespace plotvue {
 
 class WindowWidget;
 
-// Call this before the window is shown for the first time. The desktop says how wide its frames are only when
-// it shows a window: until then another window's frame counts, or an estimate, which the window corrects when
-// it appears.
+// Call this before the window is shown for the first time. Before that, the desktop does not say how wide the
+// window's frame will be, so the frame of another window is used, or an estimate. When the window appears, it
+// is made smaller if its real frame is too wide.
 void setFirstSize(WindowWidget& window, QSize wanted);
 
 } // namespace plotvue

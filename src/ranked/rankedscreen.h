@@ -39,7 +39,7 @@ struct GridColumn {
 struct RankedGrid {
     GridBox box;
     std::vector<GridColumn> columns;
-    int count = 0;                         // index in RankedFigures::counts, which holds the number of rows
+    int count = 0;                         // index in RankedFigures::counts
     bool (*lists)(const Entry&) = nullptr; // null: lists every entry
     std::optional<PictureBox> picture{};   // beside the grid
 };

@@ -8,7 +8,7 @@ namespace plotvue {
 
 namespace {
 
-// Relative to the size of the window's font.
+// The text sizes of a chart, as multiples of the size of the window's font.
 constexpr double smallSize = .92, mediumTitleSize = 1.25, largeTitleSize = 1.5;
 constexpr double minPoints = 7.5; // smaller type is hard to read
 
@@ -34,7 +34,7 @@ double pointsOf(const QFont& base, int baseDpi)
     return base.pointSizeF() > 0 ? base.pointSizeF() : base.pixelSize() * 72. / qMax(1, baseDpi);
 }
 
-// Indexed by TextRole.
+// The fonts of all text roles, in the order of TextRole.
 std::array<QFont, textRoles> fontsFor(const QFont& base, int baseDpi, double factor)
 {
     const double tinySize = minPoints / pointsOf(base, baseDpi);
