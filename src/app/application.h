@@ -14,8 +14,8 @@ struct Application {
 
     Platform& platform;
     Startup startup;
-    std::vector<std::unique_ptr<Window>> windows; // of the screens
-    std::vector<DrillDownWindow*> drillDowns;     // those of `windows`
+    std::vector<std::unique_ptr<Window>> windows; // the windows of all screens
+    std::vector<DrillDownWindow*> drillDowns;     // the drill-down windows among `windows`
 };
 
 } // namespace plotvue

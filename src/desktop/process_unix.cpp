@@ -8,7 +8,8 @@ namespace plotvue {
 
 void enterWorkingDirectory()
 {
-    // The menu entry starts a script that creates the folder.
+    // Nothing to do: the menu entry starts PlotVue by a script, which creates its private folder and removes
+    // it.
 }
 
 void writeError(TextSpan line)

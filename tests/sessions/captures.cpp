@@ -142,7 +142,8 @@ Lines farDown(Random& random, const Lines& lines)
     return others;
 }
 
-// Replaces bare line feeds with CR LF. Only the desktop platform does so itself, and both must show the same.
+// Replaces bare line feeds with CR LF. The desktop platform would do so itself, the platform in memory would
+// not, and the windows on both must show the same.
 std::string withLineEndsMended(const std::string& text)
 {
     std::string mended;

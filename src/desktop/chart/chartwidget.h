@@ -21,15 +21,15 @@ public:
 
     int points() const { return data_->pointCount(); } // without an empty slot at the end
     int currentPoint() const { return current_; }      // -1: none
-    void setCurrentPoint(int point);                   // -1 or a number that is no point: none
+    void setCurrentPoint(int point);                   // none if `point` is -1 or no point of the chart
     int pointAt(QPoint position) const;                // -1: none
     QRect pointRect(int point) const;                  // its whole slot, in widget coordinates
 
     const Layout& chartLayout() const; // for the current size of the widget
 
-    // Paints the chart for printing and copying: on white, without a current point. It covers the widget's
-    // size in units of the painter, from its origin. `pixels` is the number of device pixels per unit; 0:
-    // vectors.
+    // Paints the chart for printing and copying: on white, without a current point. It begins at the
+    // painter's origin, and is as many of the painter's units wide and high as the widget is on the screen.
+    // `pixels` is the number of device pixels per unit, or 0 for vectors.
     void paint(QPainter& painter, double pixels = 0) const;
 
     QSize minimumSizeHint() const override { return {280, 220}; }
