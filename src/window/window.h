@@ -7,7 +7,7 @@
 namespace plotvue {
 
 // Event handlers by control name. The argument is the index of an option, the row of a grid, or 0 for a
-// button. A control without a handler does nothing, like a grid of figures.
+// button. A control that does nothing, such as a grid of figures, has no handler.
 using Handlers = std::map<Name, std::function<void(int)>>;
 
 class Window : private ControlsOwner {
@@ -24,8 +24,8 @@ public:
     void hide();
     void unload();
 
-    // Tells the user that the loaded window does not show what was last asked for. The notice goes with an
-    // empty text, and when the window is hidden.
+    // Tells the user that the loaded window does not show what was last asked for. An empty text removes the
+    // notice, and so does hiding the window.
     void setNotice(TextSpan text);
 
     bool loaded() const { return native_ != nullptr; }
@@ -41,7 +41,7 @@ protected:
     virtual void Form_Load() = 0;
     virtual void wayOut() = 0; // handles the close button of the title bar
 
-    // Runs when the window is shown without being loaded.
+    // Runs when a window that is already loaded is shown again.
     virtual void shownAgain() {}
 
     // Whether the window is loaded again when it is shown after it was hidden.
@@ -66,7 +66,7 @@ private:
     std::shared_ptr<Controls> controls_; // shared with native_, whose widgets may outlive this window
     std::unique_ptr<NativeWindow> native_;
     bool visible_ = false;
-    bool hiddenSinceLoading_ = false; // since the last load began
+    bool hiddenSinceLoading_ = false; // whether it was hidden since its last load began
 };
 
 } // namespace plotvue

@@ -20,8 +20,8 @@ bool nothingIsWritten = false;
 
 } // namespace
 
-// The linker replaces close() with this function. A network disk, or one with quotas, may report only when a
-// file is closed that it could not store it.
+// The linker replaces close() with this function. Only close() reports the failure when a network disk, or
+// one with quotas, notices late that it cannot store a file.
 extern "C" int __real_close(int descriptor); // NOLINT
 extern "C" int __wrap_close(int descriptor)  // NOLINT
 {
