@@ -1,5 +1,5 @@
-// The first line of the input is the chosen-row file, the rest is the list file. Every drill-down window
-// draws and steps.
+// Opens every drill-down window with small files of any bytes, presses its buttons and steps through the
+// list. The first line of the input is the chosen-row file, the rest is the list file.
 #include "app/screens.h"
 #include "files/exchange.h"
 #include "fuzz.h"
@@ -12,7 +12,7 @@ using namespace plotvue;
 
 namespace {
 
-// A temporary working directory, because the windows look for their files there.
+// A temporary working directory, because the windows read the small files there.
 struct Directory {
     Directory()
     {

@@ -1,4 +1,5 @@
-// Reads any file, and checks that a text without quotation marks that was written is read back unchanged.
+// Reads a small file of any bytes. Then writes the bytes as a text, without their quotation marks, and checks
+// that the text is read back unchanged.
 #include "files/exchange.h"
 
 #include "fuzz.h"

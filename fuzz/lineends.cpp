@@ -18,7 +18,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
         fuzz::always(mended.ends_with(u"\r\n"));
         mended.resize(mended.size() - 2);
     }
-    // All else that mendLineEnds may add are blanks and carriage returns, and only before a line feed.
+    // Apart from that, mendLineEnds may add only blanks and carriage returns, and only before a line feed.
     char16_t before = u'\n';
     std::size_t kept = 0, blanks = 0;
     for (std::size_t i = 0; i < mended.size(); ++i) {

@@ -1,5 +1,5 @@
-// Reads the number at the beginning of a field, and checks that a number written as text is read back with
-// its 15 digits.
+// Reads the number at the beginning of a field, writes it as text, and checks that this text is read back
+// with its 15 digits.
 #include "capture/number.h"
 
 #include "fuzz.h"
@@ -20,7 +20,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
         const Text text = plainNumber(value);
         fuzz::always(text.find_first_not_of(u"-.0123456789") == Text::npos);
         fuzz::always(signedNumber(value).ends_with(text));
-        // The text has 15 significant digits; the C library knows what they are and which number they give.
+        // The text has only the first 15 digits of the value. The C library tells which number they are.
         std::array<char, 32> digits{};
         std::snprintf(digits.data(), digits.size(), "%.14e", value);
         fuzz::always(leadingNumber(text) == std::strtod(digits.data(), nullptr));

@@ -1,5 +1,5 @@
-// File dialogs that keep nothing. The toolkit's own remember their folder, their history and their columns:
-// in a settings file on Unix, in the registry on Windows.
+// File dialogs that store nothing. The toolkit's own dialogs store their folder, their history and their
+// columns: in a settings file on Unix, in the registry on Windows.
 #pragma once
 
 #include <QFileDialog>
@@ -8,8 +8,8 @@
 
 namespace plotvue {
 
-// Call this at start. After it, the file dialogs that the toolkit opens by itself keep nothing either: on
-// Unix the one behind "Print to file"; on Windows there is none.
+// Call this at start. From then on, the file dialogs that the toolkit itself opens store nothing either. On
+// Unix there is one in its printer dialog, for "Print to file"; on Windows there is none.
 void keepNoSettings();
 
 struct DeleteFileDialog {

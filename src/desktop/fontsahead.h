@@ -1,5 +1,5 @@
-// Loads the fonts in background threads while the process connects to the display, which takes about as long.
-// Fonts are first needed when a window is built.
+// Loads the fonts in background threads while the process connects to the display. Both take about as long,
+// and fonts are not needed before a window is built.
 #pragma once
 
 #include <future>

@@ -1,7 +1,7 @@
 // A desktop session has a private folder, XDG_RUNTIME_DIR, in which the toolkit looks for a file when it
-// starts. Without a session the toolkit creates that folder among the temporary files, complains and leaves
-// it there. While this object exists, the process has a folder of its own instead. Nothing is created in a
-// session.
+// starts. Without a session, the toolkit would print a warning and leave such a folder among the temporary
+// files. Therefore the process then has a folder of its own while this object exists. In a session, the
+// object does nothing.
 #pragma once
 
 #include <string>
@@ -10,12 +10,12 @@ namespace plotvue {
 
 class RuntimeFolder {
 public:
-    RuntimeFolder(); // changes the environment, which is only safe while the process has one thread
+    RuntimeFolder(); // changes the environment, so the process must have only one thread
     ~RuntimeFolder();
     RuntimeFolder(const RuntimeFolder&) = delete;
 
 private:
-    std::string folder_; // empty if the session has one
+    std::string folder_; // empty in a session, which has a folder
 };
 
 } // namespace plotvue

@@ -2,7 +2,7 @@
 
 namespace plotvue {
 
-// Windows has no such folder.
+// Nothing to do: on Windows the toolkit needs no private folder.
 RuntimeFolder::RuntimeFolder() = default;
 RuntimeFolder::~RuntimeFolder() = default;
 

@@ -17,7 +17,7 @@ TEST_F(FileDialogs, AFileDialogWritesNoSettings)
     dialog->open();
     dialog->close();
     dialog.reset();
-    delete new QFileDialog; // as the toolkit's dialogs open it
+    delete new QFileDialog; // the toolkit's own dialogs do this
     qunsetenv("XDG_CONFIG_HOME");
     EXPECT_EQ(QDir(configuration.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden),
               QStringList());

@@ -1,5 +1,5 @@
-// What the list windows of the ranked screens have in common: which lines of the capture are read, which
-// entries are listed, and the way in and out.
+// What the list windows of the ranked screens have in common: which lines of the capture they read, which
+// entries they list, and how they are opened and left.
 #include "rankedfixture.h"
 
 #include <algorithm>
@@ -11,7 +11,7 @@ class RankedList : public testing::TestWithParam<ThreeEntries> {
 protected:
     RankedSession opened(TextSpan capture) { return {GetParam().list, capture}; }
 
-    // The capture with another line end.
+    // The capture, with this line end in place of CR LF.
     Text endedBy(TextSpan lineEnd)
     {
         Text text = GetParam().capture;
@@ -57,14 +57,15 @@ TEST_P(RankedList, LinesAfterTheLastOneThatIsReadAreIgnored)
 {
     const Name list = GetParam().list;
     const std::ptrdiff_t limit = list == pastdue ? 1000 : 500;
-    const std::ptrdiff_t countedLine = list == m2m || list == profRank ? 1 : 0; // of an entry: it adds a row
+    const std::ptrdiff_t countedLine =
+        list == m2m || list == profRank ? 1 : 0; // an entry's line that adds its row
     const Text before = GetParam().before(3), third = GetParam().capture.substr(before.size());
     Text filled = before;
     for (auto line = std::ranges::count(before, u'\r') + countedLine + 1; line < limit; ++line)
         filled += u".\r\n\r\n"; // the blank lines do not count
     RankedSession session = opened(filled + third);
     EXPECT_EQ(session.rows().size(), 3u);
-    session.click(1); // the third entry is found again on its line
+    session.click(1); // writes the list file
     EXPECT_NE(session.file("plotvue.txt").find(toUtf8(third.substr(0, third.find(u'\r')))),
               std::string::npos);
     session.open(filled + u".\r\n" + third);
@@ -131,7 +132,7 @@ TEST_P(RankedList, PrintsACopyAJob)
 TEST_P(RankedList, ARankOutsideTheTableIsARunTimeError)
 {
     if (GetParam().list == ratios)
-        return; // which have no ranks
+        return; // ratios have no ranks
     const Text before = GetParam().before(3);
     const std::string line = std::to_string(std::ranges::count(before, u'\r') + 1);
     for (const TextSpan rank : {u"  0", u"101", u" -1", u"   ", u"999", u"ABC", u"9E9"}) {
@@ -166,7 +167,7 @@ INSTANTIATE_TEST_SUITE_P(Every, RankedFirstFigures,
 
 class RankedHundred : public RankedScreens {
 protected:
-    // The first line, then all the others for every rank, which takes the place of "***".
+    // The first line once, then the other lines for every rank, with the rank in place of "***".
     Text capture(int count)
     {
         Text text = hostScreen({GetParam().lines[0]});
@@ -266,7 +267,7 @@ INSTANTIATE_TEST_SUITE_P(
                 {u"ChartFX1", u"cmdBack", u"cmdExit", u"cmdFormula", u"cmdNext", u"cmdNote", u"cmdPrint"}}),
     nameOfList);
 
-// What the lists do with entries that are not whole, seen in the month-to-month window ----------------------
+// Lists with incomplete entries, tested in the month-to-month window ----------------------
 
 TEST(RankedEntries, CutOffAreListedWithWhatIsThere)
 {
@@ -298,7 +299,7 @@ TEST(RankedEntries, OfAMissingRankAreZeros)
     EXPECT_EQ(session.rows(), (Rows{{u"1", u"30", u"10001", atLeft(u"CUSTOMER 1", 30), u"GROUP 1   "},
                                     {u"2", u"0", u"0", u"", u""}}));
     EXPECT_TRUE(session.rows(lossesGrid).empty());
-    // It is looked for by the number 0 and an empty group: the first short line.
+    // The key of rank 2 is the number 0 and an empty group. The first short line matches it.
     session.click(2);
     EXPECT_EQ(session.file("plotvue1.txt"), "0,\"\"\r\n");
     EXPECT_EQ(session.subject(), u"Customer: H PRO - IT ANALYSIS\r");
