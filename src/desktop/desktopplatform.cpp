@@ -123,7 +123,7 @@ int DesktopPlatform::choosePrinter(NativeWindow& window)
     return printing_.choose(static_cast<DesktopWindow&>(window).widget());
 }
 
-void DesktopPlatform::printWindow(NativeWindow& window)
+void DesktopPlatform::print(NativeWindow& window)
 {
     printing_.print(static_cast<DesktopWindow&>(window).widget());
 }
@@ -133,7 +133,7 @@ void DesktopPlatform::copyText(TextSpan text)
     putOnClipboard(text, clipboardText());
 }
 
-void DesktopPlatform::showMessage(TextSpan title, TextSpan text)
+void DesktopPlatform::message(TextSpan title, TextSpan text)
 {
     presenter_.settle();
     showBox(QMessageBox::NoIcon, title, text, QMessageBox::tr("OK"));

@@ -16,12 +16,12 @@ public:
     ~DesktopPlatform() override;
 
     std::unique_ptr<NativeWindow> build(std::shared_ptr<Controls> controls) override;
+    void message(TextSpan title, TextSpan text) override;
     int choosePrinter(NativeWindow& window) override;
+    void print(NativeWindow& window) override;
 
 protected:
     Text readClipboard() override;
-    void showMessage(TextSpan title, TextSpan text) override;
-    void printWindow(NativeWindow& window) override;
     void copyText(TextSpan text) override;
     void reportError(TextSpan sentence) override;
     void waitForMoreLines(int lines) override;

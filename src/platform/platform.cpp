@@ -11,24 +11,10 @@ const Text& Platform::clipboardText()
     return *clipboard_;
 }
 
-void Platform::message(TextSpan title, TextSpan text)
-{
-    tell({.kind = Event::Kind::Message, .title = title, .text = text});
-    showMessage(title, text);
-}
-
-void Platform::print(NativeWindow& window, Name name)
-{
-    printWindow(window);
-    tell({.kind = Event::Kind::Print, .window = name});
-}
-
 void Platform::copy(TextSpan text)
 {
-    if (text.empty())
-        return;
-    copyText(text);
-    tell({.kind = Event::Kind::Copy, .text = text});
+    if (!text.empty())
+        copyText(text);
 }
 
 void Platform::run(const std::function<void()>& handler)
@@ -40,11 +26,9 @@ void Platform::run(const std::function<void()>& handler)
         handler();
     } catch (const EndOfProcess&) {
         over_ = true;
-        tell({.kind = Event::Kind::End});
         finish();
     } catch (const TooFewLines& read) {
         over_ = true;
-        tell({.kind = Event::Kind::Wait});
         waitForMoreLines(read.lines);
     } catch (const Failure& failure) {
         fail(failure.sentence);
@@ -59,7 +43,6 @@ void Platform::run(const std::function<void()>& handler)
 void Platform::fail(TextSpan sentence)
 {
     over_ = true;
-    tell({.kind = Event::Kind::Error, .text = sentence});
     reportError(sentence);
 }
 

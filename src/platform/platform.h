@@ -4,7 +4,6 @@
 
 #include "capture/failure.h"
 #include "platform/controls.h"
-#include "platform/events.h"
 
 #include <functional>
 #include <memory>
@@ -23,7 +22,7 @@ public:
     virtual void hide() = 0;
 };
 
-class Platform : public EventSource {
+class Platform {
 public:
     virtual ~Platform() = default;
 
@@ -34,15 +33,15 @@ public:
     // Creates a hidden window that displays these controls.
     virtual std::unique_ptr<NativeWindow> build(std::shared_ptr<Controls> controls) = 0;
 
-    // Shows a message box with an OK button and waits until it is closed.
-    void message(TextSpan title, TextSpan text);
+    // Shows a message box with an OK button and waits until it is closed. No title: that of the program.
+    virtual void message(TextSpan title, TextSpan text) = 0;
 
     // Shows the printer dialog, makes the chosen printer the default and returns the number of copies. Throws
     // Failure if the dialog is cancelled or fails.
     virtual int choosePrinter(NativeWindow& window) = 0;
 
     // Prints the window's client area as one job. Throws Failure if that fails.
-    void print(NativeWindow& window, Name name);
+    virtual void print(NativeWindow& window) = 0;
 
     // Puts the text on the clipboard for other programs; does nothing if it is empty. clipboardText() goes on
     // returning the captured screen that was there, in this PlotVue and in others. Throws Failure if the
@@ -61,8 +60,6 @@ public:
 
 protected:
     virtual Text readClipboard() = 0;
-    virtual void showMessage(TextSpan title, TextSpan text) = 0;
-    virtual void printWindow(NativeWindow& window) = 0;
     virtual void copyText(TextSpan text) = 0;
     virtual void reportError(TextSpan sentence) = 0; // shows the error and ends the process with status 1
     virtual void

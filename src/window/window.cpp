@@ -16,8 +16,7 @@ void Window::show()
         shownAgain();
     }
     native().show();
-    if (!std::exchange(visible_, true))
-        platform_.tell({.kind = Event::Kind::Show, .window = name()});
+    visible_ = true;
 }
 
 void Window::hide()
@@ -27,7 +26,6 @@ void Window::hide()
         return;
     setNotice({});
     native().hide();
-    platform_.tell({.kind = Event::Kind::Hide, .window = name()});
 }
 
 void Window::unload()
@@ -37,7 +35,6 @@ void Window::unload()
         return;
     native_.reset();
     controls_.reset();
-    platform_.tell({.kind = Event::Kind::Unload, .window = name()});
 }
 
 void Window::setNotice(TextSpan text)
@@ -68,7 +65,6 @@ void Window::load()
     ControlsOwner& owner = *this;
     controls_ = std::make_shared<Controls>(declare(), owner);
     native_ = platform_.build(controls_);
-    platform_.tell({.kind = Event::Kind::Load, .window = name()});
     Form_Load();
 }
 
@@ -94,7 +90,7 @@ void Window::printWindow()
     try {
         const int copies = toInt16(platform_.choosePrinter(native()), u"The number of copies");
         for (int copy = 1; copy <= copies; ++copy)
-            platform_.print(native(), name());
+            platform_.print(native());
     } catch (const Failure&) {
     }
 }

@@ -21,12 +21,13 @@ public:
     // Shows and hides windows now. Without this call, that happens on return to the event loop.
     void settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall); }
 
-protected:
-    void showMessage(TextSpan, TextSpan text) override
+    void message(TextSpan, TextSpan text) override
     {
         settle();
         messages.emplace_back(text);
     }
+
+protected:
     void reportError(TextSpan sentence) override { endings.emplace_back(sentence.begin(), sentence.end()); }
     void waitForMoreLines(int) override { endings.emplace_back("spin"); }
     void finish() override { endings.emplace_back("end"); }

@@ -11,19 +11,19 @@ struct Unseen : NativeWindow {
 
 } // namespace
 
-std::unique_ptr<NativeWindow> RecordingPlatform::build(std::shared_ptr<Controls>)
+std::unique_ptr<NativeWindow> PlatformInMemory::build(std::shared_ptr<Controls>)
 {
     return std::make_unique<Unseen>();
 }
 
-int RecordingPlatform::choosePrinter(NativeWindow&)
+int PlatformInMemory::choosePrinter(NativeWindow&)
 {
     if (printer.answer == Printer::Answer::Cancel)
         throw Failure{u"The printer dialog was cancelled."};
     return printer.answer == Printer::Answer::Fail ? 1 : printer.copies;
 }
 
-void RecordingPlatform::printWindow(NativeWindow&)
+void PlatformInMemory::print(NativeWindow&)
 {
     if (printer.answer == Printer::Answer::Fail)
         throw Failure{u"The printer does not answer."};

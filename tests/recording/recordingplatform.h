@@ -1,11 +1,11 @@
-// A platform in memory, for tests: it displays nothing, and the test sets its answers.
+// A platform in memory, for tests: it displays nothing, the test sets its answers, and hears its events.
 #pragma once
 
-#include "platform/platform.h"
+#include "recording/observed.h"
 
 namespace plotvue {
 
-class RecordingPlatform : public Platform {
+class PlatformInMemory : public Platform {
 public:
     Text clipboard; // empty: no text
 
@@ -20,16 +20,18 @@ public:
     } printer;
 
     std::unique_ptr<NativeWindow> build(std::shared_ptr<Controls> controls) override;
+    void message(TextSpan, TextSpan) override {} // returns at once
     int choosePrinter(NativeWindow& window) override;
+    void print(NativeWindow& window) override;
 
 protected:
     Text readClipboard() override { return clipboard; }
-    void showMessage(TextSpan, TextSpan) override {} // returns at once
     void reportError(TextSpan) override {}
     void waitForMoreLines(int) override {}
     void finish() override {}
-    void printWindow(NativeWindow& window) override;
     void copyText(TextSpan) override {} // as on the desktop, the captured screen remains the clipboard's text
 };
+
+using RecordingPlatform = Observed<PlatformInMemory>;
 
 } // namespace plotvue

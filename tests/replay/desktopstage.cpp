@@ -1,4 +1,5 @@
 #include "desktop/desktopplatform.h"
+#include "recording/observed.h"
 #include "replay/desktopwidgets.h"
 #include "replay/player.h"
 
@@ -18,6 +19,8 @@ public:
     // Shows and hides windows now instead of on return to the event loop.
     void settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall); }
 
+    void message(TextSpan, TextSpan) override { settle(); }
+
     int choosePrinter(NativeWindow&) override
     {
         if (printer.kind == PrinterAnswer::Kind::Cancel)
@@ -25,15 +28,13 @@ public:
         return printer.kind == PrinterAnswer::Kind::Fail ? 1 : printer.copies;
     }
 
-protected:
-    void showMessage(TextSpan, TextSpan) override { settle(); }
-
-    void printWindow(NativeWindow&) override
+    void print(NativeWindow&) override
     {
         if (printer.kind == PrinterAnswer::Kind::Fail)
             throw Failure{u"The printer does not answer."};
     }
 
+protected:
     void reportError(TextSpan) override {}
     void waitForMoreLines(int) override {}
     void finish() override {}
@@ -49,6 +50,7 @@ public:
     }
 
     Platform& platform() override { return platform_; }
+    EventSource& events() override { return platform_; }
     void setPrinter(PrinterAnswer answer) override { platform_.printer = answer; }
 
     void setClipboard(const Text& text) override
@@ -77,7 +79,7 @@ public:
 
 private:
     std::unique_ptr<QApplication> application_; // must exist before platform_
-    AnsweringDesktop platform_;
+    Observed<AnsweringDesktop> platform_;
 };
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "desktop/displaytext.h"
 #include "desktop/noticeline.h"
 #include "platform/gridtext.h"
+#include "recording/observed.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -27,7 +28,7 @@ namespace {
 
 WindowWidget& widgetOf(const Window& window)
 {
-    return static_cast<DesktopWindow&>(window.native()).widget();
+    return static_cast<DesktopWindow&>(ownOf(window.native())).widget();
 }
 
 template <typename Widget>

@@ -1,7 +1,7 @@
 // Events and window states as JSON, one object per line, with keys in a fixed order.
 #pragma once
 
-#include "platform/events.h"
+#include "recording/observed.h"
 #include "replay/seen.h"
 
 namespace plotvue::replay {

@@ -38,7 +38,13 @@ int wholeNumber(const std::string& word)
 
 Player::Player(Stage& stage, std::ostream& out) : stage_(stage), app_(stage.platform()), out_(out)
 {
-    stage.platform().listener = [this](const Event& event) { out_ << toJson(event) << '\n'; };
+    stage.events().listener = [this](const Event& event) { out_ << toJson(event) << '\n'; };
+}
+
+// The windows go now, and no longer because of the script.
+Player::~Player()
+{
+    stage_.events().listener = [](const Event&) {};
 }
 
 void Player::play(std::istream& script)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/application.h"
+#include "recording/observed.h"
 #include "replay/seen.h"
 
 #include <iosfwd>
@@ -20,6 +21,7 @@ class Stage {
 public:
     virtual ~Stage() = default;
     virtual Platform& platform() = 0;
+    virtual EventSource& events() = 0;               // of the platform
     virtual void setClipboard(const Text& text) = 0; // empty: no text
     virtual void setPrinter(PrinterAnswer answer) = 0;
     virtual void settle() {} // carries out pending show and hide requests
@@ -44,6 +46,7 @@ struct BadLine : std::runtime_error {
 class Player {
 public:
     Player(Stage& stage, std::ostream& out);
+    ~Player();
 
     // Plays until the script or the process ends. Throws BadLine with the line number in its text.
     void play(std::istream& script);

@@ -10,6 +10,7 @@ namespace {
 class RecordingStage : public Stage {
 public:
     Platform& platform() override { return platform_; }
+    EventSource& events() override { return platform_; }
     void setClipboard(const Text& text) override { platform_.clipboard = text; }
 
     void setPrinter(PrinterAnswer answer) override

@@ -14,7 +14,7 @@ Walk::Walk(replay::Stage& stage, const Random& random, std::ostream& script, Man
       manner_(manner),
       player_(stage, out_)
 {
-    stage.platform().listener = [this, print = stage.platform().listener](const Event& event) {
+    stage.events().listener = [this, print = stage.events().listener](const Event& event) {
         print(event);
         heard(event);
     };

@@ -1,7 +1,7 @@
 // The names of events in what tests print and compare.
 #pragma once
 
-#include "platform/events.h"
+#include "recording/observed.h"
 
 #include <array>
 

@@ -53,6 +53,7 @@ Session::Session() : app(platform)
 
 Session::~Session()
 {
+    platform.listener = [](const Event&) {}; // the windows go after the list of events
     fs::current_path(before_);
     std::error_code ignored;
     fs::remove_all(directory_, ignored);
