@@ -10,7 +10,8 @@ namespace plotvue {
 
 namespace {
 
-// A figure as it was read from the screen. PlotData's would be wrong here: it clamps large figures.
+// A figure as it was read from the screen. The figures of PlotData cannot be used, because large ones are
+// clamped.
 Text cell(const std::vector<double>& figures, std::size_t point, char16_t decimalSign)
 {
     if (point >= figures.size() || !std::isfinite(figures[point]))

@@ -136,13 +136,14 @@ TEST(ChartPainting, AFigureAboveABarIsAsWideAsItsPlace)
 {
     ShownChart chart;
     QFont font = chart.font();
-    font.setPointSizeF(10); // with 8 points, as under Wine, both text sizes would be equal
+    font.setPointSizeF(10); // with 8 points, as under Wine, Small would be as small as Tiny
     chart.setFont(font);
     Chart content = threeMonths();
     content.series = {{1111111, 1111111, 1111111, 0}};
     chart.setChart(content);
     std::set<TextRole> sizes;
-    for (int width = 600; width > 150; width -= 4) { // from widths for wide fonts to widths for narrow ones
+    // From wide to narrow, so that with any font some widths need Tiny and others Small.
+    for (int width = 600; width > 150; width -= 4) {
         chart.resize(width, 400);
         const QImage screen = chart.grab().toImage();
         const Layout& layout = chart.chartLayout();

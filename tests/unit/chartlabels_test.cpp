@@ -30,7 +30,7 @@ std::string slotsLabelled(const Layout& layout)
 
 TEST(ChartLabels, AreMadeSmallerOrBrokenBeforeTheyAreThinned)
 {
-    // A label is 30 wide, or 25 in TextRole::Tiny; its first line alone is 18 or 15 wide.
+    // A label is 30 wide, or 25 in TextRole::Tiny. If it is broken into two lines, it is 18 or 15 wide.
     const Chart chart = bars(std::vector<Text>(12, u"OCT98"));
     struct Expected {
         int slotWidth;
@@ -109,7 +109,7 @@ TEST(ChartLabels, BetweenJanuariesBecomeInitialsBeforeTheyAreThinned)
         for (int month = january + 1; month < january + 12; ++month)
             initials += std::to_string(month) + " F weak\n";
     }
-    // An initial is 6 wide, or 5 in TextRole::Tiny; the minimum gap is 1.2.
+    // An initial is 6 wide, or 5 in TextRole::Tiny. The minimum gap between two is 1.2.
     for (const auto& [slotWidth, role] : {std::pair(8, TextRole::Small), std::pair(7, TextRole::Tiny)}) {
         const Layout layout = laidOut(bars(twoYears()), {}, {42.0 + 26 * slotWidth, 251});
         EXPECT_EQ(describeLabels(layout), initials) << slotWidth;

@@ -57,8 +57,8 @@ TEST_P(RankedList, LinesAfterTheLastOneThatIsReadAreIgnored)
 {
     const Name list = GetParam().list;
     const std::ptrdiff_t limit = list == pastdue ? 1000 : 500;
-    const std::ptrdiff_t countedLine =
-        list == m2m || list == profRank ? 1 : 0; // an entry's line that adds its row
+    // On the profit screens, the second line of an entry adds its row, on the others the first.
+    const std::ptrdiff_t countedLine = list == m2m || list == profRank ? 1 : 0;
     const Text before = GetParam().before(3), third = GetParam().capture.substr(before.size());
     Text filled = before;
     for (auto line = std::ranges::count(before, u'\r') + countedLine + 1; line < limit; ++line)
