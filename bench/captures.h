@@ -7,7 +7,7 @@
 
 namespace plotvue {
 
-// A file of samples/.
+// The text of a file of samples/.
 Text sampleCapture(const std::string& name);
 
 // A month-to-month analysis of 100 entries on 504 lines.

@@ -82,7 +82,7 @@ TEST(ChartLabels, WithAYearEachMayHaveStepsOfMoreThanAYear)
     EXPECT_EQ(slotsLabelled(laidOut(chart, {}, {42 + 25 * 2, 251})), "0 24");
 }
 
-// The labels from November to the second December after it.
+// The labels of a November, a December and the two whole years after them.
 std::vector<Text> twoYears()
 {
     std::vector<Text> labels{u"NOV", u"DEC"};

@@ -51,7 +51,8 @@ TEST(ChartLayout, SnapsToDevicePixelsOnTheScreenOnly)
 
 TEST(ChartLayout, AStepIsAtLeastThreeAndAHalfLinesHigh)
 {
-    // Between the margins are 16 lines. The labels take two; the other 14 are just enough for four steps.
+    // The heading and the margins leave 16 lines. The labels take two; the other 14 are just enough for four
+    // steps.
     EXPECT_EQ(laidOut(fourBars(), {}, {442, 225}).ticks.size(), 5U);
     EXPECT_EQ(laidOut(fourBars(), {}, {442, 224}).ticks.size(), 3U);
 }
@@ -60,7 +61,8 @@ TEST(ChartLayout, TheAxisTakesAtMostHalfOfTheWidth)
 {
     Chart chart = fourBars();
     chart.series = {{10, 20, 30, 123456789}};
-    // The axis takes 38 of 76. Half a line separates it from the bars.
+    // Between the margins, the chart is 76 wide. The axis takes 38, and half a line separates it from the
+    // bars.
     EXPECT_EQ(describe(laidOut(chart, {}, {100, 251}).plot), "56,24 32x200");
 }
 

@@ -89,7 +89,8 @@ TEST_F(FrmCustP2, HoldsThePlacesOfItsWordsInSixteenBits)
 
 TEST_F(FrmCustP2, LooksForItsWordsInTheirOrder)
 {
-    // The first absent word ends the search. So the later word, whose position does not fit, is no error.
+    // The first absent word ends the search. So it is no error that the position of the later word does not
+    // fit into 16 bits.
     expectRefusal(withWordAt(blotted(blotted(screen.text(), u"YTD"), u"QTY"), u"QTY", 32768));
     expectRefusal(withWordAt(blotted(blotted(screen.text(), u"QTY"), u"QXM12P2"), u"QXM12P2", 32768));
 }

@@ -68,7 +68,7 @@ TEST_F(FrmCustP, HoldsThePlacesOfItsWordsInSixteenBits)
         EXPECT_EQ(own.refresh(withWordAt(wordless, word, 32767)), Events{});
         EXPECT_THAT(own.refresh(withWordAt(wordless, word, 32768)), ElementsAre(StartsWith("error ")));
     }
-    // A capture whose category is so far down that its position does not fit is an error, not refused.
+    // A position of the category that does not fit into 16 bits is an error; the capture is not just refused.
     const Text withoutCategory = blotted(screen.text(), u"PCAT");
     expectRefusal(withWordAt(withoutCategory, u"PCAT", 32767));
     EXPECT_THAT(refresh(withWordAt(withoutCategory, u"PCAT", 32768)), ElementsAre(StartsWith("error ")));
@@ -76,7 +76,8 @@ TEST_F(FrmCustP, HoldsThePlacesOfItsWordsInSixteenBits)
 
 TEST_F(FrmCustP, LooksForItsWordsInTheirOrder)
 {
-    // The first absent word ends the search. So the later word, whose position does not fit, is no error.
+    // The first absent word ends the search. So it is no error that the position of the later word does not
+    // fit into 16 bits.
     expectRefusal(withWordAt(blotted(blotted(screen.text(), u"YTD"), u"QTY"), u"QTY", 32768));
     expectRefusal(withWordAt(blotted(blotted(screen.text(), u"QTY"), u"PCAT"), u"PCAT", 32768));
     expectRefusal(withWordAt(blotted(withCategoryAt(501), u"QXM12P"), u"QXM12P", 32768));
