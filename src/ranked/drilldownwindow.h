@@ -49,6 +49,7 @@ private:
 
     // The record of the chosen row. Throws Failure when the small files cannot be read.
     EntryLines chosenRecord() const;
+    // Draws the record of the chosen row with the chosen data type. Throws as chosenRecord().
     void drawChart();
     void choose(const EntryLines& record); // names it in the chosen-row file and draws it
     void endOfList();
