@@ -76,10 +76,12 @@ void lookAt(SeenText& text, const Window& window, Name name)
     case SeenText::Of::Label:
         text.text = seen(text.text, displayText(text.text), widgetOf<QLabel>(window, name).text());
         break;
-    case SeenText::Of::TextBox:
-        text.text =
-            seen(text.text, displayTextOnOneLine(text.text), widgetOf<QLineEdit>(window, name).text());
+    case SeenText::Of::TextBox: {
+        const auto& box = widgetOf<QLineEdit>(window, name);
+        // The toolkit limits how many characters a text box displays.
+        text.text = seen(text.text, displayTextOnOneLine(text.text).left(box.maxLength()), box.text());
         break;
+    }
     }
 }
 
