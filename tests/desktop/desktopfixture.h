@@ -33,6 +33,16 @@ protected:
     void finish() override { endings.emplace_back("end"); }
 };
 
+// Counts how often the widget is painted on which it is installed as an event filter.
+struct Paintings : QObject {
+    int count = 0;
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint;
+        return false;
+    }
+};
+
 inline Declaration everyControl()
 {
     return {

@@ -68,16 +68,8 @@ TEST_F(GridTableTest, ShowsTheRowsThatItHas)
 
 TEST_F(GridTableTest, IsPaintedAgainWhenACellChanges)
 {
-    struct Paintings : QObject {
-        int count = 0;
-        bool eventFilter(QObject*, QEvent* event) override
-        {
-            count += event->type() == QEvent::Paint;
-            return false;
-        }
-    };
     fill(2, u"ACME");
-    Paintings paintings;
+    test::Paintings paintings;
     table.viewport()->installEventFilter(&paintings);
     fill(2, u"OTHER");
     EXPECT_GT(paintings.count, 0);

@@ -92,16 +92,8 @@ TEST_F(PresenterTest, EventLoopShowsAndHidesWindowsByItself)
 
 TEST_F(PresenterTest, WindowIsPaintedOnceWhenItAppears)
 {
-    struct Paintings : QObject {
-        int count = 0;
-        bool eventFilter(QObject*, QEvent* event) override
-        {
-            count += event->type() == QEvent::Paint;
-            return false;
-        }
-    };
     const Built every = build();
-    Paintings paintings;
+    test::Paintings paintings;
     every.widget().findChild<ChartWidget*>()->installEventFilter(&paintings);
     every.window->show();
     for (int i = 0; i < 10; ++i)

@@ -55,6 +55,17 @@ class SpokenTest(DisplayTest):
         """The program's accessible object."""
         return self.display.application(self.process)
 
+    def charted(self, name):
+        """Waits until a window has the focus on a chart of that name; returns the window."""
+        def there():
+            for window in self.application().children():
+                focus = window.focused() if window.has("SHOWING") else None
+                if focus and focus.role == "chart" and name in focus.name:
+                    return window
+            return None
+
+        return soon(f"{name} is charted", there)
+
 
 @contextmanager
 def heard(kind, roles):

@@ -129,16 +129,6 @@ class Copying(SpokenTest):
         self.display.window(LIST)
         self.assertEqual((self.display.home / "pvuscrn.txt").read_bytes(), b'"' + sample("vendors") + b'"\r\n')
 
-    def charted(self, name):
-        """Waits until a chart of that name has the focus; returns its window."""
-        def there():
-            for window in self.application().children():
-                focus = window.focused() if window.has("SHOWING") else None
-                if focus and focus.role == "chart" and name in focus.name:
-                    return window
-            return None
-        return soon(f"{name} is charted", there)
-
     def test_a_text_box_copies_what_is_selected_and_keeps_the_captured_screen(self):
         self.open("vendors", LIST)
         self.display.key("Tab", "Tab", "Tab", "Tab")  # Tips, Print, Exit, the analysis

@@ -29,17 +29,6 @@ class Keyboard(SpokenTest):
             self.display.key("Tab")
             self.focus_is(window, role, name)
 
-    def charted(self, name):
-        """Waits until a window has the focus on a chart of that name; returns the window."""
-        def there():
-            for window in self.application().children():
-                focus = window.focused() if window.has("SHOWING") else None
-                if focus and focus.role == "chart" and name in focus.name:
-                    return window
-            return None
-
-        return soon(f"{name} is charted", there)
-
     def gone_to_the_start_window(self):
         self.display.window(START)
         self.display.gone(CHART)
