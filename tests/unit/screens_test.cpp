@@ -10,7 +10,6 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <ranges>
 #include <set>
 
 namespace plotvue::test {
@@ -63,8 +62,10 @@ TEST(Screens, RequireTheirOwnMarkers)
 TEST(Screens, HaveASupportedRowEachWithoutAGap)
 {
     std::map<int, TextSpan> rows;
-    for (const auto& [number, caption] : std::views::transform(screens, &Screen::supported))
+    for (const Screen& screen : screens) {
+        const auto& [number, caption] = screen.supported;
         EXPECT_EQ(rows.emplace(number, caption).first->second, caption);
+    }
     EXPECT_EQ(rows.begin()->first, 1);
     EXPECT_EQ(rows.rbegin()->first, static_cast<int>(rows.size()));
 }
