@@ -215,6 +215,7 @@ class Copying(SpokenTest):
         self.save_as("/sys/a.png")
         box = self.application().shown(LIST, "alert")
         self.assertRegex(box.first("label").name, r"^The picture cannot be saved as /sys/a.png \(\w+.*\)\.$")
+        soon("the box has the focus", box.focused)
         self.display.key("Return")
         self.display.window(CHART)
         self.display.key("F5")
