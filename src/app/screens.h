@@ -12,7 +12,7 @@
 
 namespace plotvue {
 
-// A row of the list in the start-up window. Kept: 19 rows for 22 screens (docs/kept.md).
+// A row of the list in the start-up window. Kept: fewer rows than screens (docs/kept.md).
 struct SupportedRow {
     int number; // 1 is at the top
     TextSpan caption;

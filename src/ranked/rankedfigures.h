@@ -11,7 +11,7 @@ struct RankedFigures {
     std::vector<TextSpan> lines;     // views of the capture, each with its carriage return; none is blank
     std::array<Text, 4> texts{};     // of the whole screen; the first goes into every record
     std::array<double, 2> numbers{}; // of the whole screen
-    std::array<int, 2> counts{};     // the number of rows of each grid
+    std::array<int, 2> counts{};     // the number of rows of each grid, which LineRule::then counts
     int currentRank = 0;             // of the entry to which the next lines belong; 0 before the first
 
     // By rank. Throws Failure outside 1 to 100.

@@ -1,6 +1,7 @@
 #include "rankedfixture.h"
 
 #include <fstream>
+#include <ostream>
 
 namespace plotvue::test {
 
@@ -149,6 +150,11 @@ const std::vector<ThreeEntries>& everyRankedScreen()
         };
     }();
     return screens;
+}
+
+void PrintTo(const ThreeEntries& entries, std::ostream* stream)
+{
+    *stream << entries.list;
 }
 
 ProfitScreen::ProfitScreen(TextSpan title, TextSpan figureMark) : CaptureBuilder(4), mark_(figureMark)

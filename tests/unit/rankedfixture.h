@@ -73,6 +73,7 @@ struct ThreeEntries {
     Text before(int entry) const { return capture.substr(0, placeOf(entry)); }
 };
 const std::vector<ThreeEntries>& everyRankedScreen();
+void PrintTo(const ThreeEntries& entries, std::ostream* stream);
 
 inline constexpr auto nameOfList = [](const auto& tested) { return std::string(tested.param.list); };
 

@@ -34,6 +34,14 @@ TEST_P(RankedList, OpensFromTheCaptureOnTheClipboard)
     EXPECT_FALSE(session.fileExists("plotvue1.txt"));
 }
 
+TEST_P(RankedList, ARecordHoldsTheLinesOfAnEntry)
+{
+    const auto linesBefore = [this](int entry) {
+        return std::ranges::count(GetParam().before(entry), u'\r');
+    };
+    EXPECT_EQ(GetParam().screen.linesAnEntry, linesBefore(3) - linesBefore(2));
+}
+
 TEST_P(RankedList, BlankLinesAreNoLines)
 {
     RankedSession session = opened(endedBy(u"\r\n\r\n\t\r\n"));

@@ -1,5 +1,8 @@
 // Steps through a ranked list: a click on a row, Back and Down, and what happens at its ends.
+#include "app/recognition.h"
 #include "rankedfixture.h"
+
+#include <stdexcept>
 
 namespace plotvue::test {
 namespace {
@@ -129,14 +132,21 @@ std::string keyOfRow(const RankedScreen& screen, const Texts& row)
     return record + "\r\n";
 }
 
+Text sampleOf(const RankedScreen& screen)
+{
+    for (const auto& entry : std::filesystem::directory_iterator(PLOTVUE_SAMPLES)) {
+        const Text text = sample(entry.path().stem().string());
+        const Screen* recognised = recognise(text);
+        const auto* ranked = recognised ? std::get_if<Ranked>(&recognised->window) : nullptr;
+        if (ranked && ranked->list == &screen)
+            return text;
+    }
+    throw std::out_of_range("there is no sample of this screen");
+}
+
 TEST_P(RankedSteps, WalkTheWholeSample)
 {
-    const std::map<Name, std::string_view> samples{{m2m, "monthtomonth"},
-                                                   {profRank, "profitrank"},
-                                                   {pastdue, "pastdue"},
-                                                   {vendors, "vendors"},
-                                                   {ratios, "ratios"}};
-    RankedSession session(GetParam().list, sample(samples.at(GetParam().list)), 1);
+    RankedSession session(GetParam().list, sampleOf(GetParam().screen), 1);
     const Rows rows = session.rows();
     EXPECT_GT(rows.size(), 3u);
     for (std::size_t row = 1; row < rows.size(); ++row) {

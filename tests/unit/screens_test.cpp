@@ -8,8 +8,10 @@
 #include "support/session.h"
 #include "support/windows.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <numeric>
 #include <set>
 
 namespace plotvue::test {
@@ -68,6 +70,37 @@ TEST(Screens, HaveASupportedRowEachWithoutAGap)
     }
     EXPECT_EQ(rows.begin()->first, 1);
     EXPECT_EQ(rows.rbegin()->first, static_cast<int>(rows.size()));
+}
+
+// Each index once.
+void expectOrder(std::vector<int> order, std::size_t count, const Screen& screen)
+{
+    std::ranges::sort(order);
+    std::vector<int> indexes(count);
+    std::iota(indexes.begin(), indexes.end(), 0);
+    EXPECT_EQ(order, indexes) << nameOf(screen);
+}
+
+TEST(Screens, HaveEveryOptionOfAMonthlyWindowInItsOrder)
+{
+    for (const Screen& screen : screens)
+        if (const auto* monthly = std::get_if<const MonthlyScreen*>(&screen.window)) {
+            const MonthlyScreen& described = **monthly;
+            expectOrder(described.periodOrder, described.periods.size(), screen);
+            if (described.types.size() > 1 || !described.typeOrder.empty())
+                expectOrder(described.typeOrder, described.types.size(), screen);
+        }
+}
+
+TEST(Screens, HaveAKeyInTheColumnsOfEveryRankedGrid)
+{
+    for (const Screen& screen : screens)
+        if (const auto* ranked = std::get_if<Ranked>(&screen.window)) {
+            EXPECT_FALSE(ranked->list->key.parts.empty()) << nameOf(screen);
+            for (const RankedGrid& grid : ranked->list->grids)
+                for (const KeyPart& part : ranked->list->key.parts)
+                    EXPECT_LT(part.gridColumn, static_cast<int>(grid.columns.size())) << nameOf(screen);
+        }
 }
 
 TEST(Screens, HaveTheNameOfTheListInTheirDrillDown)
