@@ -44,8 +44,9 @@ inline constexpr SupportedRow customerSales{4, u"Customer Sales History"};
 inline constexpr SupportedRow salesmanCategory{6, u"Salesman/Category Analysis"};
 inline constexpr bool needsZero = true; // Kept: a screen must hold a 0 (docs/kept.md).
 
-// The order is that of recognition: of two markers in a text the earlier one wins. Every "QXM12P2" screen
-// holds "QXM12P" too. A ranked screen has no identifier and is recognised by words of its title.
+// A copied text is recognised as the first screen of this list whose marker it contains. The order matters:
+// every "QXM12P2" screen contains "QXM12P" too. A ranked screen has no identifier, so words of its title are
+// its marker.
 // Kept: the first marker wins, markers anywhere (docs/kept.md).
 inline constexpr std::array screens{
     Screen{u"QXM31H", {7, u"Product History"}, &frmProduct},

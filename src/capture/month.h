@@ -9,8 +9,8 @@ namespace plotvue {
 // name that is not found. The name is searched in "JAN31FEB28...", so other parts of that text are found too.
 int daysOfMonth(TextSpan name);
 
-// The part of a month of `days` days that has passed on day `day`: 1 - (days - day) / days; 1 where that is
-// 0. Throws Failure when `days` is 0.
+// The part of a month of `days` days that has passed on day `day`: 1 - (days - day) / days, or 1 if the
+// result is 0. Throws Failure when `days` is 0.
 double elapsedPart(int days, double day);
 
 } // namespace plotvue

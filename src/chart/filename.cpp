@@ -9,7 +9,8 @@ namespace plotvue {
 
 namespace {
 
-// In characters of up to three bytes each: well below the usual limit of 255 bytes.
+// The max length of a file name, in characters. Each takes up to three bytes, so the name remains well below
+// the usual limit of 255 bytes.
 constexpr std::size_t longestName = 80;
 constexpr TextSpan programName = u"PlotVue";
 

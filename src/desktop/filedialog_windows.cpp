@@ -36,7 +36,7 @@ private:
 
 void keepNoSettings()
 {
-    // The system's own dialogs ask for printers and files.
+    // Nothing to do: on Windows, the system's own dialogs ask for files and printers, not the toolkit's.
 }
 
 FileDialog makeFileDialog(QWidget& window)

@@ -17,7 +17,7 @@ namespace plotvue {
 
 namespace {
 
-// All that the desktop uses for copying; Ctrl+C comes first, because menus show the first.
+// All shortcuts that the desktop uses for copying. Ctrl+C is the first one, because menus show the first.
 QList<QKeySequence> copyKeys()
 {
     const QKeySequence usual(Qt::CTRL | Qt::Key_C);

@@ -29,7 +29,7 @@ void noteMissingDisplay(QtMsgType type, const QMessageLogContext& context, const
         runtimeFolder.reset();
         endProcess(EXIT_FAILURE);
     }
-    // The X11 and Wayland plug-ins report a missing display before the fatal message.
+    // If the display is missing, the X11 and Wayland plug-ins say so in a message before the fatal one.
     const bool missing = message.contains(QLatin1String("could not connect to display")) ||
                          message.contains(QLatin1String("Failed to create wl_display"));
     displayIsMissing = displayIsMissing || missing;
@@ -44,8 +44,8 @@ public:
 protected:
     bool event(QEvent* event) override
     {
-        // The desktop session ends. The toolkit would close the windows, but after a chart comes the start-up
-        // window.
+        // The desktop session ends. The toolkit would close the windows, but when a chart's window closes,
+        // the start-up window opens, so PlotVue would go on.
         if (event->type() == QEvent::Quit)
             endProcess(EXIT_SUCCESS);
         return QApplication::event(event);

@@ -102,7 +102,8 @@ QBoxLayout* Builder::arrangeUnder(NoticeLine& notice, const Panel& panel)
     under->addWidget(&notice);
     QBoxLayout* inner = arrange(content);
     under->addLayout(inner, 1);
-    notice.setFixedHeight(notice.maxHeight(inner->totalMinimumSize().width())); // for minHeight
+    // minHeight() must know the height that the longest notice needs.
+    notice.setFixedHeight(notice.maxHeight(inner->totalMinimumSize().width()));
     if (!beside)
         return under;
     inner->setSpacing(columnGap);
@@ -259,8 +260,8 @@ QWidget* firstInUse(const WindowWidget& window)
     return window.findChild<QPushButton*>();
 }
 
-// Enough for every line of the wrapped texts, and for a notice, so that the window keeps its size when one
-// appears.
+// The height that holds every line of the wrapped texts, and a notice, so that the window keeps its size when
+// a notice appears.
 int minHeight(QLayout& layout, NoticeLine& notice)
 {
     const bool isShown = !notice.isHidden();

@@ -86,7 +86,9 @@ struct DataType {
     int decimals = 0;
     Value value;
     bool projected = false; // whether the second series is the rest of the newest month
-    Value second{};         // another second series; while it is empty, the series is hidden
+    // If set, the second series shows this of every month. If only other data types of the screen set it, the
+    // second series is hidden.
+    Value second{};
 };
 
 // A part of a title: a text, or characters of a line.
@@ -136,8 +138,8 @@ struct MonthlyScreen {
     std::vector<Period> periods;                                // by option index
     TextSpan periodFrame = u"Months", typeFrame = u"Data Type"; // captions; empty: none
     // Kept: options out of order (docs/kept.md).
-    std::vector<int> periodOrder = {1, 0, 2};     // indices from the top
-    std::vector<int> typeOrder = {0, 1, 2, 3, 4}; // indices from the top; empty: no choice
+    std::vector<int> periodOrder = {1, 0, 2};     // the option indices from top to bottom
+    std::vector<int> typeOrder = {0, 1, 2, 3, 4}; // the same for the data types; empty: no choice
     std::map<int, TextSpan> legends{};            // by series, where nothing is projected
 };
 

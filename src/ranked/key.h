@@ -28,7 +28,7 @@ struct Key {
     TextSpan recordStart{}; // the entry's first line in the list file must begin with it
 };
 
-using KeyValues = Record; // one for each part
+using KeyValues = Record; // one value for each part of a key
 
 // Throws Failure when the part is a number and the text one that is too large for a double.
 RecordField keyValue(const KeyPart& part, TextSpan text);

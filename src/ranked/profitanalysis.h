@@ -10,7 +10,7 @@ namespace plotvue::profit {
 enum EntryNumber { figure, customer, volumePart, marginPart }; // figure: the gain, or the current profit
 enum EntryText { customerName, group };
 enum ScreenText { monthLabels, header, salesLine };
-enum ScreenNumber { current, previous }; // the territory's profits
+enum ScreenNumber { current, previous }; // the two profits of the whole territory
 enum Count { gains, losses };
 
 // Counts the current entry as a loss when its figure is 0 or less, otherwise as a gain.

@@ -44,7 +44,8 @@ struct RankedGrid {
     std::optional<PictureBox> picture{};   // beside the grid
 };
 
-// A record of the list file: text 0 of the screen, then the lines of an entry.
+// A record of the list file: first RankedFigures::texts[0], a text of the whole screen, then the lines of one
+// entry.
 using EntryLines = std::vector<Text>;
 
 // A button that shows a message box about a record of the list file. A list window passes an empty record.

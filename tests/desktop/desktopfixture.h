@@ -16,7 +16,7 @@ namespace plotvue::test {
 class PlayedDesktop : public DesktopPlatform {
 public:
     std::vector<Text> messages;
-    std::vector<std::string> endings; // "end", "spin", or the sentence of an error
+    std::vector<std::string> endings; // "end", "spin" (a wait for more lines), or the sentence of an error
 
     // Shows and hides windows now. Without this call, that happens on return to the event loop.
     void settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall); }

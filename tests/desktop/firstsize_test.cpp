@@ -56,7 +56,7 @@ protected:
     static void expectEveryPointLabelled(const ChartWidget& chart, const Layout& layout)
     {
         std::set<int> labelled;
-        std::map<double, double> ends; // where the labels so far end at the right, by the top of their line
+        std::map<double, double> ends; // for the top of each line, the right end of its last label
         for (const SlotLabel& label : layout.labels) {
             const Rect& box = label.name.box;
             EXPECT_FALSE(label.name.text.empty());

@@ -78,7 +78,7 @@ TEST_F(PaperTest, IsTheSameForEveryTheme)
     const QPalette light = QApplication::palette();
     const QImage ofLight = printedOn(window, window.size());
     QApplication::setPalette(QPalette(QColor(40, 40, 40), QColor(30, 30, 30)));
-    QCoreApplication::processEvents(); // tells the widgets
+    QCoreApplication::processEvents(); // lets the widgets receive the new palette
     const QImage ofDark = printedOn(window, window.size());
     QApplication::setPalette(light);
     EXPECT_EQ(ofDark.pixelColor(2, 2), QColor(Qt::white));

@@ -97,7 +97,8 @@ void expectFits(QWidget& window, QSize size)
 
 class SizesTest : public test::SamplesTest, public testing::WithParamInterface<std::string> {
 protected:
-    // Checks the visible windows and returns their number.
+    // Expects that every control of the visible windows fits into its window, at the minimum size, at that of
+    // the screen and in a roomy window, with and without a notice. Returns the number of windows.
     std::size_t expectAllFit(QSize screen = smallScreen)
     {
         const std::vector<WindowWidget*> shown = windows();

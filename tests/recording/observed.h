@@ -49,7 +49,7 @@ inline NativeWindow& ownOf(NativeWindow& window)
     return static_cast<ObservedWindow&>(window).own();
 }
 
-// The platform `Desktop`, observed.
+// The platform `Desktop`, which also tells the listener what happens on it.
 template <typename Desktop>
 class Observed : public Desktop, public EventSource {
 public:

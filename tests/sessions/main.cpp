@@ -1,5 +1,5 @@
-// Random sessions and the soak test. They use the working directory, which should be empty. The scripts run
-// and soak start this program.
+// Random sessions and the soak test. They use the working directory, which should be empty. The scripts
+// `run` and `soak` start this program.
 #include "sessions/process.h"
 #include "sessions/walk.h"
 

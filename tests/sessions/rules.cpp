@@ -111,7 +111,8 @@ std::string Walk::dumped(const std::string& window)
     return out_.str().substr(static_cast<std::size_t>(before));
 }
 
-// Takes over `changed` of the chart. In memory, nothing else uses it.
+// Notes from now on what the chart of the window shows, each time it changes. For this it replaces the
+// callback of the chart, which nothing else uses on the platform in memory.
 void Walk::watch(const std::string& window)
 {
     if (manner_.careful)

@@ -54,7 +54,7 @@ public:
     bool visible(Name window);
     Text caption(Name window);
     Text notice(Name window);        // "" when there is none
-    Texts controlNames(Name window); // ascending; an option group once; without pictures
+    Texts controlNames(Name window); // sorted; of options, the name of their group
     bool hasControl(Name window, Name control);
     Texts frames(Name window); // of its options, in their order, each as "Frame2: Months"
     Chart chart(Name window, Name control = "ChartFX1");

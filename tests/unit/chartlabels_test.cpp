@@ -202,7 +202,8 @@ TEST(ChartLabels, IfSlantedEndBeforeTheLeftEdge)
 {
     const ChartDesign names{ChartDesign::Bars::Stacked, ChartDesign::Labels::Names};
     const Layout layout = laidOut(bars(std::vector<Text>(23, u"ABCDEFGHIJKL")), names, {42 + 23 * 20, 251});
-    // The first label ends at x = 43, so it may be 40 / sin 45 degrees long: nine characters.
+    // The first label ends at x = 43 and slants by 45 degrees. With a margin of 3 pixels at the left edge, it
+    // may be 40 / cos 45 degrees long: nine characters.
     EXPECT_EQ(describeLabels(layout).substr(0, 12), "0 ABCDEFGH~\n");
     EXPECT_EQ(narrow(layout.labels[22].name.text), "ABCDEFGHIJKL");
 }

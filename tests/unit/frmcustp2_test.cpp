@@ -18,8 +18,8 @@ TEST_F(FrmCustP2, NeverTakesTheCustomerPastColumn34)
     const std::pair<TextSpan, TextSpan> customers[] = {
         {u"SHORT CO", u"SHORT CO"},
         {u"ABCDEFGHIJKLMNOPQRSTUVWX", u"ABCDEFGHIJKLMNOPQRSTUVWX"},    // ends in column 33
-        {u"ABCDEFGHIJKLMNOPQRSTUVWXY", u"ABCDEFGHIJKLMNOPQRSTUVWXY"},  // 34
-        {u"ABCDEFGHIJKLMNOPQRSTUVWXYZ", u"ABCDEFGHIJKLMNOPQRSTUVWXY"}, // 35
+        {u"ABCDEFGHIJKLMNOPQRSTUVWXY", u"ABCDEFGHIJKLMNOPQRSTUVWXY"},  // ends in column 34
+        {u"ABCDEFGHIJKLMNOPQRSTUVWXYZ", u"ABCDEFGHIJKLMNOPQRSTUVWXY"}, // ends in column 35
         {u" A:B  ", u" A:B  "},
         {u"", u""},
     };

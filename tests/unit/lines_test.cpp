@@ -256,7 +256,8 @@ TEST(DashLine, TheSearchCrossesLines)
 {
     // The rest of the text after line 19 is LF "AB" CR LF and the dashes, which have position 6 in it.
     EXPECT_EQ(dashLineOf(numbered().put(20, 1, u"AB ").put(21, 1, u"-----")), 20);
-    // After LF "L20" CR LF and 22 blanks, the dashes have position 29 in the rest; with one more blank, 30.
+    // The rest of the text after line 19 is LF "L20" CR LF, 22 blanks and the dashes, which have position 29
+    // in it, the last one that counts. With one more blank, they have position 30.
     EXPECT_EQ(dashLineOf(numbered().put(21, 23, u"-----")), 20);
     EXPECT_EQ(dashLineOf(numbered().put(21, 24, u"-----")), 0);
 }

@@ -1,4 +1,4 @@
-// What every monthly window does, for each of the expected screens.
+// What the windows of all monthly screens do: each test runs for every monthly screen.
 #include "capture/utf8.h"
 #include "unit/monthlyscreens.h"
 

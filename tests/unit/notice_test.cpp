@@ -230,7 +230,8 @@ TEST_F(Notice, TheSameRowOfAnotherCaptureIsAnotherRow)
     RankedSession list("frmVendInv", sample("vendors"), 1);
     list.open(CaptureBuilder(sample("vendors")).put(1, 79, u"*").text());
     list.click(1);
-    EXPECT_EQ(list.notice("frmVendInvA"), u""); // no record holds the screen's first line
+    // Only the first line of the screen has changed. No record holds it, so the row is still the same.
+    EXPECT_EQ(list.notice("frmVendInvA"), u"");
     CaptureBuilder other(sample("vendors"));
     for (std::size_t line = 1; line < 20; ++line)
         if (other.line(line).starts_with(u"RANK:"))

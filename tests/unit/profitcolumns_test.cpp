@@ -150,7 +150,8 @@ TEST_P(ProfitMonths, OfVolumeSalesAndProfit)
 
 TEST_P(ProfitMonths, OfThePercentageReadTheProfitOneCharacterWider)
 {
-    // The character after each profit is the 3 of the next one; after the last it is the 7.
+    // The wider profit ends with one more digit: the first digit of the next profit, which is 3, or the 7
+    // after the last profit.
     EXPECT_EQ(chart(3).series, std::vector<Numbers>{expected([](int k) {
                   return (month(34567800, k) * 10 + (k == 13 ? 7 : 3)) / month(23456700, k) * 100;
               })});

@@ -121,7 +121,7 @@ TEST(RatioExplanations, FollowTheRatioThatIsShown)
 
 TEST(RatioExplanations, WithoutTextsTheFormulaKeepsItsCaptions)
 {
-    // A line must have three characters. These have, with their carriage return.
+    // Lines of three characters, with the carriage return, are the shortest that can be read.
     RankedSession session = opened(explained(u"4:", u"5:", u"6:"));
     EXPECT_EQ(pressed(session, "cmdFormula"),
               Events{"message Formula: Formula in QXM: \r\rCurrent month data: "});

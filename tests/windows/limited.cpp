@@ -23,7 +23,8 @@ HANDLE withoutAdministrators()
 
 int main()
 {
-    // Its first word is the path of this program, which has no blanks. The rest is the command to run.
+    // The first word of the command line is the path of this program, which has no blanks. The rest is
+    // the command to run.
     std::wstring command = GetCommandLineW();
     command.erase(0, command.find_first_not_of(L' ', command.find(L' ')));
     STARTUPINFOW start{};
