@@ -36,9 +36,7 @@ TEST_P(RankedList, OpensFromTheCaptureOnTheClipboard)
 
 TEST_P(RankedList, ARecordHoldsTheLinesOfAnEntry)
 {
-    const auto linesBefore = [](int entry) {
-        return std::ranges::count(GetParam().before(entry), u'\r');
-    };
+    const auto linesBefore = [](int entry) { return std::ranges::count(GetParam().before(entry), u'\r'); };
     EXPECT_EQ(GetParam().screen.linesAnEntry, linesBefore(3) - linesBefore(2));
 }
 
