@@ -1,5 +1,5 @@
-// Creates a window's widgets from its declaration. Each widget displays its control from then on, and its
-// object name is the control's name.
+// Creates a window's widgets from its declaration and arranges them. The object name of a widget is the name
+// of its control.
 #pragma once
 
 #include "desktop/windowwidget.h"
