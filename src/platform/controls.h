@@ -82,9 +82,9 @@ struct Grid {
 // Learns what the user does with the controls of a window. May unload the window and so destroy the controls.
 class ControlsOwner {
 public:
-    virtual void operated(Name control,
-                          int index) = 0; // index of the option, row of the grid, or 0 for a button
-    virtual void closed() = 0;            // by the title bar
+    // `index` is that of the chosen option, the row of the grid, or 0 for a button.
+    virtual void operated(Name control, int index) = 0;
+    virtual void closed() = 0; // by the title bar
 
 protected:
     ~ControlsOwner() = default;

@@ -62,9 +62,10 @@ protected:
     virtual Text readClipboard() = 0;
     virtual void copyText(TextSpan text) = 0;
     virtual void reportError(TextSpan sentence) = 0; // shows the error and ends the process with status 1
-    virtual void
-    waitForMoreLines(int lines) = 0; // waits for ever; `lines`: non-empty lines of the copied text
-    virtual void finish() = 0;       // ends the process with status 0
+    virtual void finish() = 0;                       // ends the process with status 0
+
+    // Waits for ever. `lines` is the number of lines in the copied text, without empty ones.
+    virtual void waitForMoreLines(int lines) = 0;
 
 private:
     void fail(TextSpan sentence);
