@@ -83,6 +83,18 @@ TEST_F(Clipboard, APictureIsPutThereAsPngAndAsDib)
     EXPECT_EQ(dib.mid(40, 6), QByteArray("\3\2\1\6\5\4"));
 }
 
+TEST_F(Clipboard, ThatIsBusyForAMomentIsReadThen)
+{
+    copy(u"text");
+    ASSERT_TRUE(OpenClipboard(nullptr));
+    Text text;
+    std::thread reader([&text] { text = readClipboard(); });
+    Sleep(200); // meanwhile it is tried in vain
+    CloseClipboard();
+    reader.join();
+    EXPECT_EQ(text, u"text");
+}
+
 TEST_F(Clipboard, ThatStaysBusyIsTold)
 {
     ASSERT_TRUE(OpenClipboard(nullptr));
